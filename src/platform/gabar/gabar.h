@@ -1,0 +1,52 @@
+// Drawing files in and out: the library that reads DXF, DAT, PLT and EPS into flat points, and writes DXF.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace tessarel {
+
+// One point as the file library exchanges it. `CodeSequence` is the same for all points of a polyline and
+// differs between neighbouring polylines.
+struct PointSimple {
+    float X = 0;
+    float Y = 0;
+    float Z = 0;
+    std::array<char, 2> CodeSequence = {'0', '0'};
+};
+
+// What a read did besides the points: for the import report. Kinds are the file's own entity names.
+struct RapportLecture {
+    std::map<std::string, int> lus;      // entities that gave paths, by kind
+    std::map<std::string, int> ignores;  // entities that are no paths, by kind
+    std::map<std::string, int> couches;  // entities read, by layer (DXF)
+    int joints = 0;                      // pieces joined to the one before, end to end
+    int retournes = 0;                   // of these, turned round
+    std::vector<std::string> notes;      // what was put right, one sentence each
+};
+
+struct Etendue {
+    float XMin = 0;
+    float XMax = 0;
+    float YMin = 0;
+    float YMax = 0;
+};
+
+// Version of the library times 100: 30 is 0.30, the lowest that the program likes.
+std::int32_t VersionGabar();
+
+// Reads a drawing. `extension` is "dxf", "dat", "plt" or "eps", in any case. `points` receives the points of all
+// polylines in file order, a change of `CodeSequence` marking a new one: the first code of the array is above the
+// last whenever there are two polylines or more. Coordinates are mm. Throws FauteFichier or FauteLecture with a
+// sentence that names the file and, for a text format, the line; `points` then holds one point at 0.
+void LireFichier(std::vector<PointSimple>& points, const std::string& chemin, Etendue& etendue,
+                 const std::string& extension, RapportLecture* rapport = nullptr);
+
+// Writes the polylines (a change of code starts a new one) to a file, in one step; "dxf" and "dat" are known.
+void EcrireFichier(const std::string& chemin, const std::string& extension,
+                   const std::vector<PointSimple>& points);
+
+} // namespace tessarel

@@ -1,0 +1,25 @@
+#include "horloge.h"
+
+#include <utility>
+
+namespace tessarel {
+
+namespace {
+
+Instant HorlogeSysteme() { return std::chrono::steady_clock::now().time_since_epoch(); }
+
+SourceTemps& SourceCourante() {
+    static SourceTemps source = HorlogeSysteme;
+    return source;
+}
+
+} // namespace
+
+Instant Maintenant() { return SourceCourante()(); }
+
+SourceTemps InstallerHorloge(SourceTemps source) {
+    if (!source) source = HorlogeSysteme;
+    return std::exchange(SourceCourante(), std::move(source));
+}
+
+} // namespace tessarel

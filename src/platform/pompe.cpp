@@ -1,0 +1,22 @@
+#include "pompe.h"
+
+#include <utility>
+
+namespace tessarel {
+
+namespace {
+
+Pompe& PompeCourante() {
+    static Pompe pompe;
+    return pompe;
+}
+
+} // namespace
+
+void LaisserPasserEvenements() {
+    if (PompeCourante()) PompeCourante()();
+}
+
+Pompe InstallerPompe(Pompe pompe) { return std::exchange(PompeCourante(), std::move(pompe)); }
+
+} // namespace tessarel

@@ -1,0 +1,27 @@
+#include "outils/boites.h"
+
+#include <utility>
+
+namespace tessarel::essais {
+
+BoitesEnregistrees::BoitesEnregistrees() {
+    m_ancien = InstallerAfficheurBoite([this](const Boite& boite) {
+        boites.push_back(boite);
+        if (!reponses.empty()) {
+            const ReponseBoite reponse = reponses.front();
+            reponses.pop_front();
+            return reponse;
+        }
+        switch (boite.boutons) {
+        case BoutonsBoite::Ok: return ReponseBoite::Ok;
+        case BoutonsBoite::OuiNon: return ReponseBoite::Non;
+        case BoutonsBoite::OkAnnuler:
+        case BoutonsBoite::OuiNonAnnuler: break;
+        }
+        return ReponseBoite::Annuler;
+    });
+}
+
+BoitesEnregistrees::~BoitesEnregistrees() { InstallerAfficheurBoite(std::move(m_ancien)); }
+
+} // namespace tessarel::essais
