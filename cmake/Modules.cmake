@@ -2,12 +2,12 @@
 # nothing but a link to its own folder, so that an #include that points upward finds no file.
 
 # tessarel_module(NAME DOSSIER folder-below-src [LIENS targets...] [PRIVES targets...])
-#   NAME     the target; its sources are the .cpp files that stand directly in the folder
+#   NAME     the target; its sources are the .cpp and .qrc files that stand directly in the folder
 #   LIENS    what its headers and sources use; PRIVES what only its sources use
 function(tessarel_module nom)
   cmake_parse_arguments(M "" "DOSSIER" "LIENS;PRIVES" ${ARGN})
   set(dossier "${CMAKE_SOURCE_DIR}/src/${M_DOSSIER}")
-  file(GLOB sources CONFIGURE_DEPENDS "${dossier}/*.cpp")
+  file(GLOB sources CONFIGURE_DEPENDS "${dossier}/*.cpp" "${dossier}/*.qrc")
   set(vue "${CMAKE_BINARY_DIR}/vues/${nom}")
   get_filename_component(parent "${vue}/${M_DOSSIER}" DIRECTORY)
   file(MAKE_DIRECTORY "${parent}")
