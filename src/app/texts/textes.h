@@ -25,4 +25,22 @@ const std::string& TitresMessages(int rangee);
 const std::string& TextesDoubles(int rangee, int colonne); // colonne 1: text, 2: title
 const std::string& TextesEtats(int rangee);
 
+// Rows of TextesEtats: what a run is doing.
+enum RangeeEtat : int {
+    EtatPret = 1,
+    EtatOrigine = 2,
+    EtatChauffe = 3,
+    EtatDecoupe = 4,
+    EtatArrete = 5,
+    EtatRetour = 6,
+    EtatTermine = 7,
+    EtatAnnule = 8,
+    EtatPointArret = 9,
+    EtatMouvement = 10,
+    EtatNettoyage = 11,
+    EtatRangement = 12,
+    EtatExport = 13,
+    EtatSimulation = 14,
+};
+
 } // namespace tessarel

@@ -1,0 +1,242 @@
+// The texts that have a name and no row number, in both languages side by side.
+#include "app/texts/textes_programme.h"
+
+#include "app/texts/textes.h"
+
+#include <array>
+
+namespace tessarel {
+namespace {
+
+struct LigneTexte {
+    TexteProgramme cle;
+    const char* francais;
+    const char* english;
+};
+
+constexpr std::size_t NombreTextes = static_cast<std::size_t>(TexteProgramme::Fin);
+
+#define COURRIEL TESSAREL_COURRIEL_SUPPORT
+constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
+    // Titles that many boxes share
+    {TexteProgramme::TitreErreur, "Erreur", "Error"},
+    {TexteProgramme::TitreOperationImpossible, "Opération impossible", "Operation not possible"},
+
+    // Start-up
+    {TexteProgramme::InstanceUnique,
+     "Tessarel ne peut avoir qu'une seule instance, l'instance que vous venez de lancer va se fermer.",
+     "Tessarel can only run once at a time. The instance you have just started will now close."},
+    {TexteProgramme::InstanceUniqueTitre, "Tessarel est déjà en route", "Tessarel is already running"},
+    {TexteProgramme::ErreurChargementRam,
+     "Erreur de réponse de l'interface lors du chargement de la table en RAM %1\r\n"
+     "dans la procédure AffichageSplashEtTestsZelko de la feuille frmSplashScreen\r\n"
+     "Contactez l'auteur du logiciel en lui donnant les informations ci-dessus (mail de contact : " COURRIEL
+     ")",
+     "The interface answered with an error while the table was being loaded into its RAM %1\r\n"
+     "in procedure AffichageSplashEtTestsZelko of window frmSplashScreen\r\n"
+     "Please contact the author of the program and pass on the information above (contact: " COURRIEL ")"},
+    {TexteProgramme::ErreurEtape, "Erreur %1 (%2) à la ligne %3, de la procédure %4 de Feuille %5",
+     "Error %1 (%2) at line %3 of procedure %4 of window %5"},
+    {TexteProgramme::ContactAuteur,
+     "Contactez l'auteur du logiciel en lui donnant les informations ci-dessus (mail de contact : " COURRIEL
+     ")",
+     "Please contact the author of the program and pass on the information above (contact: " COURRIEL ")"},
+    {TexteProgramme::ProcedureErreur, "Procédure de l'erreur : %1", "Procedure of the error: %1"},
+    // Deliberate: no blank before the name in a title.
+    {TexteProgramme::ProcedureErreurTitre, "Procédure de l'erreur :%1", "Procedure of the error: %1"},
+    {TexteProgramme::IniSansRetourChariot,
+     "Erreur sur la structure du fichier Tessarel.ini, il semblerait que les caractères de retour chariot CR "
+     "ne sont pas présents. \r\n"
+     "Les lignes doivent se terminer par les caractères invisibles CR (retour chariot) et LF (saut de "
+     "ligne). \r\n"
+     "Cela peut être corrigé en ouvrant le fichier avec Wordpad (attention, Wordpad, pas Notepad) et en "
+     "faisant Fichier > Enregistrer.",
+     "The structure of the file Tessarel.ini is wrong: the carriage return characters (CR) seem to be "
+     "missing. \r\n"
+     "Lines must end with the invisible characters CR (carriage return) and LF (line feed). \r\n"
+     "To fix this, open the file in WordPad (make sure it is WordPad, not Notepad) and choose File > Save."},
+    {TexteProgramme::IniSansRetourChariotMatieres,
+     "Erreur sur la structure du fichier Tessarel.ini, il semblerait que les caractères de retour chariot CR "
+     "ne sont pas présents. \r\n"
+     "Les lignes doivent se terminer par les caractères invisibles CR (retour chariot) et LF (saut de "
+     "ligne). \r\n"
+     "Cela peut être corrigé en ouvrant le fichier avec Wordpad (attention, pas avec le bloc-notes) et en "
+     "faisant Fichier > Enregistrer.",
+     "The structure of the file Tessarel.ini is wrong: the carriage return characters (CR) seem to be "
+     "missing. \r\n"
+     "Lines must end with the invisible characters CR (carriage return) and LF (line feed). \r\n"
+     "To fix this, open the file in WordPad (not in Notepad) and choose File > Save."},
+    {TexteProgramme::IniSansRetourChariotTitre, "Problème de fichier .ini", "Problem with the .ini file"},
+    {TexteProgramme::DossierImpossible, "Le dossier %1 n'a pas pu être créé : %2",
+     "The folder %1 could not be created: %2"},
+    {TexteProgramme::DossierImpossibleTitre, "Création de dossier", "Creating a folder"},
+
+    // Machines and materials
+    {TexteProgramme::ChargementMachineImpossible,
+     "Problème : impossible de charger la table %1\r\nMerci de remonter le problème à " COURRIEL,
+     "Problem: table %1 could not be loaded\r\nPlease report the problem to " COURRIEL},
+    {TexteProgramme::ReparationTitre, "%1=0, valeur impossible", "%1=0, impossible value"},
+    {TexteProgramme::ReparationTexte, "%1 modifiée à %2 dans Tessarel.ini pour éviter les erreurs de calcul.",
+     "%1 changed to %2 in Tessarel.ini to prevent calculation errors."},
+    {TexteProgramme::ReparationLongueurFil,
+     "LongueurMaxiFil modifiée à la valeur EcartementY1Y2 dans Tessarel.ini pour éviter les erreurs de "
+     "calcul.",
+     "LongueurMaxiFil changed to the value of EcartementY1Y2 in Tessarel.ini to prevent calculation errors."},
+    {TexteProgramme::OrigineEnHautTitre, "Machine avec origine en haut",
+     "Machine with its origin at the top"},
+    {TexteProgramme::OrigineEnHautTexte,
+     "A partir de la version 4.1.15, Tessarel n'accepte plus les machines avec une origine en haut (comme la "
+     "Quenta2D+).\r\n"
+     "Le paramètre n'est d'ailleurs plus disponible dans la fenêtre de paramétrage.\r\n"
+     "La machine %1 est enregistrée avec l'origine en haut dans le fichier Tessarel.ini.\r\n"
+     "Ce paramètre va être modifié dans Tessarel.ini pour éviter le présent message, mais la machine ne sera "
+     "plus utilisable dans Tessarel avec l'origine en haut.\r\n"
+     "Pour utiliser une machine avec l'origine en haut, il faut utiliser le logiciel Tessarel2D %2",
+     "Since version 4.1.15, Tessarel no longer accepts machines with their origin at the top (such as the "
+     "Quenta2D+).\r\n"
+     "The setting is no longer available in the parameter window either.\r\n"
+     "Machine %1 is stored with its origin at the top in the file Tessarel.ini.\r\n"
+     "This setting will be changed in Tessarel.ini so that this message does not come back, but Tessarel "
+     "will no longer be able to use the machine with its origin at the top.\r\n"
+     "To use a machine with its origin at the top, please use the program Tessarel2D %2"},
+    {TexteProgramme::MachineParDefautChargee, "La machine par défaut va être chargée.",
+     "The default machine will be loaded."},
+    {TexteProgramme::MachineParDefautChargeeTitre, "Machine par défaut", "Default machine"},
+
+    // Projects
+    {TexteProgramme::FiltreProjet, "Projet Tessarel(*.tsr)|*.tsr|Tous les fichiers (*.*)|*.*",
+     "Tessarel project (*.tsr)|*.tsr|All files (*.*)|*.*"},
+    {TexteProgramme::CommentaireTropLong, "Commentaire trop long, il sera limité à 256 caractères.",
+     "The comment is too long; it will be cut to 256 characters."},
+    {TexteProgramme::CommentaireTropLongTitre, "Taille du commentaire", "Length of the comment"},
+    {TexteProgramme::AncienneVersion,
+     "Attention, ce fichier provient d'une ancienne version de Tessarel, il peut y avoir un erreur sur le "
+     "placement en Z.\r\n"
+     "Une fois le fichier ouvert, corrigez le placement et réenregistrez (clic sur le bouton Enregistrer) "
+     "pour supprimer ce message à la prochaine ouverture.",
+     "Warning: this file comes from an older version of Tessarel, and its placement in Z may be wrong.\r\n"
+     "Once the file is open, correct the placement and save again (click on the Save button), and this "
+     "message will not appear the next time you open it."},
+    {TexteProgramme::AncienneVersionTitre, "Ancienne version de fichier", "Old file version"},
+
+    // Drawings in and out
+    {TexteProgramme::OuvrirDessinTitre,
+     "Choisissez un fichier (.dxf, .tsr, .qnt, .cpx, .dat, .plt, .eps, .txt)",
+     "Choose a file (.dxf, .tsr, .qnt, .cpx, .dat, .plt, .eps, .txt)"},
+    {TexteProgramme::FiltreDessins,
+     "Tessarel (*.tsr)|*.tsr|Quenta (*.qnt)|*.qnt|DAO (*.dxf)|*.dxf|"
+     "Coordonnées et export SketchUp ou Scratch (*.txt)|*.txt|Profil (*.dat)|*.dat|Plotter (*.plt)|*.plt|"
+     "Encapsulated PostScript (*.eps)|*.eps|Complexes (*.cpx)|*.cpx|RPFC (*.fc)|*.fc|"
+     "Tous les fichiers connus|*.tsr;*.qnt;*.dxf;*.txt;*.dat;*.plt;*.eps;*.cpx;*.fc|"
+     "Tous les fichiers (*.*)|*.*",
+     "Tessarel (*.tsr)|*.tsr|Quenta (*.qnt)|*.qnt|CAD (*.dxf)|*.dxf|"
+     "Coordinates and SketchUp or Scratch export (*.txt)|*.txt|Airfoil (*.dat)|*.dat|Plotter (*.plt)|*.plt|"
+     "Encapsulated PostScript (*.eps)|*.eps|Complexes (*.cpx)|*.cpx|RPFC (*.fc)|*.fc|"
+     "All known files|*.tsr;*.qnt;*.dxf;*.txt;*.dat;*.plt;*.eps;*.cpx;*.fc|"
+     "All files (*.*)|*.*"},
+    {TexteProgramme::FiltreExportDxf, "Format d'échange DAO (*.dxf)|*.dxf|Tous les fichiers (*.*)|*.*",
+     "CAD exchange format (*.dxf)|*.dxf|All files (*.*)|*.*"},
+
+    // Reasons of a refused file
+    {TexteProgramme::LectureFichierVide, "le fichier est vide", "the file is empty"},
+    {TexteProgramme::LectureFichierTronque, "le fichier s'arrête avant sa fin",
+     "the file stops before its end"},
+    {TexteProgramme::LectureFichierBinaire, "ce n'est pas un fichier de texte", "this is not a text file"},
+    {TexteProgramme::LectureNombreAttendu, "un nombre était attendu au lieu de « %1 »",
+     "a number was expected instead of \"%1\""},
+    {TexteProgramme::LectureEntierAttendu, "un nombre entier était attendu au lieu de « %1 »",
+     "a whole number was expected instead of \"%1\""},
+    {TexteProgramme::LecturePointAttendu, "un point X:Y était attendu au lieu de « %1 »",
+     "a point X:Y was expected instead of \"%1\""},
+    {TexteProgramme::LectureCoordonneeHorsLimites, "la coordonnée « %1 » est hors limites",
+     "the coordinate \"%1\" is out of range"},
+    {TexteProgramme::LectureNombrePoints, "%1 points sont annoncés, %2 sont présents",
+     "%1 points are announced, %2 are present"},
+    {TexteProgramme::LectureNombreSequences, "%1 séquences sont annoncées, %2 sont présentes",
+     "%1 paths are announced, %2 are present"},
+    {TexteProgramme::LectureSansTrace, "le fichier ne contient aucun tracé", "the file holds no path"},
+    {TexteProgramme::LectureTropDePoints, "le fichier contient %1 points, %2 au plus sont possibles",
+     "the file holds %1 points; %2 is the most that is possible"},
+    {TexteProgramme::EcritureImpossible, "Le fichier %1 n'a pas pu être écrit : %2",
+     "The file %1 could not be written: %2"},
+    {TexteProgramme::SortieEgaleEntree,
+     "Le fichier %1 est à la fois lu et écrit, choisissez un autre nom pour la sortie.",
+     "The file %1 is both read and written; choose another name for the output."},
+
+    // 2D work
+    {TexteProgramme::PasDeCoefficient, "pas de coeff défini => " COURRIEL,
+     "no scale factor defined => " COURRIEL},
+    {TexteProgramme::PileTransformations, "NbTransf <0 dans cmdUndoTS2D_click => " COURRIEL,
+     "NbTransf <0 in cmdUndoTS2D_click => " COURRIEL},
+    {TexteProgramme::TrajetTropLong,
+     "Le trajet de découpe compte %1 points, %2 au plus sont possibles.\r\n"
+     "Augmentez la force du nettoyage (fenêtre \"Informations\", bouton \"i\") ou retirez des séquences.",
+     "The cutting path has %1 points; %2 is the most that is possible.\r\n"
+     "Increase the strength of the cleanup (\"Information\" window, \"i\" button) or remove some paths."},
+    {TexteProgramme::FiltreGcode, "Fichier Gcode(*.gcode)|*.gcode|Tous les fichiers (*.*)|*.*",
+     "Gcode file (*.gcode)|*.gcode|All files (*.*)|*.*"},
+    {TexteProgramme::VitesseTropBasse, "ATTENTION, vitesse < 0.05mm/s, découpe impossible",
+     "WARNING: speed < 0.05mm/s, cutting is impossible"},
+
+    // Summary of a cut
+    {TexteProgramme::ResumeVitesse, "Vitesse : %1mm/s - %2", "Speed: %1mm/s - %2"},
+    {TexteProgramme::ResumeChauffe, "Chauffe : %1% - Décalage : %2mm", "Heating: %1% - Offset: %2mm"},
+    {TexteProgramme::ResumeMatiere, "Matière : %1", "Material: %1"},
+    {TexteProgramme::ResumeSaignee, " - Saignée : %1", " - Kerf: %1"},
+    {TexteProgramme::DureeJours, "%1 j.", "%1 d."},
+    {TexteProgramme::DureeHeures, "%1 h.", "%1 h."},
+    {TexteProgramme::DureeMinutes, "%1 min.", "%1 min."},
+    {TexteProgramme::DureeSecondes, "%1 s.", "%1 s."},
+}};
+#undef COURRIEL
+
+constexpr bool DansLOrdre() {
+    for (std::size_t i = 0; i < NombreTextes; ++i) {
+        if (static_cast<std::size_t>(TEXTES[i].cle) != i) return false;
+    }
+    return true;
+}
+static_assert(DansLOrdre(),
+              "the table and the enumeration must list the texts in the same order, all of them");
+
+struct TableTextes {
+    std::array<std::string, NombreTextes> francais;
+    std::array<std::string, NombreTextes> english;
+
+    TableTextes() {
+        for (std::size_t i = 0; i < NombreTextes; ++i) {
+            francais[i] = TEXTES[i].francais;
+            english[i] = TEXTES[i].english;
+        }
+    }
+};
+
+} // namespace
+
+const std::string& Texte(TexteProgramme cle) {
+    static const TableTextes table;
+    const auto i = static_cast<std::size_t>(cle);
+    return LangueCourante() == Langue::English ? table.english.at(i) : table.francais.at(i);
+}
+
+std::string RemplirMarques(std::string_view texte, std::initializer_list<std::string_view> valeurs) {
+    std::string rempli;
+    for (std::size_t i = 0; i < texte.size(); ++i) {
+        const bool marque =
+            texte[i] == '%' && i + 1 < texte.size() && texte[i + 1] >= '1' && texte[i + 1] <= '9';
+        const std::size_t rang = marque ? static_cast<std::size_t>(texte[i + 1] - '1') : valeurs.size();
+        if (rang < valeurs.size()) {
+            rempli += valeurs.begin()[rang];
+            ++i;
+        } else {
+            rempli += texte[i];
+        }
+    }
+    return rempli;
+}
+
+std::string TexteRempli(TexteProgramme cle, std::initializer_list<std::string_view> valeurs) {
+    return RemplirMarques(Texte(cle), valeurs);
+}
+
+} // namespace tessarel

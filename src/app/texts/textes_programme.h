@@ -1,0 +1,98 @@
+// The texts that have a name and no row number: boxes of single routines, dialog titles and filters, pieces
+// of summaries, reasons of refusals. To add one: an enumerator here, in the group of its subject, and its
+// line with both languages at the same place in textes_programme.cpp (which doesn't build while the two
+// orders differ). A text that takes values has the marks %1 to %9 where they go; fill it with TexteRempli.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace tessarel {
+
+enum class TexteProgramme {
+    // Titles that many boxes share
+    TitreErreur,
+    TitreOperationImpossible,
+
+    // Start-up
+    InstanceUnique,
+    InstanceUniqueTitre,
+    ErreurChargementRam, // %1 what the link said
+    ErreurEtape,         // %1 number, %2 description, %3 line, %4 procedure, %5 window
+    ContactAuteur,
+    ProcedureErreur,      // %1 procedure
+    ProcedureErreurTitre, // %1 procedure
+    IniSansRetourChariot,
+    IniSansRetourChariotMatieres,
+    IniSansRetourChariotTitre,
+    DossierImpossible, // %1 folder, %2 reason
+    DossierImpossibleTitre,
+
+    // Machines and materials
+    ChargementMachineImpossible, // %1 machine
+    ReparationTitre,             // %1 key
+    ReparationTexte,             // %1 key or name of a material, %2 new value
+    ReparationLongueurFil,
+    OrigineEnHautTitre,
+    OrigineEnHautTexte, // %1 machine, %2 site of the sibling program
+    MachineParDefautChargee,
+    MachineParDefautChargeeTitre,
+
+    // Projects
+    FiltreProjet,
+    CommentaireTropLong,
+    CommentaireTropLongTitre,
+    AncienneVersion,
+    AncienneVersionTitre,
+
+    // Drawings in and out
+    OuvrirDessinTitre,
+    FiltreDessins,
+    FiltreExportDxf,
+
+    // Reasons of a refused file, after its name and line
+    LectureFichierVide,
+    LectureFichierTronque,
+    LectureFichierBinaire,
+    LectureNombreAttendu,         // %1 what stands there
+    LectureEntierAttendu,         // %1 what stands there
+    LecturePointAttendu,          // %1 what stands there
+    LectureCoordonneeHorsLimites, // %1 what stands there
+    LectureNombrePoints,          // %1 announced, %2 present
+    LectureNombreSequences,       // %1 announced, %2 present
+    LectureSansTrace,
+    LectureTropDePoints, // %1 present, %2 highest
+    EcritureImpossible,  // %1 file, %2 reason
+    SortieEgaleEntree,   // %1 file
+
+    // 2D work
+    PasDeCoefficient,
+    PileTransformations,
+    TrajetTropLong, // %1 points present, %2 highest count
+    FiltreGcode,
+    VitesseTropBasse,
+
+    // Summary of a cut
+    ResumeVitesse, // %1 speed, %2 duration
+    ResumeChauffe, // %1 heat, %2 offset
+    ResumeMatiere, // %1 name
+    ResumeSaignee, // %1 kerf
+    DureeJours,    // %1 number, likewise below
+    DureeHeures,
+    DureeMinutes,
+    DureeSecondes,
+
+    Fin // not a text: their number
+};
+
+// The text in the language in use; before any load, the French one. It stays valid to the program's end.
+const std::string& Texte(TexteProgramme cle);
+
+// The same with each mark replaced: %1 by the first value, and so on. A mark without a value stays as it is;
+// a value is taken as it stands, marks in it included.
+std::string TexteRempli(TexteProgramme cle, std::initializer_list<std::string_view> valeurs);
+// The filling alone, for a text that comes from elsewhere.
+std::string RemplirMarques(std::string_view texte, std::initializer_list<std::string_view> valeurs);
+
+} // namespace tessarel
