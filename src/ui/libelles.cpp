@@ -176,21 +176,23 @@ void VerifierRangee(QWidget& fenetre, const Libelle& libelle, std::vector<std::s
 } // namespace
 
 void AppliquerLibelles(QWidget& fenetre, std::span<const Libelle> libelles, Langue langue) {
-    // Shortcuts first: the tool tips quote them.
+    // A caption sets a button's shortcut anew, and a tool tip quotes it: captions, shortcuts, then tool tips.
+    const auto appliquer = [&](bool bulles) {
+        for (const Libelle& libelle : libelles) {
+            QObject* objet = Trouver(fenetre, libelle.controle);
+            if (objet != nullptr && (libelle.propriete == Propriete::Bulle) == bulles) {
+                AppliquerRangee(*objet, libelle, langue);
+            }
+        }
+    };
+    appliquer(false);
     for (const Libelle& libelle : libelles) {
         QObject* objet = Trouver(fenetre, libelle.controle);
         if (objet == nullptr) continue;
         if (*libelle.raccourci != '\0') EcrireRaccourci(*objet, libelle.raccourci);
         if (*libelle.icone != '\0') EcrireIcone(*objet, libelle.icone);
     }
-    for (const Libelle& libelle : libelles) {
-        if (QObject* objet = Trouver(fenetre, libelle.controle)) AppliquerRangee(*objet, libelle, langue);
-    }
-    // A caption with a mnemonic resets the shortcut of a button.
-    for (const Libelle& libelle : libelles) {
-        QObject* objet = Trouver(fenetre, libelle.controle);
-        if (objet != nullptr && *libelle.raccourci != '\0') EcrireRaccourci(*objet, libelle.raccourci);
-    }
+    appliquer(true);
 }
 
 std::vector<std::string> DefautsLibelles(QWidget& fenetre, std::span<const Libelle> libelles) {
