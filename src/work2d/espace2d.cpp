@@ -1,0 +1,149 @@
+// Opening, starting anew and saving the 2D workspace.
+#include "work2d/espace2d.h"
+
+#include "app/texts/textes.h"
+#include "paths/fichier_projet.h"
+#include "platform/dialogue.h"
+#include "platform/erreurs.h"
+#include "platform/fichiers.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace tessarel {
+
+namespace {
+
+// Rows of the text tables.
+constexpr int DoublesErreurLecture = 10;
+constexpr int DoublesExtensionInconnue = 12;
+constexpr int MessagesExtensionProjet = 148;
+constexpr int MessagesProjetVide = 198;
+constexpr int MessagesErreurEnregistrement = 203;
+
+// What a file holds before anything of the workspace is touched.
+struct Contenu {
+    OuvertureFichier ouverture;
+    std::vector<Sequence> sequences;
+    Projet2D projet; // without its paths; used when ouverture.estProjet2D
+};
+
+Contenu LireProjet(const std::string& chemin, bool ancien) {
+    Contenu contenu;
+    contenu.ouverture.typeFichier = ancien ? "qnt" : "tsr2d";
+    contenu.ouverture.estProjet2D = true;
+    contenu.projet = LireProjet2D(chemin, ancien);
+    contenu.sequences = std::move(contenu.projet.TableauSequences);
+    return contenu;
+}
+
+Contenu LireProfils4axes(const std::string& chemin) {
+    Contenu contenu;
+    contenu.ouverture.typeFichier = "tsr4x";
+    Projet4axes projet = LireProjet4axes(chemin);
+    for (ProfilProjet* profil : {&projet.Emplanture, &projet.Saumon}) {
+        if (profil->sequence.Points.empty()) continue;
+        CalculerBornesSequence(profil->sequence);
+        contenu.sequences.push_back(std::move(profil->sequence));
+    }
+    return contenu;
+}
+
+Contenu LireContenu(const std::string& chemin, const std::string& extension, float distNettoyage) {
+    if (extension == "qnt") return LireProjet(chemin, true);
+    if (extension == "tsr")
+        return LireOngletProjet(chemin) == TS2D ? LireProjet(chemin, false) : LireProfils4axes(chemin);
+    DessinImporte dessin = LireDessin(chemin, distNettoyage);
+    Contenu contenu;
+    contenu.ouverture.typeFichier = extension;
+    contenu.ouverture.pointsRetires = dessin.pointsRetires;
+    contenu.ouverture.rapport = std::move(dessin.rapport);
+    contenu.sequences = std::move(dessin.sequences);
+    return contenu;
+}
+
+void RemplacerParProjet(Espace2D& espace, Contenu& contenu, const TableMachine& table,
+                        const std::string& chemin) {
+    espace.TableauSequences = std::move(contenu.sequences);
+    espace.bloc = LimiterBlocOuvert({contenu.projet.BlocX, contenu.projet.BlocY}, table);
+    espace.TypeEntree = contenu.projet.TypeEntree.value_or(espace.TypeEntree);
+    espace.TypeSortie = contenu.projet.TypeSortie.value_or(espace.TypeSortie);
+    espace.coeffTransf = 1;
+    espace.cheminProjet = contenu.ouverture.typeFichier == "qnt" ? "" : chemin;
+    espace.modifie = false;
+}
+
+} // namespace
+
+Espace2D NouvelEspace2D(const TableMachine& table) {
+    Espace2D espace;
+    espace.bloc = BlocParDefaut(table);
+    return espace;
+}
+
+bool OuvrirFichier2D(Espace2D& espace, const std::string& chemin, const TableMachine& table,
+                     float distNettoyage, OuvertureFichier* ouverture) {
+    const std::string extension = ExtensionMinuscule(chemin);
+    const auto& connues = ExtensionsConnues();
+    if (std::find(connues.begin(), connues.end(), extension) == connues.end()) {
+        AfficherExclamation(TextesDoubles(DoublesExtensionInconnue, 1) + "\r\n" + chemin,
+                            TextesDoubles(DoublesExtensionInconnue, 2));
+        return false;
+    }
+    Contenu contenu;
+    try {
+        contenu = LireContenu(chemin, extension, distNettoyage);
+    } catch (const Faute& faute) {
+        AfficherCritique(TextesDoubles(DoublesErreurLecture, 1) + "\r\n" + faute.what(),
+                         TextesDoubles(DoublesErreurLecture, 2));
+        return false;
+    }
+    contenu.ouverture.sequences = contenu.sequences.size();
+    for (const Sequence& sequence : contenu.sequences) contenu.ouverture.points += sequence.Points.size();
+    if (contenu.ouverture.estProjet2D) {
+        RemplacerParProjet(espace, contenu, table, chemin);
+    } else {
+        espace.TableauSequences.insert(espace.TableauSequences.end(),
+                                       std::make_move_iterator(contenu.sequences.begin()),
+                                       std::make_move_iterator(contenu.sequences.end()));
+        espace.modifie = true;
+    }
+    if (ouverture != nullptr) *ouverture = std::move(contenu.ouverture);
+    return true;
+}
+
+Projet2D ProjetDepuisEspace(const Espace2D& espace) {
+    Projet2D projet;
+    projet.TableauSequences = espace.TableauSequences;
+    projet.BlocX = espace.bloc.BlocX;
+    projet.BlocY = espace.bloc.BlocY;
+    projet.TypeEntree = espace.TypeEntree;
+    projet.TypeSortie = espace.TypeSortie;
+    projet.VitesseApproche = espace.VitesseApproche;
+    projet.VitesseRetour = espace.VitesseRetour;
+    return projet;
+}
+
+bool EnregistrerEspace2D(Espace2D& espace, const std::string& chemin) {
+    if (espace.TableauSequences.empty()) {
+        AfficherExclamation(TextesMessages(MessagesProjetVide), TitresMessages(MessagesProjetVide));
+        return false;
+    }
+    if (ExtensionMinuscule(chemin) != "tsr") {
+        AfficherExclamation(TextesMessages(MessagesExtensionProjet), TitresMessages(MessagesExtensionProjet));
+        return false;
+    }
+    try {
+        EcrireProjet2D(chemin, ProjetDepuisEspace(espace));
+    } catch (const Faute& faute) {
+        AfficherCritique(TextesMessages(MessagesErreurEnregistrement) + "\r\n" + faute.what(),
+                         TitresMessages(MessagesErreurEnregistrement));
+        return false;
+    }
+    espace.cheminProjet = chemin;
+    espace.modifie = false;
+    return true;
+}
+
+} // namespace tessarel
