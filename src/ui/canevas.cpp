@@ -1,0 +1,268 @@
+// The drawing canvas: its view, and what mouse and keyboard do to it.
+#include "ui/canevas.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tessarel {
+
+namespace {
+
+constexpr double MargeCadre = 14;         // pixels left around a frame shown whole
+constexpr double FacteurCran = 1.25;      // zoom of one notch of the wheel, or of one key
+constexpr double UnitesParCran = 120;     // of the wheel
+constexpr double PasTouche = 48;          // pixels panned by an arrow key
+constexpr double DistanceClic = 4;        // pixels: a shorter drag is a click
+constexpr double EchelleMaxi = 20000;     // pixels per mm: a twentieth of a micron
+constexpr double EchelleMini = 1.0 / 500; // a quarter of a kilometre on a screen
+
+} // namespace
+
+Canevas::Canevas(QWidget* parent) : QWidget(parent) {
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setCursor(Qt::CrossCursor);
+    m_etaitSombre = FondSombre();
+}
+
+bool Canevas::FondSombre() const {
+    return palette().color(QPalette::Base).lightness() < 128;
+}
+
+void Canevas::Montrer(Couche couche, Dessin dessin) {
+    m_couches[couche].Remplacer(std::move(dessin));
+    update();
+}
+
+void Canevas::FixerCadreComplet(const CadreDessin& cadre) {
+    m_complet = cadre;
+    if (m_cadreRecu) return;
+    m_cadreRecu = true;
+    Cadrer(cadre);
+}
+
+void Canevas::ZoomTout() {
+    Cadrer(m_complet);
+}
+
+void Canevas::Cadrer(const CadreDessin& cadre) {
+    m_cadreTenu = cadre;
+    const QRectF zone = ZoneDessin();
+    VueDessin vue = VueSurCadre(cadre, zone.width(), zone.height(), MargeCadre);
+    const double echelle = std::clamp(vue.echelle, EchelleMini, EchelleMaxi);
+    if (echelle != vue.echelle) {
+        vue.echelle = echelle;
+        vue.xGauche = (cadre.XMin + cadre.XMax) / 2 - vue.largeur / 2 / echelle;
+        vue.yBas = (cadre.YMin + cadre.YMax) / 2 - vue.hauteur / 2 / echelle;
+    }
+    ChangerVue(vue);
+}
+
+void Canevas::ChangerVue(VueDessin vue) {
+    if (vue == m_vue) return;
+    m_vue = vue;
+    update();
+    emit VueChangee();
+}
+
+void Canevas::Zoomer(double facteur) {
+    ZoomerAutour(ZoneDessin().center(), facteur);
+}
+
+void Canevas::ZoomerAutour(QPointF pixels, double facteur) {
+    const PointDessin fixe = EnMm(pixels);
+    VueDessin vue = m_vue;
+    vue.echelle = std::clamp(vue.echelle * facteur, EchelleMini, EchelleMaxi);
+    if (vue.echelle == m_vue.echelle) return;
+    const QPointF dansZone = pixels - ZoneDessin().topLeft();
+    vue.xGauche = fixe.X - dansZone.x() / vue.echelle;
+    vue.yBas = fixe.Y - (vue.hauteur - dansZone.y()) / vue.echelle;
+    m_cadreTenu.reset();
+    ChangerVue(vue);
+}
+
+void Canevas::Deplacer(double dxPixels, double dyPixels) {
+    VueDessin vue = m_vue;
+    vue.xGauche -= dxPixels / vue.echelle;
+    vue.yBas += dyPixels / vue.echelle;
+    m_cadreTenu.reset();
+    ChangerVue(vue);
+}
+
+PointDessin Canevas::EnMm(QPointF pixels) const {
+    return m_vue.EnMm(pixels - ZoneDessin().topLeft());
+}
+
+QPointF Canevas::EnPixels(PointDessin mm) const {
+    return m_vue.EnPixels(mm) + ZoneDessin().topLeft();
+}
+
+void Canevas::AvecRegles(bool avec) {
+    if (m_regles == avec) return;
+    m_regles = avec;
+    if (m_cadreTenu) Cadrer(*m_cadreTenu);
+    update();
+}
+
+void Canevas::resizeEvent(QResizeEvent*) {
+    if (m_cadreTenu) {
+        Cadrer(*m_cadreTenu);
+        return;
+    }
+    // What the user chose to look at keeps its middle and its scale.
+    const QRectF zone = ZoneDessin();
+    VueDessin vue = m_vue;
+    vue.xGauche += (vue.largeur - zone.width()) / 2 / vue.echelle;
+    vue.yBas += (vue.hauteur - zone.height()) / 2 / vue.echelle;
+    vue.largeur = zone.width();
+    vue.hauteur = zone.height();
+    ChangerVue(vue);
+}
+
+void Canevas::wheelEvent(QWheelEvent* evenement) {
+    const double crans = evenement->angleDelta().y() / UnitesParCran;
+    if (crans != 0) ZoomerAutour(evenement->position(), std::pow(FacteurCran, crans));
+    evenement->accept();
+}
+
+void Canevas::mousePressEvent(QMouseEvent* evenement) {
+    if (m_geste != Geste::Aucun) return;
+    m_debutGeste = evenement->position();
+    m_pointeur = m_debutGeste;
+    const bool maj = evenement->modifiers().testFlag(Qt::ShiftModifier);
+    if (evenement->button() == Qt::MiddleButton || (evenement->button() == Qt::LeftButton && maj)) {
+        m_geste = Geste::Deplacement;
+        setCursor(Qt::ClosedHandCursor);
+    } else if (evenement->button() == Qt::LeftButton) {
+        m_geste = Geste::Rectangle;
+    } else if (evenement->button() == Qt::RightButton) {
+        m_geste = Geste::ZoomRectangle;
+    }
+}
+
+void Canevas::mouseMoveEvent(QMouseEvent* evenement) {
+    const QPointF ou = evenement->position();
+    if (m_geste == Geste::Deplacement) {
+        const QPointF pas = ou - m_pointeur;
+        Deplacer(pas.x(), pas.y());
+    }
+    m_pointeur = ou;
+    m_pointeurDedans = true;
+    // A drag redraws the rubber band, a plain move only the pointer's place on the rulers.
+    if (m_geste != Geste::Aucun) {
+        update();
+    } else if (m_regles) {
+        const QRect zone = ZoneDessin().toAlignedRect();
+        update(QRect(0, zone.bottom() + 1, width(), height() - zone.bottom() - 1));
+        update(QRect(0, 0, zone.left(), height()));
+    }
+    const PointDessin mm = EnMm(ou);
+    emit PointeurDeplace(mm.X, mm.Y);
+}
+
+bool Canevas::EstUnClic(QPointF fin) const {
+    const QPointF pas = fin - m_debutGeste;
+    return std::abs(pas.x()) < DistanceClic && std::abs(pas.y()) < DistanceClic;
+}
+
+void Canevas::mouseReleaseEvent(QMouseEvent* evenement) {
+    const Geste geste = m_geste;
+    const QPointF fin = evenement->position();
+    m_geste = Geste::Aucun;
+    setCursor(Qt::CrossCursor);
+    update();
+    const PointDessin a = EnMm(m_debutGeste);
+    const PointDessin b = EnMm(fin);
+    const CadreDessin cadre{std::min(a.X, b.X), std::max(a.X, b.X), std::min(a.Y, b.Y), std::max(a.Y, b.Y)};
+    switch (geste) {
+    case Geste::Aucun:
+        break;
+    case Geste::Deplacement:
+        if (evenement->button() == Qt::MiddleButton && EstUnClic(fin)) ZoomTout();
+        break;
+    case Geste::Rectangle:
+        if (EstUnClic(fin)) {
+            emit Clique(b.X, b.Y, evenement->modifiers());
+        } else {
+            emit RectangleTrace(cadre, evenement->modifiers());
+        }
+        break;
+    case Geste::ZoomRectangle:
+        if (!EstUnClic(fin)) {
+            Cadrer(cadre);
+            m_cadreTenu.reset();
+        }
+        break;
+    }
+}
+
+void Canevas::leaveEvent(QEvent*) {
+    m_pointeurDedans = false;
+    update();
+    emit PointeurSorti();
+}
+
+void Canevas::keyPressEvent(QKeyEvent* evenement) {
+    switch (evenement->key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+        Zoomer(FacteurCran);
+        break;
+    case Qt::Key_Minus:
+        Zoomer(1 / FacteurCran);
+        break;
+    case Qt::Key_0:
+    case Qt::Key_Home:
+        ZoomTout();
+        break;
+    case Qt::Key_Left:
+        Deplacer(PasTouche, 0);
+        break;
+    case Qt::Key_Right:
+        Deplacer(-PasTouche, 0);
+        break;
+    case Qt::Key_Up:
+        Deplacer(0, PasTouche);
+        break;
+    case Qt::Key_Down:
+        Deplacer(0, -PasTouche);
+        break;
+    case Qt::Key_Escape:
+        if (m_geste == Geste::Aucun) {
+            QWidget::keyPressEvent(evenement);
+            return;
+        }
+        m_geste = Geste::Aucun;
+        setCursor(Qt::CrossCursor);
+        update();
+        break;
+    default:
+        QWidget::keyPressEvent(evenement);
+    }
+}
+
+void Canevas::changeEvent(QEvent* evenement) {
+    QWidget::changeEvent(evenement);
+    if (evenement->type() != QEvent::PaletteChange && evenement->type() != QEvent::StyleChange) return;
+    update();
+    if (FondSombre() == m_etaitSombre) return;
+    m_etaitSombre = FondSombre();
+    emit FondChange();
+}
+
+void Canevas::paintEvent(QPaintEvent* evenement) {
+    QPainter peintre(this);
+    peintre.setClipRegion(evenement->region());
+    // A pointer that moves over the rulers' band leaves the drawing as it is.
+    Peindre(peintre);
+}
+
+} // namespace tessarel

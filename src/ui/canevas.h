@@ -1,0 +1,103 @@
+// The drawing canvas that the windows share: prepared drawings shown to scale, with zoom, pan, rulers and a
+// rubber band.
+#pragma once
+
+#include "platform/dessin.h"
+#include "platform/images/peinture_qt.h"
+
+#include <QWidget>
+#include <array>
+#include <cstddef>
+#include <optional>
+
+namespace tessarel {
+
+// Shows layers of drawings over one another in one view. It owns what it shows and repaints from it; a
+// project is never touched. Wheel: zoom about the pointer. Middle button, or Shift and left: pan. Right drag:
+// zoom on a rectangle. Left drag: a rubber band, told by a signal. Middle click, 0 or Home: everything. +, -,
+// arrows: zoom and pan.
+class Canevas : public QWidget {
+    Q_OBJECT
+public:
+    // Painted in this order.
+    enum Couche : std::size_t { CoucheFond, CoucheTrace, CoucheOutil, NombreCouches };
+
+    explicit Canevas(QWidget* parent = nullptr);
+
+    // Takes a drawing over as one layer, in place of what it held.
+    void Montrer(Couche couche, Dessin dessin);
+    [[nodiscard]] const DessinPrepare& Montre(Couche couche) const { return m_couches[couche]; }
+
+    // What "everything" is; the next ZoomTout() shows it. The first frame given is shown at once.
+    void FixerCadreComplet(const CadreDessin& cadre);
+    void ZoomTout();
+    // Shows a window of the plane whole, and keeps it whole when the widget changes size, until the user
+    // zooms or pans.
+    void Cadrer(const CadreDessin& cadre);
+    // About the middle of the view.
+    void Zoomer(double facteur);
+    void Deplacer(double dxPixels, double dyPixels);
+
+    // The drawing area: the widget without its rulers. Y of the view counts from its bottom.
+    [[nodiscard]] QRectF ZoneDessin() const;
+    [[nodiscard]] const VueDessin& Vue() const { return m_vue; }
+    [[nodiscard]] PointDessin EnMm(QPointF pixels) const;
+    [[nodiscard]] QPointF EnPixels(PointDessin mm) const;
+    void AvecRegles(bool avec);
+    // True on a dark ground, for whoever makes the drawings.
+    [[nodiscard]] bool FondSombre() const;
+
+    // One whole painting, as for the screen.
+    void Peindre(QPainter& peintre);
+    // What the last painting handed to the painter, all layers together.
+    [[nodiscard]] const PeintreDessin::Compte& DernierCompte() const { return m_compte; }
+
+    [[nodiscard]] QSize sizeHint() const override { return {640, 480}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {200, 160}; }
+
+signals:
+    void PointeurDeplace(double xMm, double yMm);
+    void PointeurSorti();
+    // A left drag has ended; the rectangle is in mm.
+    void RectangleTrace(tessarel::CadreDessin rectangle, Qt::KeyboardModifiers touches);
+    void Clique(double xMm, double yMm, Qt::KeyboardModifiers touches);
+    void VueChangee();
+    // Dark has become light or the reverse: colours of the drawings may want to follow.
+    void FondChange();
+
+protected:
+    void paintEvent(QPaintEvent* evenement) override;
+    void resizeEvent(QResizeEvent* evenement) override;
+    void wheelEvent(QWheelEvent* evenement) override;
+    void mousePressEvent(QMouseEvent* evenement) override;
+    void mouseMoveEvent(QMouseEvent* evenement) override;
+    void mouseReleaseEvent(QMouseEvent* evenement) override;
+    void leaveEvent(QEvent* evenement) override;
+    void keyPressEvent(QKeyEvent* evenement) override;
+    void changeEvent(QEvent* evenement) override;
+
+private:
+    enum class Geste { Aucun, Deplacement, Rectangle, ZoomRectangle };
+
+    void ZoomerAutour(QPointF pixels, double facteur);
+    void ChangerVue(VueDessin vue);
+    void PeindreRegles(QPainter& peintre);
+    void PeindreElastique(QPainter& peintre);
+    [[nodiscard]] bool EstUnClic(QPointF fin) const;
+
+    std::array<DessinPrepare, NombreCouches> m_couches;
+    PeintreDessin m_pinceau;
+    PeintreDessin::Compte m_compte;
+    VueDessin m_vue;
+    CadreDessin m_complet{0, 100, 0, 100};
+    std::optional<CadreDessin> m_cadreTenu; // frame that resizing keeps whole
+    bool m_cadreRecu = false;
+    bool m_regles = true;
+    bool m_etaitSombre = false;
+    Geste m_geste = Geste::Aucun;
+    QPointF m_debutGeste;
+    QPointF m_pointeur;
+    bool m_pointeurDedans = false;
+};
+
+} // namespace tessarel

@@ -1,0 +1,148 @@
+// The painting of the canvas: its layers, the rulers that follow the zoom, the rubber band.
+#include "ui/canevas.h"
+
+#include <QPainter>
+
+#include <array>
+#include <cmath>
+
+namespace tessarel {
+
+namespace {
+
+constexpr double LargeurRegle = 22;     // pixels
+constexpr double EcartGraduations = 64; // least pixels between two numbers
+constexpr double TailleChiffres = 10;   // pixels
+
+// A step of 1, 2 or 5 times a power of ten whose numbers stand far enough apart, and into how many it is
+// divided.
+struct Graduation {
+    double pas = 1;
+    int divisions = 10;
+};
+
+Graduation ChoisirGraduation(double echelle) {
+    const double cible = EcartGraduations / echelle;
+    const double decade = std::pow(10, std::floor(std::log10(cible)));
+    if (decade >= cible) return {decade, 10};
+    if (2 * decade >= cible) return {2 * decade, 4};
+    if (5 * decade >= cible) return {5 * decade, 5};
+    return {10 * decade, 10};
+}
+
+} // namespace
+
+QRectF Canevas::ZoneDessin() const {
+    const double regle = m_regles ? LargeurRegle : 0;
+    return QRectF(regle, 0, std::max(width() - regle, 1.0), std::max(height() - regle, 1.0));
+}
+
+void Canevas::Peindre(QPainter& peintre) {
+    const QRectF zone = ZoneDessin();
+    // A region that touches the rulers only is no reason to paint the drawing again.
+    const bool avecDessin = !peintre.hasClipping() || peintre.clipRegion().intersects(zone.toAlignedRect());
+    if (avecDessin) {
+        peintre.fillRect(zone, palette().color(QPalette::Base));
+        peintre.save();
+        peintre.setClipRect(zone, Qt::IntersectClip);
+        peintre.translate(zone.topLeft());
+        m_compte = {};
+        for (const DessinPrepare& couche : m_couches) {
+            m_pinceau.Peindre(peintre, couche, m_vue);
+            m_compte.sommets += m_pinceau.DernierCompte().sommets;
+            m_compte.marques += m_pinceau.DernierCompte().marques;
+            m_compte.textes += m_pinceau.DernierCompte().textes;
+        }
+        peintre.restore();
+        PeindreElastique(peintre);
+    }
+    if (m_regles) PeindreRegles(peintre);
+}
+
+void Canevas::PeindreElastique(QPainter& peintre) {
+    if ((m_geste != Geste::Rectangle && m_geste != Geste::ZoomRectangle) || EstUnClic(m_pointeur)) return;
+    QColor couleur = palette().color(QPalette::Highlight);
+    peintre.save();
+    peintre.setClipRect(ZoneDessin(), Qt::IntersectClip);
+    QPen stylo(couleur, 1, m_geste == Geste::Rectangle ? Qt::SolidLine : Qt::DashLine);
+    peintre.setPen(stylo);
+    couleur.setAlpha(38);
+    peintre.setBrush(couleur);
+    peintre.drawRect(QRectF(m_debutGeste, m_pointeur).normalized());
+    peintre.restore();
+}
+
+// Along the bottom and the left edge, where the origin of a table is.
+void Canevas::PeindreRegles(QPainter& peintre) {
+    const QRectF zone = ZoneDessin();
+    const QColor encre = palette().color(QPalette::WindowText);
+    QColor trait = encre;
+    trait.setAlpha(110);
+    peintre.save();
+    peintre.setRenderHint(QPainter::Antialiasing, false);
+    const QRectF bas(0, zone.bottom(), width(), height() - zone.bottom());
+    const QRectF gauche(0, 0, zone.left(), height());
+    peintre.fillRect(bas, palette().color(QPalette::Window));
+    peintre.fillRect(gauche, palette().color(QPalette::Window));
+    QFont police = font();
+    police.setPixelSize(static_cast<int>(TailleChiffres));
+    peintre.setFont(police);
+
+    const Graduation graduation = ChoisirGraduation(m_vue.echelle);
+    const double fin = graduation.pas / graduation.divisions;
+    const auto tracer = [&](bool horizontale) {
+        const double debut = horizontale ? m_vue.xGauche : m_vue.yBas;
+        const double longueur = (horizontale ? m_vue.largeur : m_vue.hauteur) / m_vue.echelle;
+        const double premier = std::ceil(debut / fin);
+        for (double k = premier; k * fin <= debut + longueur; k += 1) {
+            const double mm = k * fin;
+            const QPointF p = EnPixels({mm, mm});
+            const bool grand = std::fmod(k, graduation.divisions) == 0;
+            const double t = grand ? 9 : 4;
+            peintre.setPen(trait);
+            if (horizontale) {
+                peintre.drawLine(QPointF(p.x(), bas.top()), QPointF(p.x(), bas.top() + t));
+            } else {
+                peintre.drawLine(QPointF(gauche.right() - 1, p.y()), QPointF(gauche.right() - 1 - t, p.y()));
+            }
+            if (!grand) continue;
+            peintre.setPen(encre);
+            const QString chiffres = QString::number(mm == 0 ? 0.0 : mm, 'g', 7);
+            if (horizontale) {
+                peintre.drawText(QRectF(p.x() + 3, bas.top() + 6, 80, 15), Qt::AlignLeft | Qt::AlignVCenter,
+                                 chiffres);
+            } else {
+                peintre.save();
+                peintre.translate(gauche.right() - 21, p.y() - 3);
+                peintre.rotate(-90);
+                peintre.drawText(QRectF(0, 0, 80, 15), Qt::AlignLeft | Qt::AlignVCenter, chiffres);
+                peintre.restore();
+            }
+        }
+    };
+    peintre.setClipRect(QRectF(zone.left(), bas.top(), zone.width(), bas.height()), Qt::IntersectClip);
+    tracer(true);
+    peintre.restore();
+    peintre.save();
+    peintre.setFont(police);
+    peintre.setRenderHint(QPainter::Antialiasing, false);
+    peintre.setClipRect(QRectF(0, 0, gauche.width(), zone.height()), Qt::IntersectClip);
+    tracer(false);
+    peintre.restore();
+
+    const QRectF coin(0, zone.bottom(), zone.left(), height() - zone.bottom());
+    peintre.save();
+    peintre.setFont(police);
+    peintre.setPen(trait);
+    peintre.drawText(coin, Qt::AlignCenter, QStringLiteral("mm"));
+    peintre.drawLine(QPointF(zone.left() - 1, 0), QPointF(zone.left() - 1, zone.bottom()));
+    peintre.drawLine(QPointF(zone.left() - 1, zone.bottom()), QPointF(width(), zone.bottom()));
+    if (m_pointeurDedans && zone.contains(m_pointeur)) {
+        peintre.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        peintre.drawLine(QPointF(m_pointeur.x(), bas.top() + 1), QPointF(m_pointeur.x(), bas.bottom()));
+        peintre.drawLine(QPointF(0, m_pointeur.y()), QPointF(gauche.right() - 2, m_pointeur.y()));
+    }
+    peintre.restore();
+}
+
+} // namespace tessarel
