@@ -1,3 +1,4 @@
+// The boxes: who shows them, and the default that writes them as lines.
 #include "dialogue.h"
 
 #include <cstdio>

@@ -1,3 +1,4 @@
+// Files read whole and written in one step, and the encodings of their text.
 #include "fichiers.h"
 
 #include "erreurs.h"

@@ -1,3 +1,4 @@
+// The clock as the program reads it.
 #include "horloge.h"
 
 #include <utility>

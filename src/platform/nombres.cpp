@@ -1,3 +1,4 @@
+// Numbers as texts by a mask, texts as numbers, and the roundings that have a name.
 #include "nombres.h"
 
 #include "erreurs.h"

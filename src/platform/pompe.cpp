@@ -1,3 +1,4 @@
+// The event pump: nothing to do where no window is.
 #include "pompe.h"
 
 #include <utility>

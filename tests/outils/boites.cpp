@@ -1,3 +1,4 @@
+// Boxes recorded for a test instead of shown.
 #include "outils/boites.h"
 
 #include <utility>

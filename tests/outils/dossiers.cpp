@@ -1,3 +1,4 @@
+// Folders of their own for tests, and the corpus where it is present.
 #include "outils/dossiers.h"
 
 #include <cstdlib>

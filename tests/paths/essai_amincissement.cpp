@@ -1,3 +1,4 @@
+// Thinning of nearly aligned points.
 #include "paths/geometrie.h"
 
 #include <gtest/gtest.h>

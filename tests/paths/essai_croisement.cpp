@@ -1,3 +1,4 @@
+// Crossing of two segments: each told case, and the edges between them.
 #include "paths/geometrie.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Boxes, reversing and joining of paths.
 #include "paths/points.h"
 
 #include <gtest/gtest.h>

@@ -1,3 +1,4 @@
+// Files: reads, encodings, and writes that leave the old file or the new one.
 #include "platform/fichiers.h"
 
 #include "outils/dossiers.h"

@@ -1,3 +1,4 @@
+// Masks, roundings and the number parser.
 #include "platform/nombres.h"
 
 #include "platform/erreurs.h"
