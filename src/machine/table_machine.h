@@ -89,8 +89,18 @@ inline constexpr int StatutRefus = -100;
 int ChargerMachine(const std::string& nom);
 // The same without touching TableINI.
 int LireMachine(const std::string& nom, TableMachine& table);
+// Writes the keys of a machine into its section, in one step. False for a built-in name, which is never in the file,
+// and when the file can't be written.
+bool EcrireMachine(const TableMachine& table);
+// Fills what is computed: PasParTour, PWMmaxi0to255, EcartementUtile, PasToOrigine, CodeDefinitionSortie.
+// FauteDepassement when a product does not fit its width.
+void CalculerChampsDerives(TableMachine& table);
+// Its two parts: what follows from outputs, motors and heat; what follows from the geometry.
+void CalculerChampsMoteurs(TableMachine& table);
+void CalculerChampsGeometrie(TableMachine& table);
 // True for the reserved names, in any of their told spellings.
 bool EstMachineIntegree(const std::string& nom);
+// Fills TableauNomsMachines from the settings file.
 void CreerTableauDesNomsDeMachines();
 // True when the interface's memory agrees with the table in everything that motion depends on.
 bool ComparerMachineEtZelko(const TableMachine& table, const TableMachine& memoire,

@@ -1,0 +1,7 @@
+#include "parametres.h"
+
+namespace tessarel {
+
+ParametresProgramme Parametres;
+
+} // namespace tessarel

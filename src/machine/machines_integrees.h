@@ -1,0 +1,12 @@
+// The machines built into the program; the settings file is never asked for them.
+#pragma once
+
+#include "machine/table_machine.h"
+
+namespace tessarel {
+
+// Fills `table` when the name is a reserved one; false otherwise, the table untouched. What a column leaves
+// open keeps the value that `table` had.
+bool LireMachineIntegree(const std::string& nom, TableMachine& table);
+
+} // namespace tessarel
