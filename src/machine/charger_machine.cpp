@@ -119,7 +119,7 @@ int LireMachine(const std::string& nom, TableMachine& table) {
         return StatutSucces;
     } catch (const Faute&) {
         AfficherCritique(TexteRempli(TexteProgramme::ChargementMachineImpossible, {nom}),
-                         Texte(TexteProgramme::ChargementMachineImpossibleTitre));
+                         Texte(TexteProgramme::TitreErreur));
         return StatutRefus;
     }
 }

@@ -1,6 +1,7 @@
 #include "cles_machine.h"
 
 #include <array>
+#include <string_view>
 
 namespace tessarel {
 
@@ -108,12 +109,26 @@ const std::array<CleMachine, 83> Table = {{
     {"RangementSuivantY", Champ<&T::RangementSuivantY>, Entier},
 }};
 
-constexpr std::size_t NombreClesMoteurs = 50;
+constexpr std::string_view PremiereCleGeometrie = "CourseX";
+
+std::size_t NombreClesMoteurs() {
+    std::size_t nombre = 0;
+    while (Table[nombre].cle != PremiereCleGeometrie) ++nombre;
+    return nombre;
+}
 
 } // namespace
 
 std::span<const CleMachine> ClesMachine() {
     return Table;
+}
+
+std::span<const CleMachine> ClesMoteurs() {
+    return ClesMachine().first(NombreClesMoteurs());
+}
+
+std::span<const CleMachine> ClesGeometrie() {
+    return ClesMachine().subspan(NombreClesMoteurs());
 }
 
 } // namespace tessarel
