@@ -1,3 +1,4 @@
+// The rows of the machine keys.
 #include "cles_machine.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// The columns of the built-in machines.
 #include "machines_integrees.h"
 
 #include "platform/fichiers.h"

@@ -1,3 +1,4 @@
+// The material base: its rebuilding from the settings file, the choice, the limits of a machine.
 #include "matieres.h"
 
 #include "app/settings/cles_matiere.h"

@@ -1,3 +1,4 @@
+// The current machine, the list of names, and what is computed from a table.
 #include "table_machine.h"
 
 #include "app/settings/verification_ini.h"

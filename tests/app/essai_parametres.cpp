@@ -1,3 +1,4 @@
+// The settings file at start-up, and the general keys through their table.
 #include "app/settings/cles_generales.h"
 #include "app/settings/gestion_ini.h"
 #include "app/settings/verification_ini.h"

@@ -1,3 +1,4 @@
+// The material base: how it is built, adopted, mended and limited.
 #include "machine/matieres.h"
 
 #include "app/settings/gestion_ini.h"

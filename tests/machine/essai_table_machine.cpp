@@ -1,3 +1,4 @@
+// Machines: every built-in value, the reading of a section, the repairs, the comparison.
 #include "machine/table_machine.h"
 
 #include "app/settings/gestion_ini.h"

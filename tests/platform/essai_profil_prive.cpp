@@ -1,3 +1,4 @@
+// Settings files: reading and writing by the private-profile rules.
 #include "platform/profil_prive.h"
 
 #include "outils/dossiers.h"

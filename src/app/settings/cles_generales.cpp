@@ -1,3 +1,4 @@
+// The rows of the general keys, and their reading and writing through them.
 #include "cles_generales.h"
 
 #include "gestion_ini.h"

@@ -1,3 +1,4 @@
+// The wrappers over the settings files, and the writers of single facts.
 #include "gestion_ini.h"
 
 #include "cles_generales.h"

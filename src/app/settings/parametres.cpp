@@ -1,3 +1,4 @@
+// The program's one record of general parameters.
 #include "parametres.h"
 
 namespace tessarel {

@@ -1,3 +1,4 @@
+// Creation, check and repair of the settings file at start-up.
 #include "verification_ini.h"
 
 #include "cles_generales.h"
