@@ -22,40 +22,35 @@ constexpr int MessagesExtensionProjet = 148;
 constexpr int MessagesProjetVide = 198;
 constexpr int MessagesErreurEnregistrement = 203;
 
-// What a file holds before anything of the workspace is touched.
-struct Contenu {
-    OuvertureFichier ouverture;
-    std::vector<Sequence> sequences;
-    Projet2D projet; // without its paths; used when ouverture.estProjet2D
-};
-
-Contenu LireProjet(const std::string& chemin, bool ancien) {
-    Contenu contenu;
+ContenuFichier LireProjet(const std::string& chemin, bool ancien) {
+    ContenuFichier contenu;
     contenu.ouverture.typeFichier = ancien ? "qnt" : "tsr2d";
     contenu.ouverture.estProjet2D = true;
-    contenu.projet = LireProjet2D(chemin, ancien);
-    contenu.sequences = std::move(contenu.projet.TableauSequences);
+    contenu.projet2D = LireProjet2D(chemin, ancien);
+    contenu.sequences = std::move(contenu.projet2D->TableauSequences);
+    contenu.projet2D->TableauSequences.clear();
     return contenu;
 }
 
-Contenu LireProfils4axes(const std::string& chemin) {
-    Contenu contenu;
+ContenuFichier LireProfils4axes(const std::string& chemin) {
+    ContenuFichier contenu;
     contenu.ouverture.typeFichier = "tsr4x";
-    Projet4axes projet = LireProjet4axes(chemin);
-    for (ProfilProjet* profil : {&projet.Emplanture, &projet.Saumon}) {
+    contenu.projet4axes = LireProjet4axes(chemin);
+    for (const ProfilProjet* profil : {&contenu.projet4axes->Emplanture, &contenu.projet4axes->Saumon}) {
         if (profil->sequence.Points.empty()) continue;
-        CalculerBornesSequence(profil->sequence);
-        contenu.sequences.push_back(std::move(profil->sequence));
+        contenu.sequences.push_back(profil->sequence);
+        CalculerBornesSequence(contenu.sequences.back());
     }
     return contenu;
 }
 
-Contenu LireContenu(const std::string& chemin, const std::string& extension, float distNettoyage) {
+ContenuFichier LireSelonExtension(const std::string& chemin, float distNettoyage) {
+    const std::string extension = ExtensionMinuscule(chemin);
     if (extension == "qnt") return LireProjet(chemin, true);
     if (extension == "tsr")
         return LireOngletProjet(chemin) == TS2D ? LireProjet(chemin, false) : LireProfils4axes(chemin);
     DessinImporte dessin = LireDessin(chemin, distNettoyage);
-    Contenu contenu;
+    ContenuFichier contenu;
     contenu.ouverture.typeFichier = extension;
     contenu.ouverture.pointsRetires = dessin.pointsRetires;
     contenu.ouverture.rapport = std::move(dessin.rapport);
@@ -63,18 +58,25 @@ Contenu LireContenu(const std::string& chemin, const std::string& extension, flo
     return contenu;
 }
 
-void RemplacerParProjet(Espace2D& espace, Contenu& contenu, const TableMachine& table,
+void RemplacerParProjet(Espace2D& espace, ContenuFichier& contenu, const TableMachine& table,
                         const std::string& chemin) {
     espace.TableauSequences = std::move(contenu.sequences);
-    espace.bloc = LimiterBlocOuvert({contenu.projet.BlocX, contenu.projet.BlocY}, table);
-    espace.TypeEntree = contenu.projet.TypeEntree.value_or(espace.TypeEntree);
-    espace.TypeSortie = contenu.projet.TypeSortie.value_or(espace.TypeSortie);
+    espace.bloc = LimiterBlocOuvert({contenu.projet2D->BlocX, contenu.projet2D->BlocY}, table);
+    espace.TypeEntree = contenu.projet2D->TypeEntree.value_or(espace.TypeEntree);
+    espace.TypeSortie = contenu.projet2D->TypeSortie.value_or(espace.TypeSortie);
     espace.coeffTransf = 1;
     espace.cheminProjet = contenu.ouverture.typeFichier == "qnt" ? "" : chemin;
     espace.modifie = false;
 }
 
 } // namespace
+
+ContenuFichier LireContenuFichier(const std::string& chemin, float distNettoyage) {
+    ContenuFichier contenu = LireSelonExtension(chemin, distNettoyage);
+    contenu.ouverture.sequences = contenu.sequences.size();
+    for (const Sequence& sequence : contenu.sequences) contenu.ouverture.points += sequence.Points.size();
+    return contenu;
+}
 
 Espace2D NouvelEspace2D(const TableMachine& table) {
     Espace2D espace;
@@ -91,16 +93,14 @@ bool OuvrirFichier2D(Espace2D& espace, const std::string& chemin, const TableMac
                             TextesDoubles(DoublesExtensionInconnue, 2));
         return false;
     }
-    Contenu contenu;
+    ContenuFichier contenu;
     try {
-        contenu = LireContenu(chemin, extension, distNettoyage);
+        contenu = LireContenuFichier(chemin, distNettoyage);
     } catch (const Faute& faute) {
         AfficherCritique(TextesDoubles(DoublesErreurLecture, 1) + "\r\n" + faute.what(),
                          TextesDoubles(DoublesErreurLecture, 2));
         return false;
     }
-    contenu.ouverture.sequences = contenu.sequences.size();
-    for (const Sequence& sequence : contenu.sequences) contenu.ouverture.points += sequence.Points.size();
     if (contenu.ouverture.estProjet2D) {
         RemplacerParProjet(espace, contenu, table, chemin);
     } else {

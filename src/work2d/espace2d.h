@@ -7,6 +7,7 @@
 #include "work2d/decoupe2d.h"
 #include "work2d/placement.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,6 +34,18 @@ struct OuvertureFichier {
     std::size_t pointsRetires = 0; // by the thinning
     RapportLecture rapport;
 };
+
+// All that a file holds, before any workspace is touched. A project comes without its paths, which stand in
+// `sequences` for every kind; a 4-axis one gives its root and its tip.
+struct ContenuFichier {
+    OuvertureFichier ouverture;
+    std::vector<Sequence> sequences;
+    std::optional<Projet2D> projet2D;
+    std::optional<Projet4axes> projet4axes;
+};
+
+// Reads a file of any kind that the program opens. FauteFichier, FauteLecture, FauteConversion.
+ContenuFichier LireContenuFichier(const std::string& chemin, float distNettoyage);
 
 // An empty workspace with the machine's default block.
 Espace2D NouvelEspace2D(const TableMachine& table);
