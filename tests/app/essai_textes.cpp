@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cctype>
 #include <functional>
 #include <set>
@@ -323,4 +324,72 @@ TEST(Textes, AucunMotFrancaisDansLeJeuAnglais) {
             mot.clear();
         }
     }
+}
+
+TEST(Textes, TextesNommesALaLettre) {
+    EXPECT_EQ(Texte(TexteProgramme::InstanceUniqueTitre), "Tessarel est déjà en route");
+    EXPECT_EQ(Texte(TexteProgramme::InstanceUnique),
+              "Tessarel ne peut avoir qu'une seule instance, l'instance que "
+              "vous venez de lancer va se fermer.");
+    EXPECT_EQ(
+        TexteRempli(TexteProgramme::ErreurEtape, {"6", "Dépassement", "0", "Form_Load", "frmSplashScreen"}),
+        "Erreur 6 (Dépassement) à la ligne 0, de la procédure Form_Load de Feuille frmSplashScreen");
+    EXPECT_EQ(TexteRempli(TexteProgramme::ProcedureErreurTitre, {"cmdLancerLaDecoupeTS2D"}),
+              "Procédure de l'erreur :cmdLancerLaDecoupeTS2D");
+    EXPECT_EQ(TexteRempli(TexteProgramme::ChargementMachineImpossible, {"Ma table"}),
+              "Problème : impossible de charger la table Ma table\r\n"
+              "Merci de remonter le problème à " TESSAREL_COURRIEL_SUPPORT);
+    EXPECT_EQ(TexteRempli(TexteProgramme::ReparationTitre, {"CourseX"}), "CourseX=0, valeur impossible");
+    EXPECT_EQ(
+        Texte(TexteProgramme::ReparationLongueurFil),
+        "LongueurMaxiFil modifiée à la valeur EcartementY1Y2 dans Tessarel.ini pour éviter les erreurs de "
+        "calcul.");
+    const std::string haut =
+        TexteRempli(TexteProgramme::OrigineEnHautTexte, {"Vieille", "https://site.example"});
+    EXPECT_NE(haut.find("\r\nLa machine Vieille est enregistrée avec l'origine en haut dans le fichier "
+                        "Tessarel.ini.\r\n"),
+              std::string::npos);
+    EXPECT_TRUE(haut.ends_with("il faut utiliser le logiciel Tessarel2D https://site.example"));
+    EXPECT_EQ(Texte(TexteProgramme::CommentaireTropLong),
+              "Commentaire trop long, il sera limité à 256 caractères.");
+    EXPECT_EQ(
+        Texte(TexteProgramme::AncienneVersion),
+        "Attention, ce fichier provient d'une ancienne version de Tessarel, il peut y avoir un erreur sur le "
+        "placement en Z.\r\n"
+        "Une fois le fichier ouvert, corrigez le placement et réenregistrez (clic sur le bouton Enregistrer) "
+        "pour supprimer ce message à la prochaine ouverture.");
+    EXPECT_EQ(Texte(TexteProgramme::IniSansRetourChariotTitre), TitresMessages(244));
+    EXPECT_EQ(Compter(Texte(TexteProgramme::IniSansRetourChariot), "\r\n"), 2);
+    EXPECT_NE(Texte(TexteProgramme::IniSansRetourChariotMatieres).find("(attention, pas avec le bloc-notes)"),
+              std::string::npos);
+    EXPECT_EQ(Texte(TexteProgramme::FiltreGcode),
+              "Fichier Gcode(*.gcode)|*.gcode|Tous les fichiers (*.*)|*.*");
+    EXPECT_EQ(Texte(TexteProgramme::VitesseTropBasse), "ATTENTION, vitesse < 0.05mm/s, découpe impossible");
+    EXPECT_EQ(TexteRempli(TexteProgramme::ResumeChauffe, {"65.0", "0.5"}),
+              "Chauffe : 65.0% - Décalage : 0.5mm");
+}
+
+// The dialogs pair labels with patterns: both languages must offer the same patterns in the same order.
+TEST(Textes, LesFiltresOntLesMemesMotifsDansLesDeuxLangues) {
+    const auto motifs = [](const std::string& filtre) {
+        std::vector<std::string> trouves;
+        std::size_t rang = 0;
+        for (std::size_t debut = 0; debut <= filtre.size(); ++rang) {
+            const std::size_t fin = std::min(filtre.find('|', debut), filtre.size());
+            if (rang % 2 == 1) trouves.push_back(filtre.substr(debut, fin - debut));
+            debut = fin + 1;
+        }
+        EXPECT_EQ(rang % 2, 0U) << filtre;
+        return trouves;
+    };
+    for (const TexteProgramme cle : {TexteProgramme::FiltreProjet, TexteProgramme::FiltreDessins,
+                                     TexteProgramme::FiltreExportDxf, TexteProgramme::FiltreGcode}) {
+        const auto francais = motifs(Texte(cle));
+        const AvecLangue english(Langue::English);
+        EXPECT_EQ(motifs(Texte(cle)), francais);
+    }
+    EXPECT_EQ(
+        motifs(Texte(TexteProgramme::FiltreDessins)),
+        (std::vector<std::string>{"*.tsr", "*.qnt", "*.dxf", "*.txt", "*.dat", "*.plt", "*.eps", "*.cpx",
+                                  "*.fc", "*.tsr;*.qnt;*.dxf;*.txt;*.dat;*.plt;*.eps;*.cpx;*.fc", "*.*"}));
 }
