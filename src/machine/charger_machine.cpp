@@ -7,6 +7,7 @@
 #include "platform/erreurs.h"
 #include "platform/nombres.h"
 #include "platform/profil_prive.h"
+#include "platform/raisons.h"
 
 #include <limits>
 
@@ -19,7 +20,7 @@ constexpr std::int16_t TempoChauffeMinimale = 1; // s
 template <typename Entier>
 Entier EntierDepuis(double valeur, const char* cle) {
     if (!(valeur >= std::numeric_limits<Entier>::min() && valeur <= std::numeric_limits<Entier>::max()))
-        throw FauteDepassement(std::string("Dépassement de capacité : ") + cle);
+        throw FauteDepassement(SelonLangue("Dépassement de capacité : ", "Overflow: ") + std::string(cle));
     return static_cast<Entier>(valeur);
 }
 

@@ -1,12 +1,15 @@
 // The run-time faults of the program: one family, so that the crash handling can take them all.
 #pragma once
 
+#include "platform/raisons.h"
+
 #include <stdexcept>
 #include <string>
 
 namespace tessarel {
 
-// Numbers under which faults are reported; they are those that users of the program know from its error boxes.
+// Numbers under which faults are reported; they are those that users of the program know from its error
+// boxes.
 enum class NumeroErreur : int {
     Depassement = 6,
     IndiceHorsBornes = 9,
@@ -47,7 +50,7 @@ public:
 class FauteFichier : public Faute {
 public:
     FauteFichier(NumeroErreur numero, const std::string& chemin, const std::string& raison)
-        : Faute(numero, chemin + " : " + raison), m_chemin(chemin) {}
+        : Faute(numero, chemin + SelonLangue(" : ", ": ") + raison), m_chemin(chemin) {}
     [[nodiscard]] const std::string& Chemin() const { return m_chemin; }
 
 private:
@@ -59,7 +62,8 @@ class FauteLecture : public Faute {
 public:
     FauteLecture(const std::string& chemin, long ligne, const std::string& raison)
         : Faute(NumeroErreur::ConversionImpossible,
-                chemin + (ligne > 0 ? " (" + std::to_string(ligne) + ")" : "") + " : " + raison),
+                chemin + (ligne > 0 ? SelonLangue(", ligne ", ", line ") + std::to_string(ligne) : "") +
+                    SelonLangue(" : ", ": ") + raison),
           m_chemin(chemin), m_ligne(ligne) {}
     [[nodiscard]] const std::string& Chemin() const { return m_chemin; }
     [[nodiscard]] long Ligne() const { return m_ligne; }
@@ -72,8 +76,7 @@ private:
 // An invariant of the program found broken: a sentence, and the end of the run in the crash handling.
 class FauteInterne : public Faute {
 public:
-    explicit FauteInterne(const std::string& description)
-        : Faute(NumeroErreur::ErreurInterne, description) {}
+    explicit FauteInterne(const std::string& description) : Faute(NumeroErreur::ErreurInterne, description) {}
 };
 
 } // namespace tessarel

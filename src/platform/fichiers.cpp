@@ -2,11 +2,11 @@
 #include "fichiers.h"
 
 #include "erreurs.h"
+#include "raisons.h"
 
 #include <array>
 #include <cerrno>
 #include <cstdint>
-#include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
@@ -17,9 +17,8 @@ namespace tessarel {
 
 namespace {
 
-std::string RaisonSysteme(int code) { return std::strerror(code); }
-
-// Length of the UTF-8 sequence that starts at `i`, 0 when it is none (overlong forms and surrogates included).
+// Length of the UTF-8 sequence that starts at `i`, 0 when it is none (overlong forms and surrogates
+// included).
 std::size_t LongueurUtf8(std::string_view s, std::size_t i) {
     const auto octet = [&](std::size_t k) -> unsigned {
         return k < s.size() ? static_cast<unsigned char>(s[k]) : 0U;
@@ -62,7 +61,9 @@ void AjouterUtf8(std::string& sortie, unsigned code) {
     }
 }
 
-char MinusculeAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+char MinusculeAscii(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
 
 } // namespace
 
@@ -71,20 +72,19 @@ std::string LireFichierEntier(const std::string& chemin) {
     const int fd = ::open(chemin.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (fd < 0) {
         const int code = errno;
-        throw FauteFichier(code == ENOENT ? NumeroErreur::FichierIntrouvable : NumeroErreur::AccesRefuse, chemin,
-                           RaisonSysteme(code));
+        throw FauteFichier(code == ENOENT ? NumeroErreur::FichierIntrouvable : NumeroErreur::AccesRefuse,
+                           chemin, RaisonSysteme(code));
     }
     struct Fermeture {
         int fd;
         ~Fermeture() { ::close(fd); }
     } fermeture{fd};
     struct stat infos {};
-    if (::fstat(fd, &infos) != 0)
-        throw FauteFichier(NumeroErreur::AccesRefuse, chemin, RaisonSysteme(errno));
-    if (S_ISDIR(infos.st_mode))
-        throw FauteFichier(NumeroErreur::AccesRefuse, chemin, "c'est un dossier / it is a folder");
+    if (::fstat(fd, &infos) != 0) throw FauteFichier(NumeroErreur::AccesRefuse, chemin, RaisonSysteme(errno));
+    if (S_ISDIR(infos.st_mode)) throw FauteFichier(NumeroErreur::AccesRefuse, chemin, RaisonSysteme(EISDIR));
     if (!S_ISREG(infos.st_mode))
-        throw FauteFichier(NumeroErreur::AccesRefuse, chemin, "ce n'est pas un fichier / it is no regular file");
+        throw FauteFichier(NumeroErreur::AccesRefuse, chemin,
+                           SelonLangue("ce n'est pas un fichier ordinaire", "it is not a regular file"));
     std::string octets(static_cast<std::size_t>(infos.st_size), '\0');
     std::size_t lus = 0;
     for (;;) {
@@ -137,7 +137,7 @@ void EcrireFichierAtomique(const std::string& chemin, std::string_view octets) {
 
 EcritureAtomique::EcritureAtomique(std::string chemin) : m_chemin(std::move(chemin)) {
     if (DossierExiste(m_chemin))
-        throw FauteFichier(NumeroErreur::EcritureImpossible, m_chemin, "c'est un dossier / it is a folder");
+        throw FauteFichier(NumeroErreur::EcritureImpossible, m_chemin, RaisonSysteme(EISDIR));
     // A link is followed: its target is replaced, not the link.
     std::error_code ec;
     const auto vrai = std::filesystem::weakly_canonical(m_chemin, ec);
@@ -152,7 +152,8 @@ EcritureAtomique::EcritureAtomique(std::string chemin) : m_chemin(std::move(chem
     struct stat infos {};
     const mode_t masque = ::umask(0);
     ::umask(masque);
-    const mode_t droits = ::stat(m_chemin.c_str(), &infos) == 0 ? (infos.st_mode & 07777U) : (0666U & ~masque);
+    const mode_t droits =
+        ::stat(m_chemin.c_str(), &infos) == 0 ? (infos.st_mode & 07777U) : (0666U & ~masque);
     (void)::fchmod(fd, droits);
     m_fichier = ::fdopen(fd, "wb");
     if (m_fichier == nullptr) {
@@ -163,7 +164,9 @@ EcritureAtomique::EcritureAtomique(std::string chemin) : m_chemin(std::move(chem
     (void)std::setvbuf(m_fichier, nullptr, _IOFBF, std::size_t{1} << 18U);
 }
 
-EcritureAtomique::~EcritureAtomique() { Abandonner(); }
+EcritureAtomique::~EcritureAtomique() {
+    Abandonner();
+}
 
 void EcritureAtomique::Abandonner() {
     if (m_fichier != nullptr) std::fclose(m_fichier);
@@ -178,12 +181,19 @@ void EcritureAtomique::Echouer(const std::string& raison) {
 }
 
 void EcritureAtomique::Ecrire(std::string_view octets) {
-    if (m_fichier == nullptr) throw FauteInterne("écriture dans un fichier déjà fermé : " + m_chemin);
-    if (std::fwrite(octets.data(), 1, octets.size(), m_fichier) != octets.size()) Echouer(RaisonSysteme(errno));
+    if (m_fichier == nullptr)
+        throw FauteInterne(
+            SelonLangue("écriture dans un fichier déjà fermé : ", "writing to a file already closed: ") +
+            m_chemin);
+    if (std::fwrite(octets.data(), 1, octets.size(), m_fichier) != octets.size())
+        Echouer(RaisonSysteme(errno));
 }
 
 void EcritureAtomique::Valider() {
-    if (m_fichier == nullptr) throw FauteInterne("écriture dans un fichier déjà fermé : " + m_chemin);
+    if (m_fichier == nullptr)
+        throw FauteInterne(
+            SelonLangue("écriture dans un fichier déjà fermé : ", "writing to a file already closed: ") +
+            m_chemin);
     if (std::fflush(m_fichier) != 0 || ::fsync(::fileno(m_fichier)) != 0) Echouer(RaisonSysteme(errno));
     const int ferme = std::fclose(std::exchange(m_fichier, nullptr));
     if (ferme != 0) Echouer(RaisonSysteme(errno));

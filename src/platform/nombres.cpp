@@ -2,6 +2,7 @@
 #include "nombres.h"
 
 #include "erreurs.h"
+#include "raisons.h"
 
 #include <algorithm>
 #include <array>
@@ -14,7 +15,7 @@ namespace tessarel {
 
 namespace {
 
-constexpr std::array<double, 13> PuissancesDe10 = {1e0, 1e1, 1e2, 1e3, 1e4,  1e5, 1e6,
+constexpr std::array<double, 13> PuissancesDe10 = {1e0, 1e1, 1e2, 1e3,  1e4,  1e5, 1e6,
                                                    1e7, 1e8, 1e9, 1e10, 1e11, 1e12};
 
 // Writes the whole part and the decimals of a value already scaled by 10^decimalesMax and rounded.
@@ -93,8 +94,8 @@ char* EcrireParChiffres(char* sortie, Reel valeur, Masque masque, int significat
     return sortie;
 }
 
-// The scaled value is within a few units of 2^-52 of the true one; only this close to a half can the 15 digits
-// decide otherwise.
+// The scaled value is within a few units of 2^-52 of the true one; only this close to a half can the 15
+// digits decide otherwise.
 constexpr double VoisinageDemi = 1e-4;
 // Above this the scaled value has no digits left to tell a half by.
 constexpr double EchelleMax = 1e10;
@@ -166,7 +167,8 @@ double NombreDepuisTexte(std::string_view texte) {
             garde += '.';
         } else if (c == ' ' || octet == 0xA0) {
             continue;
-        } else if (octet == 0xC2 && i + 1 < texte.size() && static_cast<unsigned char>(texte[i + 1]) == 0xA0) {
+        } else if (octet == 0xC2 && i + 1 < texte.size() &&
+                   static_cast<unsigned char>(texte[i + 1]) == 0xA0) {
             ++i;
         } else {
             break;
@@ -210,17 +212,20 @@ double Arrondi(double valeur) {
 std::int32_t ArrondiLong(double valeur) {
     const double r = Arrondi(valeur);
     if (!(r >= -2147483648.0 && r <= 2147483647.0))
-        throw FauteDepassement("Dépassement de capacité (32 bits)");
+        throw FauteDepassement(SelonLangue("Dépassement de capacité (32 bits)", "Overflow (32 bits)"));
     return static_cast<std::int32_t>(r);
 }
 
 std::int16_t ArrondiInteger(double valeur) {
     const double r = Arrondi(valeur);
-    if (!(r >= -32768.0 && r <= 32767.0)) throw FauteDepassement("Dépassement de capacité (16 bits)");
+    if (!(r >= -32768.0 && r <= 32767.0))
+        throw FauteDepassement(SelonLangue("Dépassement de capacité (16 bits)", "Overflow (16 bits)"));
     return static_cast<std::int16_t>(r);
 }
 
-double PartieEntiere(double valeur) { return std::floor(valeur); }
+double PartieEntiere(double valeur) {
+    return std::floor(valeur);
+}
 
 std::int16_t CompteurInteger(std::size_t compte, const std::string& message) {
     if (compte > 32767) throw FauteDepassement(message);

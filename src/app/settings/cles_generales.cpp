@@ -4,6 +4,7 @@
 #include "gestion_ini.h"
 #include "platform/erreurs.h"
 #include "platform/nombres.h"
+#include "platform/raisons.h"
 
 #include <array>
 
@@ -35,7 +36,9 @@ constexpr std::array<CleGenerale, 15> Table = {{
 const CleGenerale& Rangee(const std::string& cle) {
     for (const CleGenerale& rangee : Table)
         if (cle == rangee.cle) return rangee;
-    throw FauteInterne("clé inconnue de la table des paramètres : " + cle);
+    throw FauteInterne(
+        SelonLangue("clé inconnue de la table des paramètres : ", "key unknown to the table of settings: ") +
+        cle);
 }
 
 std::string Lire(const CleGenerale& rangee) {
@@ -55,7 +58,8 @@ struct Ecrire {
     const P& parametres;
     const char* masque;
     std::string operator()(std::monostate) const {
-        throw FauteInterne("cette clé n'est portée par aucun paramètre");
+        throw FauteInterne(
+            SelonLangue("cette clé n'est portée par aucun paramètre", "no setting carries this key"));
     }
     std::string operator()(std::string P::*champ) const { return parametres.*champ; }
     std::string operator()(float P::*champ) const { return FormaterNombre(parametres.*champ, masque); }

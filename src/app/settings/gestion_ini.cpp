@@ -6,6 +6,7 @@
 #include "platform/erreurs.h"
 #include "platform/nombres.h"
 #include "platform/profil_prive.h"
+#include "platform/raisons.h"
 
 #include <cmath>
 #include <limits>
@@ -69,7 +70,7 @@ double LireNombreIni(const std::string& section, const std::string& cle, const s
 float SimpleDepuisTexte(const std::string& texte) {
     const double valeur = NombreDepuisTexte(texte);
     if (std::abs(valeur) > std::numeric_limits<float>::max())
-        throw FauteDepassement("Dépassement de capacité : " + texte);
+        throw FauteDepassement(SelonLangue("Dépassement de capacité : ", "Overflow: ") + texte);
     return EnSimple(valeur);
 }
 

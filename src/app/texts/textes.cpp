@@ -2,6 +2,7 @@
 #include "app/texts/textes.h"
 
 #include "app/texts/rangees.h"
+#include "platform/raisons.h"
 
 #include <array>
 
@@ -68,6 +69,7 @@ Langue LangueDepuisTexte(const std::string& valeur) {
 
 void ChargerMessages(Langue langue) {
     langueEnUsage = langue;
+    DireRaisonsEnAnglais(langue == Langue::English);
 }
 
 Langue LangueCourante() {

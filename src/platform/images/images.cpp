@@ -4,6 +4,7 @@
 #include "platform/erreurs.h"
 #include "platform/fichiers.h"
 #include "platform/images/peinture_qt.h"
+#include "platform/raisons.h"
 
 #include <QBuffer>
 #include <QGuiApplication>
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cmath>
 #include <memory>
 #include <string_view>
@@ -74,7 +76,7 @@ void EcrireApercuPng(const std::string& chemin, const Dessin& dessin, const Cadr
     const auto application = ApplicationSiAbsente();
     QImage image(std::clamp(largeur, 1, CoteMaxApercu), std::clamp(hauteur, 1, CoteMaxApercu),
                  QImage::Format_ARGB32_Premultiplied);
-    if (image.isNull()) throw FauteFichier(NumeroErreur::EcritureImpossible, chemin, "pas assez de mémoire");
+    if (image.isNull()) throw FauteFichier(NumeroErreur::EcritureImpossible, chemin, RaisonSysteme(ENOMEM));
     image.fill(EnQColor(fond));
     const bool polices = qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
     {
@@ -89,7 +91,8 @@ void EcrireApercuPng(const std::string& chemin, const Dessin& dessin, const Cadr
     QBuffer tampon(&octets);
     tampon.open(QIODevice::WriteOnly);
     if (!image.save(&tampon, "PNG")) {
-        throw FauteFichier(NumeroErreur::EcritureImpossible, chemin, "image impossible à coder");
+        throw FauteFichier(NumeroErreur::EcritureImpossible, chemin,
+                           SelonLangue("l'image n'a pas pu être codée", "the picture could not be encoded"));
     }
     EcrireFichierAtomique(chemin,
                           std::string_view(octets.constData(), static_cast<std::size_t>(octets.size())));
