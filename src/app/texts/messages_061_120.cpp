@@ -203,7 +203,7 @@ constexpr RangeeTexte RANGEES[] = {
      "between two moves, on belt-driven machines for example. The default setting is restored when you click "
      "on the button again or leave the window.",
      "Motors always powered"},
-    {104, "Nom de la matière :", "Base de données Matières", "Name of the material:", "Material database"},
+    {104, "Nom de la matière :", "Base de données Matières", "Material name:", "Material database"},
     {105, "Par defaut", "", "Default", ""},
     {106, "L'interrupteur de chauffe ON/OFF doit être mis sur ON", "Opération impossible",
      "The ON/OFF heating switch must be set to ON", "Operation not possible"},

@@ -160,7 +160,7 @@ constexpr RangeeTexte RANGEES[] = {
      "The parameters cannot be opened while a button is pressed (Square up or Guillotine buttons).",
      "Operation not possible"},
     {156, "Point d'arrêt", "", "Stop point", ""},
-    {157, "Désactiver", " Dressage du bloc ", "Switch off", " Squaring of the block "},
+    {157, "Désactiver", " Dressage du bloc ", "Switch off", " Block squaring "},
     {158, "Activer", " Outil guillotine ", "Switch on", " Guillotine tool "},
     {159, "Point d'arrêt, il faut relancer manuellement le mouvement", "Suite de la découpe",
      "Breakpoint, Manually restart the move", "Following the cut"},

@@ -292,7 +292,7 @@ constexpr RangeeTexte RANGEES[] = {
      "No table with the same name, motion disabled",
      "Same name and same definition of the active outputs, motion enabled!"},
     {250, "Une nouvelle version est disponible : ", "Impossible de vérifier la mise à jour",
-     "A new version is available: ", "The update could not be checked"},
+     "A new version is available: ", "Unable to check for updates"},
     {251,
      "Tessarel va lancer le navigateur internet puis va se fermer. Téléchargez puis lancez l'installeur de "
      "mise à jour.\r\n"
