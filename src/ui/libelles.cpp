@@ -103,6 +103,9 @@ void AppliquerRangee(QObject& objet, const Libelle& libelle, Langue langue) {
     case Propriete::Texte:
         objet.setProperty(ProprieteTexte(objet), texte);
         break;
+    case Propriete::Detail:
+        objet.setProperty("description", texte);
+        break;
     case Propriete::Bulle:
         objet.setProperty("toolTip", AvecRaccourci(texte, objet));
         break;
@@ -207,7 +210,7 @@ std::vector<std::string> DefautsLibelles(QWidget& fenetre, std::span<const Libel
         }
         if (libelle.propriete == Propriete::Bulle) {
             avecBulle.insert(libelle.controle);
-        } else if (libelle.propriete != Propriete::Etat) {
+        } else if (libelle.propriete != Propriete::Etat && libelle.propriete != Propriete::Detail) {
             avecMots.insert(libelle.controle);
         }
     }

@@ -15,6 +15,7 @@ namespace tessarel {
 // What a row says of its control.
 enum class Propriete {
     Texte,    // what stands on it: caption, title of a group, a menu or a dock, first words of a field
+    Detail,   // second line of a large button
     Bulle,    // tool tip; where the control has a shortcut, it is added in brackets
     Etat,     // status bar text
     Titre,    // title of a window
