@@ -166,6 +166,9 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
     // 2D work
     {TexteProgramme::PasDeCoefficient, "pas de coeff défini => " COURRIEL,
      "no scale factor defined => " COURRIEL},
+    {TexteProgramme::MargesPlusGrandesQueLeBloc,
+     "Le bloc est trop petit pour ses marges intérieures, les tracés n'ont pas été mis à l'échelle.",
+     "The block is too small for its inner margins; the paths have not been scaled."},
     {TexteProgramme::PileTransformations, "NbTransf <0 dans cmdUndoTS2D_click => " COURRIEL,
      "NbTransf <0 in cmdUndoTS2D_click => " COURRIEL},
     {TexteProgramme::TrajetTropLong,

@@ -68,6 +68,7 @@ enum class TexteProgramme {
 
     // 2D work
     PasDeCoefficient,
+    MargesPlusGrandesQueLeBloc,
     PileTransformations,
     TrajetTropLong, // %1 points present, %2 highest count
     FiltreGcode,
