@@ -1,6 +1,9 @@
 // The G-code writer that 2D and 4-axis cuts share: a list of lines in one dialect, inverse time, four axes.
 #pragma once
 
+#include "platform/nombres.h"
+
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,19 +21,31 @@ struct EnteteGcode {
     std::string nomMachine;
     float corde1 = 0; // mm
     float corde2 = 0;
+    std::optional<Masque> masqueCordes = Masque("###0.0"); // none: plain numbers, at most seven digits
     std::vector<std::string> lignesProjet; // lines after the chords, with their parentheses: "(Projet 2D)"
     float chauffe = 0;                     // percent
     int tempoChauffe = 0;                  // s
     LettresAxes lettres;
 };
 
+// What the summary of a file says.
+struct ResumeGcode {
+    int dureeSecondes = 0;
+    float vitesse = 0; // mm/s, the cutting speed in force
+    float chauffe = 0; // percent
+};
+// The summary's line, parentheses included.
+std::string LigneResumeGcode(const ResumeGcode& resume);
+// The same on lines of its own, CR LF between them, for the box that ends an export.
+std::string TexteResumeGcode(const ResumeGcode& resume);
+
 // A G-code file in the making: text of lines ended by CR LF, with the place of the summary kept free.
 class FichierGcode {
 public:
     // Head of the file up to the starting point, the summary still empty.
     void EcrireEntete(const EnteteGcode& entete);
-    // "G01 X.. Y.. A.. Z.. F.." to a point of each side, `f` in inverse minutes. Allocates nothing per line once
-    // `Reserver` gave room.
+    // "G01 X.. Y.. A.. Z.. F.." to a point of each side, `f` in inverse minutes. Allocates nothing per line
+    // once `Reserver` gave room.
     void AjouterMouvement(double x1, double y1, double x2, double y2, double f);
     void Reserver(std::size_t mouvements);
     // A line as it stands (stop points of a 4-axis file and the like).
