@@ -138,10 +138,23 @@ TEST(Depassements, UneSequenceVideResteVide) {
 }
 
 TEST(Depassements, UnBoutAUnDernierChiffreDuBordGardeSonSegment) {
-    // The end is the next single after 300: in 32 bits the crossing falls on the end itself.
-    const float apres = std::nextafter(300.0F, 301.0F);
-    const Tronque t = Tronquer({{-4000, 100}, {apres, 100}});
-    EXPECT_EQ(t.bornes, (Liste{{5, 100, 1}, {300, 100}}));
+    // The end is the next single after the travel: in 32 bits the crossing may fall on the end itself.
+    std::mt19937_64 hasard(57);
+    std::uniform_real_distribution<float> marge(0.1F, 30);
+    int surLeBout = 0;
+    for (int course = 100; course < 3000; ++course) {
+        TableMachine table = MachineEssai();
+        table.CourseX = course;
+        table.CourseY = 200 + course % 317;
+        table.MargeFilPlateau = marge(hasard);
+        const float apres = std::nextafter(static_cast<float>(course), 1e6F);
+        Sequence chemin = Chemin({{marge(hasard) + 5, 100}, {apres, 150}});
+        ControleDepassementTS2D(chemin, table);
+        ASSERT_EQ(chemin.Points.size(), 2U) << course;
+        EXPECT_NEAR(chemin.Points[1].X, course, 1e-3);
+        surLeBout += chemin.Points[1].Drapeaux == 0 ? 1 : 0;
+    }
+    EXPECT_GT(surLeBout, 0);
 }
 
 namespace {
