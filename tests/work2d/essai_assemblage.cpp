@@ -1,3 +1,4 @@
+// The road of a 2D cut as a whole: joining, thinning, counts, what is left when a stage fails.
 #include "outils/boites.h"
 #include "outils_decoupe.h"
 #include "platform/erreurs.h"

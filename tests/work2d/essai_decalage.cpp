@@ -1,3 +1,4 @@
+// The kerf offset: corners, ends, loops, doubles, and what must hold for any path.
 #include "work2d/decalage.h"
 
 #include "outils/boites.h"

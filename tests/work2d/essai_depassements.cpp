@@ -1,3 +1,4 @@
+// The clip to the useful zone: each border, each corner, and what must hold for any path.
 #include "work2d/depassements.h"
 
 #include "outils_decoupe.h"

@@ -1,3 +1,4 @@
+// Every way into the block and out of it, for both places of the origin.
 #include "work2d/entrees_sorties.h"
 
 #include "outils_decoupe.h"

@@ -1,3 +1,4 @@
+// The exported file, byte for byte, and the rules of its lines.
 #include "app/texts/textes.h"
 #include "outils/boites.h"
 #include "outils_decoupe.h"

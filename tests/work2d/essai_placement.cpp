@@ -1,3 +1,4 @@
+// The block of a machine, and paths placed in it by the rules.
 #include "work2d/placement.h"
 
 #include "outils/boites.h"

@@ -1,3 +1,4 @@
+// What the summary of a cut says.
 #include "work2d/resume.h"
 
 #include "outils/boites.h"

@@ -1,3 +1,4 @@
+// Speeds and durations of the segments of a cut.
 #include "work2d/vitesses.h"
 
 #include "outils_decoupe.h"
