@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <string>
@@ -20,12 +21,12 @@ struct PointSimple {
 
 // What a read did besides the points: for the import report. Kinds are the file's own entity names.
 struct RapportLecture {
-    std::map<std::string, int> lus;      // entities that gave paths, by kind
-    std::map<std::string, int> ignores;  // entities that are no paths, by kind
-    std::map<std::string, int> couches;  // entities read, by layer (DXF)
-    int joints = 0;                      // pieces joined to the one before, end to end
-    int retournes = 0;                   // of these, turned round
-    std::vector<std::string> notes;      // what was put right, one sentence each
+    std::map<std::string, int> lus;     // entities that gave paths, by kind
+    std::map<std::string, int> ignores; // entities that are no paths, by kind
+    std::map<std::string, int> couches; // entities read, by layer (DXF)
+    int joints = 0;                     // pieces joined to the one before, end to end
+    int retournes = 0;                  // of these, turned round
+    std::vector<std::string> notes;     // what was put right, one sentence each
 };
 
 struct Etendue {
@@ -35,13 +36,18 @@ struct Etendue {
     float YMax = 0;
 };
 
+// Code of polyline `rang` (from 0) out of `nombre`: neighbours differ, and the first is above the last as
+// soon as there are two. Codes come back in a descending cycle, so that any number of polylines has them.
+std::array<char, 2> CodePolyligne(std::size_t rang, std::size_t nombre);
+
 // Version of the library times 100: 30 is 0.30, the lowest that the program likes.
 std::int32_t VersionGabar();
 
-// Reads a drawing. `extension` is "dxf", "dat", "plt" or "eps", in any case. `points` receives the points of all
-// polylines in file order, a change of `CodeSequence` marking a new one: the first code of the array is above the
-// last whenever there are two polylines or more. Coordinates are mm. Throws FauteFichier or FauteLecture with a
-// sentence that names the file and, for a text format, the line; `points` then holds one point at 0.
+// Reads a drawing. `extension` is "dxf", "dat", "plt" or "eps", in any case. `points` receives the points of
+// all polylines in file order, a change of `CodeSequence` marking a new one: the first code of the array is
+// above the last whenever there are two polylines or more. Coordinates are mm. Throws FauteFichier or
+// FauteLecture with a sentence that names the file and, for a text format, the line; `points` then holds one
+// point at 0.
 void LireFichier(std::vector<PointSimple>& points, const std::string& chemin, Etendue& etendue,
                  const std::string& extension, RapportLecture* rapport = nullptr);
 

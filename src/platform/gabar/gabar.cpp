@@ -1,0 +1,83 @@
+// The file library's entries: the choice of the reader or writer by extension.
+#include "gabar.h"
+
+#include "lecture.h"
+#include "messages.h"
+#include "platform/erreurs.h"
+#include "platform/fichiers.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+
+namespace tessarel {
+
+namespace {
+
+// Characters of the codes, in ascending order of their bytes.
+constexpr std::string_view Chiffres = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+constexpr std::size_t NombreCodes = Chiffres.size() * Chiffres.size();
+
+Etendue EtenduePoints(const std::vector<PointSimple>& points) {
+    Etendue e{points[0].X, points[0].X, points[0].Y, points[0].Y};
+    for (const PointSimple& p : points) {
+        e.XMin = std::min(e.XMin, p.X);
+        e.XMax = std::max(e.XMax, p.X);
+        e.YMin = std::min(e.YMin, p.Y);
+        e.YMax = std::max(e.YMax, p.Y);
+    }
+    return e;
+}
+
+} // namespace
+
+std::array<char, 2> CodePolyligne(std::size_t rang, std::size_t nombre) {
+    // The last has the lowest code for itself, the others go round through those above it.
+    const std::size_t code = rang + 1 >= nombre ? 0 : 1 + (nombre - 2 - rang) % (NombreCodes - 1);
+    return {Chiffres[code / Chiffres.size()], Chiffres[code % Chiffres.size()]};
+}
+
+std::int32_t VersionGabar() {
+    return 100;
+}
+
+void LireFichier(std::vector<PointSimple>& points, const std::string& chemin, Etendue& etendue,
+                 const std::string& extension, RapportLecture* rapport) {
+    // A failed read leaves one point at 0.
+    points.assign(1, PointSimple{});
+    etendue = {};
+    RapportLecture local;
+    std::vector<PointSimple> lus;
+    const std::string genre = EnMinuscules(extension);
+    if (genre == "dxf") {
+        LireDxf(lus, chemin, local);
+    } else if (genre == "dat") {
+        LireDat(lus, chemin, local);
+    } else {
+        throw FauteLecture(
+            chemin, 0,
+            Bilingue(fmt::format("les fichiers .{} ne sont pas lus par cette version", Citation(genre)),
+                     fmt::format(".{} files are not read by this version", Citation(genre))));
+    }
+    points = std::move(lus);
+    etendue = EtenduePoints(points);
+    if (rapport != nullptr) *rapport = std::move(local);
+}
+
+void EcrireFichier(const std::string& chemin, const std::string& extension,
+                   const std::vector<PointSimple>& points) {
+    if (points.empty())
+        throw FauteFichier(NumeroErreur::EcritureImpossible, chemin,
+                           Bilingue("aucun tracé à écrire", "no path to write"));
+    const std::string genre = EnMinuscules(extension);
+    if (genre == "dxf") {
+        EcrireFichierAtomique(chemin, TexteDxf(points));
+    } else if (genre == "dat") {
+        EcrireFichierAtomique(chemin, TexteDat(chemin, points));
+    } else {
+        throw FauteFichier(NumeroErreur::EcritureImpossible, chemin,
+                           Bilingue(fmt::format("le format .{} ne s'écrit pas", Citation(genre)),
+                                    fmt::format(".{} files are not written", Citation(genre))));
+    }
+}
+
+} // namespace tessarel

@@ -1,0 +1,19 @@
+// The readers and writers of the file library, one for each kind of file; LireFichier and EcrireFichier
+// choose.
+#pragma once
+
+#include "gabar.h"
+
+#include <string>
+#include <vector>
+
+namespace tessarel {
+
+void LireDxf(std::vector<PointSimple>& points, const std::string& chemin, RapportLecture& rapport);
+void LireDat(std::vector<PointSimple>& points, const std::string& chemin, RapportLecture& rapport);
+
+// Text of a file with these polylines, which are one or more.
+std::string TexteDxf(const std::vector<PointSimple>& points);
+std::string TexteDat(const std::string& chemin, const std::vector<PointSimple>& points);
+
+} // namespace tessarel

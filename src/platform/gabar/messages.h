@@ -1,0 +1,18 @@
+// The sentences of the file readers, French and English side by side: this layer stands below the text
+// tables.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessarel {
+
+// "français / English".
+inline std::string Bilingue(std::string_view francais, std::string_view anglais) {
+    return std::string(francais) + " / " + std::string(anglais);
+}
+
+// A piece of a foreign file made fit for a message: valid UTF-8, no control characters, at most 40 bytes.
+std::string Citation(std::string_view texte);
+
+} // namespace tessarel
