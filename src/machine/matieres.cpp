@@ -80,6 +80,8 @@ float Brider(float valeur, float limite, int rangee) {
 } // namespace
 
 bool ChargerBaseMatieres() {
+    MatieresMachine = {MatiereParDefaut(TableINI)};
+    MatieresAutresMachines = {Matiere{}}; // element 0 is never a material
     if (!StructureIniCorrecte()) {
         AfficherCritique(Texte(TexteProgramme::IniSansRetourChariotMatieres),
                          Texte(TexteProgramme::IniSansRetourChariotTitre));
@@ -87,8 +89,7 @@ bool ChargerBaseMatieres() {
     }
     const EcrituresGroupees ensemble(DossiersProgramme.FichierIni);
     ReparerVitesseMachine(TableINI);
-    std::vector<Matiere> miennes = {MatiereParDefaut(TableINI)};
-    std::vector<Matiere> autres = {Matiere{}}; // element 0 is never a material
+    MatieresMachine[0] = MatiereParDefaut(TableINI);
     bool defautDansLeFichier = false;
     for (const std::string& nom : NomsDesSections(std::string("[") + PrefixeMatiere)) {
         if (nom == NomParDefaut) {
@@ -96,15 +97,14 @@ bool ChargerBaseMatieres() {
             continue;
         }
         const std::string machine = ProprietaireOuAdoption(PrefixeMatiere + nom, TableINI.Nom);
-        (machine == TableINI.Nom ? miennes : autres).push_back(LireMatiere(nom, machine));
+        (machine == TableINI.Nom ? MatieresMachine : MatieresAutresMachines)
+            .push_back(LireMatiere(nom, machine));
     }
     if (defautDansLeFichier) {
         const std::string section = std::string(PrefixeMatiere) + NomParDefaut;
         EffacerSection(section);
         SupprimerLigneContenant("[" + section + "]");
     }
-    MatieresMachine = std::move(miennes);
-    MatieresAutresMachines = std::move(autres);
     return true;
 }
 

@@ -122,7 +122,8 @@ TEST_F(FichierReglages, LectureCoupeeA255Caracteres) {
 TEST_F(FichierReglages, ParametresLusDepuisLaTable) {
     Ecrire("[Parametres]\r\nLangue=English\r\nModeNormalExpert=Expert\r\nDistNettoyage=0,035\r\n"
            "EpaisseurLests=42\r\nMargesInterieuresBlocX=7,5\r\nSaigneeMaxiSoft=8\r\nOngletActif=TS2D\r\n");
-    const ParametresProgramme lus = LireParametres();
+    ParametresProgramme lus;
+    LireParametres(lus);
     EXPECT_EQ(lus.Langue, "English");
     EXPECT_TRUE(lus.ModeExpert());
     EXPECT_EQ(lus.DistNettoyage, 0.035F);
@@ -135,7 +136,8 @@ TEST_F(FichierReglages, ParametresLusDepuisLaTable) {
 
 TEST_F(FichierReglages, ParametresAbsentsPrennentLeDefautDeLecture) {
     Ecrire("[Parametres]\r\n");
-    const ParametresProgramme lus = LireParametres();
+    ParametresProgramme lus;
+    LireParametres(lus);
     EXPECT_EQ(lus.Langue, "Francais");
     EXPECT_EQ(lus.ModeNormalExpert, "");
     EXPECT_EQ(lus.DistNettoyage, 0.02F);
@@ -162,10 +164,13 @@ TEST_F(FichierReglages, ParametreEcritParSonMasque) {
 }
 
 TEST_F(FichierReglages, NombreDeParametreQuiNeTientPas) {
-    Ecrire("[Parametres]\r\nSaigneeMaxiSoft=99999999999\r\n");
-    EXPECT_THROW(LireParametres(), FauteDepassement);
+    ParametresProgramme lus;
+    Ecrire("[Parametres]\r\nSaigneeMaxiSoft=99999999999\r\nOngletActif=TS2D\r\n");
+    EXPECT_THROW(LireParametres(lus), FauteDepassement);
+    EXPECT_EQ(lus.SaigneeMaxiSoft, 6);
+    EXPECT_EQ(lus.OngletActif, "TS2D"); // the others are read
     Ecrire("[Parametres]\r\nDistNettoyage=" + std::string(100, '9') + "\r\n");
-    EXPECT_THROW(LireParametres(), FauteDepassement);
+    EXPECT_THROW(LireParametres(lus), FauteDepassement);
 }
 
 TEST(LangueNormalisee, FormesAdmises) {

@@ -7,6 +7,7 @@
 #include "platform/raisons.h"
 
 #include <array>
+#include <optional>
 
 namespace tessarel {
 
@@ -83,10 +84,16 @@ bool EcrireParametre(const std::string& cle, const ParametresProgramme& parametr
     return EcrireIni(SectionParametres, cle, std::visit(Ecrire{parametres, rangee.masque}, rangee.champ));
 }
 
-ParametresProgramme LireParametres() {
-    ParametresProgramme parametres;
-    for (const CleGenerale& rangee : Table) std::visit(Remplir{parametres, Lire(rangee)}, rangee.champ);
-    return parametres;
+void LireParametres(ParametresProgramme& parametres) {
+    std::optional<FauteDepassement> premiere;
+    for (const CleGenerale& rangee : Table) {
+        try {
+            std::visit(Remplir{parametres, Lire(rangee)}, rangee.champ);
+        } catch (const FauteDepassement& faute) {
+            if (!premiere) premiere = faute;
+        }
+    }
+    if (premiere) throw FauteDepassement(*premiere);
 }
 
 std::string NormaliserLangue(const std::string& valeur) {

@@ -34,8 +34,9 @@ std::span<const CleGenerale> ClesGenerales();
 std::string LireParametre(const std::string& cle);
 // Writes one parameter, a number through the mask of its row.
 bool EcrireParametre(const std::string& cle, const ParametresProgramme& parametres);
-// Fills all parameters from the settings file. FauteDepassement when a number does not fit its field.
-ParametresProgramme LireParametres();
+// Fills all parameters from the settings file. FauteDepassement when a number does not fit its field: that
+// parameter then keeps its value, all others are filled.
+void LireParametres(ParametresProgramme& parametres);
 
 // "francais" gives "Francais"; "english" and "USA" give "English"; any other text is given back.
 std::string NormaliserLangue(const std::string& valeur);

@@ -49,6 +49,7 @@ std::size_t NombreDeCaracteres(std::string_view utf8) {
 } // namespace
 
 bool StructureIniCorrecte() {
+    if (!FichierExiste(DossiersProgramme.FichierIni)) return true;
     const std::string texte = EnUtf8(LireFichierEntier(DossiersProgramme.FichierIni));
     const std::string_view premiere = std::string_view(texte).substr(0, texte.find("\r\n"));
     return NombreDeCaracteres(premiere) < LongueurPremiereLigneSansCR;

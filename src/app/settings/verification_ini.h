@@ -19,7 +19,8 @@ enum class EtatIni {
 // sets FichierIni.
 EtatIni VerifierPresenceINICorrigerSiBesoinEtCreerSiAbsent();
 
-// False when the first line of FichierIni, read whole and split at CR LF, has 301 characters or more.
+// False when the first line of FichierIni, read whole and split at CR LF, has 301 characters or more. A file
+// that could not be created is no fault of its structure; one that can't be read is a FauteFichier.
 bool StructureIniCorrecte();
 
 // What stands between `prefixe` ("[Machine_", "[Matiere_") and the last bracket in the lines of FichierIni
