@@ -121,6 +121,7 @@ const Fleches& FlechesDeLaMaison() {
         {"tests/app", {"tests/outils", "app/demarrage"}},
         {"tests/paths", {"tests/outils", "paths"}},
         {"tests/machine", {"tests/outils", "machine"}},
+        {"tests/link", {"tests/outils", "link"}},
         {"tests/work2d", {"tests/outils", "work2d"}},
         {"tests/corpus", {"tests/outils", "paths"}},
         {"tests/bout_en_bout", {"tests/outils", "paths"}},
