@@ -4,6 +4,7 @@
 #include "erreurs.h"
 #include "raisons.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdint>
@@ -68,6 +69,10 @@ char MinusculeAscii(char c) {
 } // namespace
 
 std::string LireFichierEntier(const std::string& chemin) {
+    return LireDebutFichier(chemin, SIZE_MAX);
+}
+
+std::string LireDebutFichier(const std::string& chemin, std::size_t nombre) {
     // Non-blocking: opening a pipe that nobody writes to must not hang.
     const int fd = ::open(chemin.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (fd < 0) {
@@ -85,9 +90,9 @@ std::string LireFichierEntier(const std::string& chemin) {
     if (!S_ISREG(infos.st_mode))
         throw FauteFichier(NumeroErreur::AccesRefuse, chemin,
                            SelonLangue("ce n'est pas un fichier ordinaire", "it is not a regular file"));
-    std::string octets(static_cast<std::size_t>(infos.st_size), '\0');
+    std::string octets(std::min(static_cast<std::size_t>(infos.st_size), nombre), '\0');
     std::size_t lus = 0;
-    for (;;) {
+    while (lus < nombre) {
         if (lus == octets.size()) {
             // The size may have grown since, or be unknown (0) for some file systems.
             std::array<char, 4096> suite;
@@ -95,7 +100,7 @@ std::string LireFichierEntier(const std::string& chemin) {
             if (n < 0 && errno == EINTR) continue;
             if (n < 0) throw FauteFichier(NumeroErreur::AccesRefuse, chemin, RaisonSysteme(errno));
             if (n == 0) break;
-            octets.append(suite.data(), static_cast<std::size_t>(n));
+            octets.append(suite.data(), std::min(static_cast<std::size_t>(n), nombre - lus));
             lus = octets.size();
             continue;
         }

@@ -2,6 +2,7 @@
 // UTF-8 strings with the system's own separator.
 #pragma once
 
+#include <cstddef>
 #include <cstdio>
 #include <string>
 #include <string_view>
@@ -15,16 +16,19 @@ inline constexpr char SeparateurChemin = '/';
 // unreadable; the fault names the file and the reason.
 std::string LireFichierEntier(const std::string& chemin);
 
+// The first bytes of a file, at most `nombre`; the same faults.
+std::string LireDebutFichier(const std::string& chemin, std::size_t nombre);
+
 // The same text as UTF-8: taken as it is when the bytes are valid UTF-8 (a byte-order mark is dropped), else
 // read as Windows-1252. Moves when nothing has to change.
 std::string EnUtf8(std::string octets);
 
-// Puts `octets` in the place of the file in one step: written beside it, flushed to the disk, then moved over it.
-// FauteFichier on any failure, with the old file untouched and nothing left beside it.
+// Puts `octets` in the place of the file in one step: written beside it, flushed to the disk, then moved over
+// it. FauteFichier on any failure, with the old file untouched and nothing left beside it.
 void EcrireFichierAtomique(const std::string& chemin, std::string_view octets);
 
-// The same for a file that is made piece by piece. Until Valider() returns, the target is as it was; an object
-// destroyed without it removes its piece.
+// The same for a file that is made piece by piece. Until Valider() returns, the target is as it was; an
+// object destroyed without it removes its piece.
 class EcritureAtomique {
 public:
     explicit EcritureAtomique(std::string chemin);

@@ -58,6 +58,9 @@ enum class TexteProgramme {
     LectureNombreAttendu,         // %1 what stands there
     LectureEntierAttendu,         // %1 what stands there
     LecturePointAttendu,          // %1 what stands there
+    LecturePointProjetAttendu,    // %1 what stands there
+    LectureChoixAttendu,          // %1 highest choice, %2 what stands there
+    LectureValeurHorsLimites,     // %1 what stands there
     LectureCoordonneeHorsLimites, // %1 what stands there
     LectureNombrePoints,          // %1 announced, %2 present
     LectureNombreSequences,       // %1 announced, %2 present
