@@ -15,7 +15,7 @@ constexpr Libelle Splash[] = {
     {"pcbInterfaceDetectee", Propriete::Variable},
     {"lblDetectionInterface", Propriete::Variable},
     {"lblNomMachinesMemoire", Propriete::Texte,
-     "Machines en mémoire de l'interface :", "Machines in the interface's memories:"},
+     "Machines en mémoire de l'interface :", "Machines in the interface memories:"},
     {"chkMemoiresZelko_0", Propriete::Variable},
     {"chkMemoiresZelko_1", Propriete::Variable},
     {"chkMemoiresZelko_2", Propriete::Variable},
@@ -31,7 +31,7 @@ constexpr Libelle Splash[] = {
 
     {"cmdContinuer_0", Propriete::Texte, "Découpe 2D", "2D cutting"},
     {"cmdContinuer_0", Propriete::Detail, "Placer un dessin dans le bloc, découper ou exporter en Gcode",
-     "Place a drawing in the block, cut it or export G-code"},
+     "Place a drawing in the block, cut it or export Gcode"},
     {"cmdContinuer_0", Propriete::Bulle, "Ouvrir l'espace de travail 2D", "Open the 2D workspace", "Alt+2",
      "mode-2d"},
     {"cmdContinuer_1", Propriete::Texte, "Découpe 4 axes", "4-axis cutting"},
@@ -45,7 +45,7 @@ constexpr Libelle Splash[] = {
      "nouveautes"},
     {"cmdLancerOrvane", Propriete::Texte, "Site internet", "Website"},
     {"cmdLancerOrvane", Propriete::Bulle, "Ouvrir le site de Tessarel dans le navigateur",
-     "Open the Tessarel site in the browser", "", "site"},
+     "Open the Tessarel website in the browser", "", "site"},
     {"cmdMiseAJour", Propriete::Texte, "Mettre à jour", "Update"},
     {"cmdMiseAJour", Propriete::Bulle, "Ouvrir la page de téléchargement dans le navigateur",
      "Open the download page in the browser", "", "mise-a-jour"},
@@ -58,8 +58,8 @@ constexpr Libelle ListeDesModifications[] = {
     {"lblEntete", Propriete::Texte,
      "Prenez le temps de lire les dernières modifications,\r\n"
      "cela peut affecter des fonctions que vous avez l'habitude d'utiliser.",
-     "Take the time to read the latest changes,\r\n"
-     "they may affect functions that you are used to."},
+     "Please take the time to read the latest changes:\r\n"
+     "they may affect functions you are used to."},
     {"cmdFermer", Propriete::Texte, "Fermer", "Close"},
 };
 
