@@ -1,6 +1,7 @@
 // From drawing files to sequences.
 #include "import.h"
 
+#include "app/texts/textes_programme.h"
 #include "geometrie.h"
 #include "platform/erreurs.h"
 #include "platform/fichiers.h"
@@ -80,10 +81,6 @@ std::size_t Alleger(Sequence& sequence, float distNettoyage) {
     return avant - simples.size();
 }
 
-std::string PhraseLignes(const char* francais, const char* anglais) {
-    return std::string(francais) + " / " + anglais;
-}
-
 // X and Y of a coordinate line; nothing when it has no such two fields.
 bool LireCoordonnees(std::string_view ligne, PointProfil& point) {
     const auto champs = Decouper(ligne, ":");
@@ -153,9 +150,7 @@ std::vector<Sequence> LireCoordonneesTexte(const std::string& chemin) {
         }
         PointProfil point;
         if (!LireCoordonnees(ligne, point))
-            throw FauteLecture(chemin, numero,
-                               PhraseLignes("deux nombres séparés par un double-point attendus (X:Y)",
-                                            "two numbers parted by a colon were expected (X:Y)"));
+            throw FauteLecture(chemin, numero, Texte(TexteProgramme::LectureCoordonneesAttendues));
         if (!ouverte) sequences.emplace_back();
         ouverte = true;
         sequences.back().Points.push_back(point);
@@ -195,9 +190,7 @@ DessinImporte LireDessin(const std::string& chemin, float distNettoyage) {
     std::vector<PointSimple> points;
     if (dessin.extension == "txt") {
         const std::vector<Sequence> lues = LireCoordonneesTexte(chemin);
-        if (lues.empty())
-            throw FauteLecture(chemin, 0,
-                               PhraseLignes("aucune ligne de coordonnées X:Y", "no line of coordinates X:Y"));
+        if (lues.empty()) throw FauteLecture(chemin, 0, Texte(TexteProgramme::LectureAucuneCoordonnee));
         dessin.rapport.lus["TXT"] = static_cast<int>(lues.size());
         points = PointsDepuisSequences(lues);
     } else if (std::find(ExtensionsGabar.begin(), ExtensionsGabar.end(), dessin.extension) !=
@@ -205,9 +198,7 @@ DessinImporte LireDessin(const std::string& chemin, float distNettoyage) {
         Etendue etendue;
         LireFichier(points, chemin, etendue, dessin.extension, &dessin.rapport);
     } else {
-        throw FauteLecture(chemin, 0,
-                           PhraseLignes("ce genre de fichier n'est pas lu par cette version comme un dessin",
-                                        "this version does not read this kind of file as a drawing"));
+        throw FauteLecture(chemin, 0, Texte(TexteProgramme::LectureGenreInconnu));
     }
     dessin.sequences =
         CreerSequencesDepuisPoints(points, dessin.extension, distNettoyage, &dessin.pointsRetires);

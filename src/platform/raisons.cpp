@@ -42,6 +42,10 @@ void DireRaisonsEnAnglais(bool anglais) {
     enAnglais = anglais;
 }
 
+bool RaisonsEnAnglais() {
+    return enAnglais;
+}
+
 const char* SelonLangue(const char* francais, const char* english) {
     return enAnglais ? english : francais;
 }

@@ -9,6 +9,8 @@ namespace tessarel {
 // French at first; the text tables call it with every change of language.
 void DireRaisonsEnAnglais(bool anglais);
 
+bool RaisonsEnAnglais();
+
 // The one of two texts that the language in use asks for.
 const char* SelonLangue(const char* francais, const char* english);
 

@@ -1,6 +1,7 @@
 // Reasons of faults below the text tables follow the language of the tables.
 #include "app/texts/textes.h"
 #include "outils/dossiers.h"
+#include "paths/import.h"
 #include "platform/erreurs.h"
 #include "platform/fichiers.h"
 #include "platform/nombres.h"
@@ -55,4 +56,25 @@ TEST(Raisons, UneFauteDeLectureNommeLeFichierEtLaLigne) {
     EXPECT_EQ(std::string(FauteLecture("a.txt", 0, "why").what()), "a.txt: why");
     ChargerMessages(Langue::Francais);
     EXPECT_EQ(std::string(FauteLecture("a.txt", 12, "raison").what()), "a.txt, ligne 12 : raison");
+}
+
+TEST(Raisons, UnDessinRefuseLeDitDansLaLangueEnUsage) {
+    const essais::DossierProvisoire dossier;
+    EcrireFichierAtomique(dossier.Fichier("a.dxf"), "");
+    EcrireFichierAtomique(dossier.Fichier("a.txt"), "1.0:2.0\r\n1.0\r\n");
+    const auto refus = [&](const std::string& nom) -> std::string {
+        try {
+            LireDessin(dossier.Fichier(nom), 0.02F);
+        } catch (const FauteLecture& faute) {
+            return std::string(faute.what()).substr(dossier.Chemin().size() + 1);
+        }
+        return "";
+    };
+    EXPECT_EQ(refus("a.dxf"), "a.dxf : le fichier est vide");
+    EXPECT_EQ(refus("a.txt"),
+              "a.txt, ligne 2 : deux nombres séparés par un double-point (X:Y) étaient attendus");
+    ChargerMessages(Langue::English);
+    EXPECT_EQ(refus("a.dxf"), "a.dxf: the file is empty");
+    EXPECT_EQ(refus("a.txt"), "a.txt, line 2: two numbers separated by a colon (X:Y) were expected");
+    ChargerMessages(Langue::Francais);
 }

@@ -64,6 +64,9 @@ enum class TexteProgramme {
     LectureCoordonneeHorsLimites, // %1 what stands there
     LectureNombrePoints,          // %1 announced, %2 present
     LectureNombreSequences,       // %1 announced, %2 present
+    LectureCoordonneesAttendues,
+    LectureAucuneCoordonnee,
+    LectureGenreInconnu,
     LectureSansTrace,
     LectureTropDePoints, // %1 present, %2 highest
     EcritureImpossible,  // %1 file, %2 reason

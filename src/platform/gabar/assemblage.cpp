@@ -34,7 +34,7 @@ bool MemePoint(const PointSimple& a, const PointSimple& b) {
 [[noreturn]] void RefuserNombre(const Assemblage& a) {
     throw FauteLecture(*a.chemin, a.ligne,
                        Bilingue(fmt::format("le dessin donne plus de {} points", PointsMaxDessin),
-                                fmt::format("the drawing makes more than {} points", PointsMaxDessin)));
+                                fmt::format("the drawing has more than {} points", PointsMaxDessin)));
 }
 
 // Puts the points kept before the chain in their place; the piece behind it moves along.

@@ -31,7 +31,7 @@ void CompterTravail(DessinDxf& dessin, const EntiteDxf& e, std::int64_t paires) 
         RefuserInsertion(
             dessin, e,
             fmt::format("les insertions du bloc « {} » donnent un dessin trop grand", Citation(e.bloc)),
-            fmt::format("the insertions of block \"{}\" make too large a drawing", Citation(e.bloc)));
+            fmt::format("the insertions of block \"{}\" make the drawing too large", Citation(e.bloc)));
 }
 
 // The entities of a block, one copy.

@@ -63,13 +63,13 @@ bool LirePaire(LecteurCodes& lecteur) {
                 Bilingue(
                     fmt::format("ce n'est pas un DXF lisible : code de groupe attendu, trouvé « {} »",
                                 Citation(code)),
-                    fmt::format("no readable DXF: a group code was expected, \"{}\" found", Citation(code))));
+                    fmt::format("not a readable DXF: expected a group code, found \"{}\"", Citation(code))));
         }
         if (lecteur.position == lecteur.fin)
             throw FauteLecture(
                 *lecteur.chemin, lecteur.lignesLues,
                 Bilingue(fmt::format("fichier tronqué : le code {} n'a pas de valeur", lecteur.code),
-                         fmt::format("the file is cut short: code {} has no value", lecteur.code)));
+                         fmt::format("the file is truncated: code {} has no value", lecteur.code)));
         lecteur.valeur = LigneSuivante(lecteur);
     } while (lecteur.code == CodeCommentaire);
     return true;
@@ -79,7 +79,7 @@ void LirePaireExigee(LecteurCodes& lecteur, std::string_view ou) {
     if (LirePaire(lecteur)) return;
     throw FauteLecture(*lecteur.chemin, lecteur.lignesLues,
                        Bilingue(fmt::format("fichier tronqué dans {}", Citation(ou)),
-                                fmt::format("the file is cut short inside {}", Citation(ou))));
+                                fmt::format("the file is truncated inside {}", Citation(ou))));
 }
 
 double ValeurReelle(const LecteurCodes& lecteur) {
@@ -89,7 +89,7 @@ double ValeurReelle(const LecteurCodes& lecteur) {
         throw FauteLecture(*lecteur.chemin, lecteur.lignesLues,
                            Bilingue(fmt::format("nombre attendu (code {}), trouvé « {} »", lecteur.code,
                                                 Citation(lecteur.valeur)),
-                                    fmt::format("a number was expected (code {}), \"{}\" found", lecteur.code,
+                                    fmt::format("expected a number (code {}), found \"{}\"", lecteur.code,
                                                 Citation(lecteur.valeur))));
     return valeur;
 }

@@ -76,7 +76,7 @@ void EcrireFichier(const std::string& chemin, const std::string& extension,
     } else {
         throw FauteFichier(NumeroErreur::EcritureImpossible, chemin,
                            Bilingue(fmt::format("le format .{} ne s'écrit pas", Citation(genre)),
-                                    fmt::format(".{} files are not written", Citation(genre))));
+                                    fmt::format(".{} files cannot be written", Citation(genre))));
     }
 }
 

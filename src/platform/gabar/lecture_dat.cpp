@@ -42,20 +42,20 @@ std::vector<std::pair<std::size_t, std::size_t>> Plages(const std::vector<LigneD
 void NoterForme(FormeDat forme, RapportLecture& rapport) {
     switch (forme) {
     case FormeDat::Tour:
-        rapport.notes.push_back(Bilingue("table d'un seul tenant (Selig)", "table in one go (Selig)"));
+        rapport.notes.push_back(Bilingue("table d'un seul tenant (Selig)", "single loop of points (Selig)"));
         break;
     case FormeDat::DeuxAvants:
         rapport.notes.push_back(
             Bilingue("deux surfaces depuis le bord d'attaque (Lednicer), mises bout à bout",
-                     "two surfaces from the leading edge (Lednicer), put end to end"));
+                     "two surfaces from the leading edge (Lednicer), joined end to end"));
         break;
     case FormeDat::DeuxArrieres:
         rapport.notes.push_back(Bilingue("deux surfaces depuis le bord de fuite, mises bout à bout",
-                                         "two surfaces from the trailing edge, put end to end"));
+                                         "two surfaces from the trailing edge, joined end to end"));
         break;
     case FormeDat::Aucune:
         rapport.notes.push_back(Bilingue("pas la forme d'un profil : points gardés dans l'ordre du fichier",
-                                         "not the form of a profile: points kept in file order"));
+                                         "not shaped like an airfoil: points kept in file order"));
         break;
     }
 }
@@ -74,7 +74,7 @@ std::vector<std::vector<Point2>> TrouverTraces(const TableDat& table, RapportLec
         if (fin - debut < table.lignes.size())
             rapport.notes.push_back(Bilingue(
                 fmt::format("{} points hors du profil laissés", table.lignes.size() - (fin - debut)),
-                fmt::format("{} points outside the profile left out", table.lignes.size() - (fin - debut))));
+                fmt::format("{} points outside the airfoil skipped", table.lignes.size() - (fin - debut))));
         return {EnTour(points, forme)};
     }
     NoterForme(FormeDat::Aucune, rapport);
@@ -104,7 +104,7 @@ double FacteurCorde(const std::vector<std::vector<Point2>>& traces) {
 void LireDat(std::vector<PointSimple>& points, const std::string& chemin, RapportLecture& rapport) {
     std::string texte = LireFichierEntier(chemin);
     if (texte.find('\0') != std::string::npos)
-        throw FauteLecture(chemin, 0, Bilingue("ce n'est pas un fichier texte", "this is no text file"));
+        throw FauteLecture(chemin, 0, Bilingue("ce n'est pas un fichier texte", "this is not a text file"));
     if (texte.find('\n') == std::string::npos) std::replace(texte.begin(), texte.end(), '\r', '\n');
     const TableDat table = LireTableDat(texte, chemin);
     const auto traces = TrouverTraces(table, rapport);
@@ -112,13 +112,13 @@ void LireDat(std::vector<PointSimple>& points, const std::string& chemin, Rappor
     if (table.comptes && table.dessus + table.dessous != table.lignes.size())
         rapport.notes.push_back(Bilingue(fmt::format("{} + {} points annoncés, {} trouvés", table.dessus,
                                                      table.dessous, table.lignes.size()),
-                                         fmt::format("{} + {} points announced, {} found", table.dessus,
+                                         fmt::format("{} + {} points declared, {} found", table.dessus,
                                                      table.dessous, table.lignes.size())));
     if (table.illisibles > 0)
         rapport.notes.push_back(Bilingue(fmt::format("{} lignes sans point laissées", table.illisibles),
-                                         fmt::format("{} lines without a point left out", table.illisibles)));
+                                         fmt::format("{} lines without a point skipped", table.illisibles)));
     if (facteur != 1)
-        rapport.notes.push_back(Bilingue("corde de 1 mise à 100 mm", "chord of 1 brought to 100 mm"));
+        rapport.notes.push_back(Bilingue("corde de 1 mise à 100 mm", "unit chord scaled to 100 mm"));
     for (std::size_t i = 0; i < traces.size(); ++i) {
         for (const Point2 p : traces[i]) {
             PointSimple s;

@@ -197,7 +197,7 @@ std::string ListerGenres(const std::map<std::string_view, int>& genres) {
     };
     if (!d.ignores.empty())
         ajouter("entités qui ne sont pas des tracés : " + ListerGenres(d.ignores),
-                "entities that are no paths: " + ListerGenres(d.ignores));
+                "entities that are not paths: " + ListerGenres(d.ignores));
     if (d.surPapier > 0)
         ajouter(fmt::format("{} entités dans l'espace papier", d.surPapier),
                 fmt::format("{} entities in paper space", d.surPapier));
@@ -209,7 +209,7 @@ std::string ListerGenres(const std::map<std::string_view, int>& genres) {
                 fmt::format("{} invisible entities", d.invisibles));
     if (!d.blocsInconnus.empty())
         ajouter("blocs absents du fichier : " + ListerGenres(d.blocsInconnus),
-                "blocks that are not in the file: " + ListerGenres(d.blocsInconnus));
+                "blocks missing from the file: " + ListerGenres(d.blocsInconnus));
     throw FauteLecture(*d.chemin, 0, Bilingue(francais, anglais));
 }
 
@@ -241,14 +241,14 @@ void RemplirRapport(const DessinDxf& d, RapportLecture& r) {
             r.notes.push_back(
                 Bilingue(fmt::format("{} {}", compte, francais), fmt::format("{} {}", compte, anglais)));
     };
-    noter(d.insertions, "copies de blocs développées", "copies of blocks expanded");
-    noter(d.surPapier, "entités de l'espace papier laissées", "entities in paper space left out");
+    noter(d.insertions, "copies de blocs développées", "block copies expanded");
+    noter(d.surPapier, "entités de l'espace papier laissées", "paper space entities skipped");
     noter(d.surCalquesCaches, "entités sur des calques éteints ou gelés laissées",
-          "entities on layers that are off or frozen left out");
-    noter(d.invisibles, "entités invisibles laissées", "invisible entities left out");
+          "entities skipped on layers that are off or frozen");
+    noter(d.invisibles, "entités invisibles laissées", "invisible entities skipped");
     if (!d.blocsInconnus.empty())
         r.notes.push_back(Bilingue("blocs absents du fichier : " + ListerGenres(d.blocsInconnus),
-                                   "blocks that are not in the file: " + ListerGenres(d.blocsInconnus)));
+                                   "blocks missing from the file: " + ListerGenres(d.blocsInconnus)));
 }
 
 // What must be settled before the walk: an empty file, a binary one, line ends by CR alone.
@@ -259,7 +259,7 @@ void PreparerTexte(std::string& texte, const std::string& chemin) {
     if (std::string_view(texte).substr(0, tete).find('\0') != std::string_view::npos)
         throw FauteLecture(chemin, 0,
                            Bilingue("DXF binaire ou fichier d'un autre genre : enregistrez-le en DXF ASCII",
-                                    "binary DXF or a file of another kind: save it as ASCII DXF"));
+                                    "binary DXF, or another kind of file: save it as an ASCII DXF"));
     if (texte.find('\n') == std::string::npos) std::replace(texte.begin(), texte.end(), '\r', '\n');
 }
 

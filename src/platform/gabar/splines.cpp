@@ -97,14 +97,14 @@ void VerifierSpline(const Assemblage& a, const Spline& s) {
     if (n < p + 1) RefuserSpline(a, "pas assez de points de contrôle", "not enough control points");
     if (s.noeuds.size() != n + p + 1)
         RefuserSpline(a, "le nombre de nœuds ne convient pas aux points de contrôle",
-                      "the number of knots does not suit the control points");
+                      "the number of knots does not match the control points");
     if (!std::is_sorted(s.noeuds.begin(), s.noeuds.end()))
-        RefuserSpline(a, "les nœuds ne sont pas croissants", "the knots do not grow");
+        RefuserSpline(a, "les nœuds ne sont pas croissants", "the knots are not in increasing order");
     if (!(s.noeuds[p] < s.noeuds[n]))
-        RefuserSpline(a, "les nœuds n'ouvrent aucun intervalle", "the knots span nothing");
+        RefuserSpline(a, "les nœuds n'ouvrent aucun intervalle", "the knots span no interval");
     if (!s.poids.empty() && s.poids.size() != n)
         RefuserSpline(a, "le nombre de poids ne convient pas aux points de contrôle",
-                      "the number of weights does not suit the control points");
+                      "the number of weights does not match the control points");
     if (std::any_of(s.poids.begin(), s.poids.end(), [](double w) { return !(w > 0); }))
         RefuserSpline(a, "un poids n'est pas positif", "a weight is not positive");
 }

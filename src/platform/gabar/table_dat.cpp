@@ -99,7 +99,7 @@ TableDat LireTableDat(const std::string& texte, const std::string& chemin) {
         double troisieme = 0;
         if (m.mots > 3 || (m.mots == 3 && EstNombre(m.tete[2], troisieme) && troisieme != 0))
             Refuser(chemin, ligne, "ce n'est pas une table de profil : deux colonnes X Y attendues",
-                    "no profile table: two columns X Y were expected");
+                    "not an airfoil table: two columns X Y were expected");
         VerifierPoint(chemin, ligne, p);
         if (table.lignes.size() >= PointsMaxDessin)
             Refuser(chemin, ligne, "trop de points", "too many points");
@@ -108,7 +108,7 @@ TableDat LireTableDat(const std::string& texte, const std::string& chemin) {
     ReconnaitreComptes(table);
     if (table.lignes.size() < 3)
         Refuser(chemin, 0, "ce n'est pas une table de profil : moins de trois points",
-                "no profile table: fewer than three points");
+                "not an airfoil table: fewer than three points");
     return table;
 }
 
