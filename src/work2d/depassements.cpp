@@ -12,6 +12,9 @@ namespace tessarel {
 
 namespace {
 
+// Room for that many crossings spares most paths a second allocation.
+constexpr std::size_t CroisementsUsuels = 64;
+
 // A vertex under way. The marks are kept beside the point: `Drapeaux` of a drawing may hold anything.
 struct Sommet {
     PointProfil point;
@@ -37,6 +40,12 @@ bool SontDePartEtDAutre(const PointProfil& p, const PointProfil& q, const Bord& 
     const float cp = EnSimple(bord.vertical ? p.X : p.Y);
     const float cq = EnSimple(bord.vertical ? q.X : q.Y);
     return (cp < ligne && cq > ligne) || (cp > ligne && cq < ligne);
+}
+
+bool Traverse(const std::vector<Sommet>& source, const Bord& bord) {
+    return std::adjacent_find(source.begin(), source.end(), [&](const Sommet& p, const Sommet& q) {
+               return SontDePartEtDAutre(p.point, q.point, bord);
+           }) != source.end();
 }
 
 // Copies the path with a vertex put in at each proper crossing of one border; what was put in is stepped
@@ -141,9 +150,10 @@ bool ControleDepassementTS2D(Sequence& sequence, const TableMachine& table) {
     }};
     std::vector<Sommet> sommets(sequence.Points.size());
     std::vector<Sommet> suivants;
-    suivants.reserve(sommets.size());
+    suivants.reserve(sommets.size() + CroisementsUsuels);
     for (std::size_t i = 0; i < sommets.size(); ++i) sommets[i].point = sequence.Points[i];
     for (const Bord& bord : bords) {
+        if (!Traverse(sommets, bord)) continue;
         PasserBord(sommets, suivants, bord);
         sommets.swap(suivants);
     }

@@ -5,9 +5,21 @@
 #include "work2d/decoupe2d.h"
 #include "work2d/placement.h"
 
+#include <array>
 #include <span>
+#include <string>
 
 namespace tessarel {
+
+// Colours that users know; the same on a light and on a dark background.
+inline constexpr Couleur CouleurEntree = {255, 0, 0};
+inline constexpr Couleur CouleurSortie = {0, 144, 61};
+inline constexpr Couleur CouleurTable = {110, 110, 219};
+inline constexpr Couleur CouleurPremiereSequence = {144, 0, 82};
+inline constexpr std::array<Couleur, 4> CouleursAutresSequences = {
+    {{0, 122, 11}, {112, 0, 105}, {220, 114, 228}, {156, 86, 228}}};
+// Selected sequences take these two in turn, so that neighbours can be told apart.
+inline constexpr std::array<Couleur, 2> CouleursSelection = {{{255, 107, 107}, {230, 61, 61}}};
 
 struct OptionsDessin {
     bool voirPoints = false;
@@ -17,11 +29,17 @@ struct OptionsDessin {
 
 // Table with its rulers, machine zone and block.
 void DessinerTable(Dessin& dessin, const TableMachine& table, const Bloc& bloc, const OptionsDessin& options);
-// The paths as placed.
+// The paths as placed, each with its first point and the direction in which it is cut.
 void DessinerSequences(Dessin& dessin, std::span<const Sequence> sequences, const OptionsDessin& options);
-// Entry, cut and exit; rapid segments thick.
+// Entry, cut and exit; rapid segments thick. While there is no cut path (an offset that failed), the joined
+// paths with the provisional entry and exit, dashed.
 void DessinerDecoupe(Dessin& dessin, const Decoupe2D& decoupe, const OptionsDessin& options);
 // What a view that shows everything must hold, margins included.
 CadreDessin CadreTable(const TableMachine& table);
+
+// Graduation of a ruler over `course` mm: 1, 2 or 5 times a power of ten, for five to about twelve labels.
+double PasGraduation(double course);
+// Label of a block: "60.0 mm x 40.0 mm".
+std::string TexteDimensionsBloc(const Bloc& bloc);
 
 } // namespace tessarel

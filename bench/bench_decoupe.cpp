@@ -1,0 +1,139 @@
+// The road of a 2D cut and its G-code, on a path as long as a cut can be.
+#include "paths/gcode.h"
+#include "work2d/assemblage.h"
+#include "work2d/export_gcode.h"
+
+#include <benchmark/benchmark.h>
+
+#include <atomic>
+#include <cmath>
+#include <cstdlib>
+#include <new>
+
+namespace {
+std::atomic<std::size_t> allocations{0};
+}
+
+// Counted, so that the figures can tell what a line allocates; not inlined, or the compiler takes the pair
+// for a mismatch.
+[[gnu::noinline]] void* operator new(std::size_t taille) {
+    ++allocations;
+    if (void* p = std::malloc(taille)) return p;
+    throw std::bad_alloc();
+}
+[[gnu::noinline]] void operator delete(void* p) noexcept {
+    std::free(p);
+}
+[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept {
+    std::free(p);
+}
+
+using namespace tessarel;
+
+namespace {
+
+constexpr std::size_t PointsTrace = 32000;
+
+TableMachine Machine() {
+    TableMachine table;
+    table.CourseX = 980;
+    table.CourseY = 510;
+    table.MargeFilPlateau = 1;
+    table.MargeFilBloc = 15;
+    table.MargeOrigineBloc = 5;
+    table.VitesseDecoupeParDefaut = 4;
+    table.VitesseRapide = 8;
+    table.SaigneeVDParDefaut = 1;
+    table.TempoChauffe = 2;
+    return table;
+}
+
+OptionsDecoupe2D Options() {
+    OptionsDecoupe2D options;
+    options.BlocX = 770;
+    options.BlocY = 390;
+    options.TypeEntree = options.TypeSortie = 2;
+    options.approcheRapide = options.retourRapide = true;
+    options.decalage = CoteDecalage2D::Droite;
+    return options;
+}
+
+// A gear-like contour of 32 000 points that thinning keeps and that leaves the zone at the top `sortie` mm
+// over.
+std::vector<Sequence> Contour(double sortie) {
+    Sequence contour;
+    for (std::size_t i = 0; i < PointsTrace; ++i) {
+        const double angle = 2 * 3.14159265358979 * static_cast<double>(i) / PointsTrace;
+        const double rayon = 200 + sortie + (i % 2 == 0 ? 0.0 : 0.4);
+        PointProfil p;
+        p.X = 490 + rayon * std::cos(angle);
+        p.Y = 300 + rayon * std::sin(angle);
+        contour.Points.push_back(p);
+    }
+    CalculerBornesSequence(contour);
+    return {contour};
+}
+
+void AssemblerDansLaZone(benchmark::State& etat) {
+    const std::vector<Sequence> sequences = Contour(0);
+    std::size_t points = 0;
+    for ([[maybe_unused]] auto tour : etat)
+        points = AssemblerDecoupe2D(sequences, Options(), Machine()).SequenceDecoupe.Points.size();
+    etat.counters["points"] = static_cast<double>(points);
+}
+BENCHMARK(AssemblerDansLaZone)->Unit(benchmark::kMillisecond);
+
+void AssemblerEtTronquer(benchmark::State& etat) {
+    const std::vector<Sequence> sequences = Contour(60);
+    std::size_t points = 0;
+    for ([[maybe_unused]] auto tour : etat)
+        points = AssemblerDecoupe2D(sequences, Options(), Machine()).SequenceDecoupe.Points.size();
+    etat.counters["points"] = static_cast<double>(points);
+}
+BENCHMARK(AssemblerEtTronquer)->Unit(benchmark::kMillisecond);
+
+void JoindreEtAlleger(benchmark::State& etat) {
+    const std::vector<Sequence> sequences = Contour(0);
+    for ([[maybe_unused]] auto tour : etat)
+        benchmark::DoNotOptimize(AssemblageSequencesTransfPourDecoupe(sequences, 0.02F));
+}
+BENCHMARK(JoindreEtAlleger)->Unit(benchmark::kMillisecond);
+
+void LignesGcode(benchmark::State& etat) {
+    const Decoupe2D decoupe = AssemblerDecoupe2D(Contour(0), Options(), Machine());
+    const std::vector<PointProfil>& points = decoupe.SequenceDecoupe.Points;
+    FichierGcode fichier;
+    std::size_t allouees = 0;
+    for ([[maybe_unused]] auto tour : etat) {
+        etat.PauseTiming();
+        fichier.EcrireEntete({});
+        fichier.Reserver(points.size());
+        const std::size_t avant = allocations;
+        etat.ResumeTiming();
+        double f = 1200;
+        for (const PointProfil& p : points) {
+            fichier.AjouterMouvement(p.X, p.Y, p.X, p.Y, f);
+            f += 0.0137;
+        }
+        allouees += allocations - avant;
+    }
+    const auto lignes = static_cast<std::int64_t>(points.size()) * etat.iterations();
+    etat.SetItemsProcessed(lignes);
+    etat.counters["ns/ligne"] = benchmark::Counter(static_cast<double>(lignes) * 1e-9,
+                                                   benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    etat.counters["allocations/ligne"] = static_cast<double>(allouees) / static_cast<double>(lignes);
+}
+BENCHMARK(LignesGcode)->Unit(benchmark::kMillisecond);
+
+void FichierGcodeEntier(benchmark::State& etat) {
+    const Decoupe2D decoupe = AssemblerDecoupe2D(Contour(0), Options(), Machine());
+    std::size_t octets = 0;
+    for ([[maybe_unused]] auto tour : etat)
+        octets = ConstruireGcode2D(decoupe, Options(), Machine(), "").contenu.size();
+    etat.counters["octets"] = static_cast<double>(octets);
+}
+BENCHMARK(FichierGcodeEntier)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+BENCHMARK_MAIN();
