@@ -30,7 +30,7 @@ constexpr double PlaceTexteY = 2.2; // beside it, by their right end
 constexpr double MargeRegle = 7;
 constexpr double MargeLibre = 3;
 
-// What a background asks for: the paths keep their colours on both.
+// What a background asks for. The paths keep their colours on both: the foam stays light enough to show them.
 struct Palette {
     Couleur fondTable;
     Couleur bordTable;
@@ -43,8 +43,9 @@ struct Palette {
 };
 constexpr Palette PaletteClaire = {{110, 110, 219, 26}, CouleurTable,    {255, 238, 196, 235}, {186, 140, 58},
                                    {128, 128, 140},     {110, 110, 130}, {70, 70, 90},         {40, 40, 48}};
-constexpr Palette PaletteSombre = {{110, 110, 219, 46}, {150, 150, 240}, {104, 92, 60, 235}, {214, 172, 92},
-                                   {150, 150, 165},     {165, 165, 185}, {205, 205, 220},    {225, 225, 232}};
+constexpr Palette PaletteSombre = {{110, 110, 219, 46}, {150, 150, 240}, {166, 156, 128, 235},
+                                   {214, 172, 92},      {150, 150, 165}, {165, 165, 185},
+                                   {205, 205, 220},     {225, 225, 232}};
 
 const Palette& PaletteDe(const OptionsDessin& options) {
     return options.sombre ? PaletteSombre : PaletteClaire;
@@ -107,8 +108,7 @@ double Unite(const TableMachine& table) {
 }
 
 // A ruler along one axis, outside the table. `placer(s, recul)` gives the place at `s` mm along it, `recul`
-// mm away from the table; labels stand `reculTexte` away. The labels of the fine graduation come last: a view
-// leaves out those that have no room.
+// mm away from the table; labels stand `reculTexte` away.
 template <typename Placer>
 void DessinerRegle(Dessin& dessin, double course, double unite, double reculTexte, const Palette& palette,
                    AncreTexte ancre, Placer placer) {
@@ -121,12 +121,9 @@ void DessinerRegle(Dessin& dessin, double course, double unite, double reculText
         const PointDessin b = placer(i * fin, (principale(i) ? TraitLong : TraitCourt) * unite);
         AjouterLigne(dessin, a.X, a.Y, b.X, b.Y, palette.regle);
     }
-    for (const bool principales : {true, false}) {
-        for (int i = 0; i <= nombre; ++i) {
-            if (principale(i) != principales) continue;
-            const PointDessin t = placer(i * fin, reculTexte);
-            AjouterTexte(dessin, t.X, t.Y, FormaterNombre(i * fin, MasqueRegle), palette.texte, ancre);
-        }
+    for (int i = 0; i <= nombre; i += SousGraduations) {
+        const PointDessin t = placer(i * fin, reculTexte);
+        AjouterTexte(dessin, t.X, t.Y, FormaterNombre(i * fin, MasqueRegle), palette.texte, ancre);
     }
 }
 

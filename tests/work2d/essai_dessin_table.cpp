@@ -86,7 +86,7 @@ TEST(DessinTable, LesReglesDisentLesMillimetresDuneGraduationRonde) {
     EXPECT_EQ(place("180", AncreTexte::Droite).Y, 180);
     EXPECT_LT(place("180", AncreTexte::Droite).X, 0);
     EXPECT_EQ(dessin.textes.front().texte, "0");
-    EXPECT_EQ(dessin.textes[1].texte, "50") << "the coarse graduation comes first";
+    EXPECT_EQ(dessin.textes[1].texte, "50");
 }
 
 TEST(DessinTable, LeCadreContientToutCeQuiEstDessine) {
