@@ -20,6 +20,7 @@ constexpr int DoublesErreurLecture = 10;
 constexpr int DoublesExtensionInconnue = 12;
 constexpr int MessagesExtensionProjet = 148;
 constexpr int MessagesProjetVide = 198;
+constexpr int MessagesRemplacer4axes = 200;
 constexpr int MessagesErreurEnregistrement = 203;
 
 ContenuFichier LireProjet(const std::string& chemin, bool ancien) {
@@ -67,6 +68,19 @@ void RemplacerParProjet(Espace2D& espace, ContenuFichier& contenu, const TableMa
     espace.coeffTransf = 1;
     espace.cheminProjet = contenu.ouverture.typeFichier == "qnt" ? "" : chemin;
     espace.modifie = false;
+}
+
+// False when the file holds a 4-axis project that the user wants to keep.
+bool PeutEtreRemplace(const std::string& chemin) {
+    if (!FichierExiste(chemin)) return true;
+    std::string onglet;
+    try {
+        onglet = LireOngletProjet(chemin);
+    } catch (const Faute&) {
+        return true; // no project to lose there, and the write tells what is wrong with the file
+    }
+    if (onglet != C4X && onglet != D4X) return true;
+    return DemanderOuiNon(TextesMessages(MessagesRemplacer4axes), TitresMessages(MessagesRemplacer4axes));
 }
 
 } // namespace
@@ -134,6 +148,7 @@ bool EnregistrerEspace2D(Espace2D& espace, const std::string& chemin) {
         AfficherExclamation(TextesMessages(MessagesExtensionProjet), TitresMessages(MessagesExtensionProjet));
         return false;
     }
+    if (!PeutEtreRemplace(chemin)) return false;
     try {
         EcrireProjet2D(chemin, ProjetDepuisEspace(espace));
     } catch (const Faute& faute) {

@@ -57,7 +57,8 @@ Espace2D NouvelEspace2D(const TableMachine& table);
 bool OuvrirFichier2D(Espace2D& espace, const std::string& chemin, const TableMachine& table,
                      float distNettoyage, OuvertureFichier* ouverture = nullptr);
 
-// Writes the workspace to a .tsr and gives it that name. False after a box that says why.
+// Writes the workspace to a .tsr and gives it that name, after a question where that replaces a 4-axis
+// project. False after a box that says why, or when the user keeps the old file.
 bool EnregistrerEspace2D(Espace2D& espace, const std::string& chemin);
 
 // Record of the workspace as a project file holds it.

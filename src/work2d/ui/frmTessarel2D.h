@@ -1,0 +1,158 @@
+// The top-level window of 2D work: table, block and paths on a canvas, files on the left, values on the
+// right, and the cut tab.
+#pragma once
+
+#include "machine/matieres.h"
+#include "work2d/decoupe2d.h"
+#include "work2d/dessin_table.h"
+#include "work2d/espace2d.h"
+
+#include <QMainWindow>
+#include <QTimer>
+#include <array>
+#include <string>
+#include <vector>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QMenu;
+class QPushButton;
+class QShortcut;
+class QStackedWidget;
+class QToolButton;
+class QVBoxLayout;
+
+namespace tessarel {
+
+class Canevas;
+class ChampNombre;
+
+// A thin skin over Espace2D: it reads controls, calls the engine on TableINI, the current material and the
+// general parameters, and shows the result. The start-up must have filled those.
+class frmTessarel2D : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit frmTessarel2D(QWidget* parent = nullptr);
+
+    // The project under work, as the commands left it.
+    [[nodiscard]] const Espace2D& Espace() const { return m_espace; }
+    // The cut shown; empty while the cut tab is closed.
+    [[nodiscard]] const Decoupe2D& DecoupeMontree() const { return m_decoupe; }
+    [[nodiscard]] bool DecoupeOuverte() const;
+
+    // Opens a file as if chosen in the dialog. False after a box that says why; the work is then as it was.
+    bool OuvrirFichier(const std::string& chemin);
+
+protected:
+    void closeEvent(QCloseEvent* evenement) override;
+    void dragEnterEvent(QDragEnterEvent* evenement) override;
+    void dropEvent(QDropEvent* evenement) override;
+
+private:
+    // Layout (frmTessarel2D_disposition.cpp)
+    void Disposer();
+    QWidget* DisposerOutils();
+    QWidget* DisposerPageProjet();
+    QWidget* DisposerPageDecoupe();
+    void DisposerBarreEtat();
+    void Relier();
+    void RelierFichiers();
+    void RelierProjet();
+    void RelierDecoupe();
+
+    // Files (frmTessarel2D_fichiers.cpp)
+    void NouveauProjet();
+    void DemanderOuverture();
+    bool SauverSous();
+    bool ActualiserSauvegarde();
+    bool Enregistrer();
+    void ExporterDxf();
+    // True when the work may be replaced: saved, or given up by the user.
+    bool PeutRemplacerProjet();
+    void PreparerMenuRecents();
+    void MontrerTypeFichier(const std::string& chemin, const OuvertureFichier& ouverture);
+
+    // Block, placing, display (frmTessarel2D_bloc.cpp)
+    void ChangerBloc(std::size_t cote, double valeur);
+    void AjusterBlocAuto();
+    void ChangerRegle();
+    void Replacer();
+    [[nodiscard]] ReglesPlacement Regles() const;
+    void MontrerBloc();
+    void TraceSequTS2D();
+    void ZoomAutoToutVoir();
+    [[nodiscard]] OptionsDessin OptionsAffichage(const Canevas& canevas) const;
+    // After any change of the project: title, buttons, status bar.
+    void MontrerEtat();
+    void MarquerModifie();
+    void MontrerTout();
+
+    // Cut tab (frmTessarel2D_decoupe.cpp)
+    void OuvrirDecoupe();
+    void FermerDecoupe();
+    void RemplirMatieres();
+    void PrendreMatiere(int rang);
+    void ChangerOptionsDecoupe();
+    void CalculerDecoupe();
+    void TraceDecoupe();
+    void MontrerOptionsDecoupe();
+    void LancerDecoupe();
+    void ExporterGcode();
+    std::string ChoisirFichierGcodeTS2D();
+
+    Espace2D m_espace;
+    Decoupe2D m_decoupe;
+    OptionsDecoupe2D m_options;
+    ValeursDecoupe m_valeurs; // of the material, clamped to the machine
+    CoteDecalage2D m_decalage = CoteDecalage2D::Aucun;
+    bool m_annoncerDepassement = true;           // cleared by the box
+    std::vector<std::string> m_fichiersImportes; // drawings of this project: no export replaces them
+
+    Canevas* pctSequTS2D = nullptr;
+    Canevas* pctDecoupe = nullptr;
+    QStackedWidget* m_vues = nullptr;
+    QStackedWidget* m_pages = nullptr;
+
+    QToolButton* cmdNouveauProjetTS2D = nullptr;
+    QToolButton* cmdOuvrirFichierTS2D = nullptr;
+    QToolButton* cmdRecents = nullptr;
+    QMenu* menuRecents = nullptr;
+    QToolButton* cmdActualiserSauvegarde = nullptr;
+    QToolButton* cmdSauverTS2D = nullptr;
+    QToolButton* cmdExporterDXF = nullptr;
+    QToolButton* cmdZoomTout = nullptr;
+    QToolButton* cmdZoomPlus = nullptr;
+    QToolButton* cmdZoomMoins = nullptr;
+    QToolButton* cmdAide = nullptr;
+    QShortcut* raccourciEnregistrer = nullptr; // while cmdActualiserSauvegarde is hidden
+
+    QLabel* lblTypeFichierTS2D = nullptr;
+    QTimer TimerAffichageTypeFichier{this};
+    std::array<ChampNombre*, 2> txtBloc{};
+    QToolButton* cmdBlocAuto = nullptr;
+    QLabel* lblDimensionsBloc = nullptr;
+    std::array<QCheckBox*, 3> chkCentrer{};
+    QCheckBox* chkZoomProjet = nullptr;
+    QCheckBox* chkVoirPoints = nullptr;
+    QCheckBox* chkCouleurProfils = nullptr;
+    QPushButton* cmdDecouper = nullptr;
+
+    QComboBox* comboMatieres = nullptr;
+    std::array<QToolButton*, 3> optEntrerBloc{};
+    std::array<QToolButton*, 3> optSortirBloc{};
+    std::array<QToolButton*, 2> optApproche{};
+    std::array<QToolButton*, 2> optRetour{};
+    std::array<QToolButton*, 3> optDecalage{};
+    QLabel* lblInformationDecoupe = nullptr;
+    QCheckBox* chkZoomDecoupe = nullptr;
+    QCheckBox* chkExportGcode2D = nullptr;
+    QPushButton* cmdLancerLaDecoupeTS2D = nullptr;
+    QPushButton* cmdAnnulerDecoupe = nullptr;
+
+    QLabel* lblCoordonnees = nullptr;
+    QLabel* lblProjet = nullptr;
+    QLabel* lblMachine = nullptr;
+};
+
+} // namespace tessarel

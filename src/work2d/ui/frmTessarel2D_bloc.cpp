@@ -1,0 +1,113 @@
+// The block, the placing of the paths in it, and what the project's canvas shows.
+#include "app/settings/parametres.h"
+#include "app/texts/textes.h"
+#include "platform/dialogue.h"
+#include "ui/canevas.h"
+#include "ui/champ_nombre.h"
+#include "work2d/options_decoupe.h"
+#include "work2d/ui/frmTessarel2D.h"
+#include "work2d/ui/libelles_2d.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace tessarel {
+
+namespace {
+
+// "L'opération demandée est impossible, une dimension est égale à zéro."
+constexpr int DoublesDimensionNulle = 16;
+// Least width and height that a zoom on the paths shows, mm: a single point has none of its own.
+constexpr double CoteMiniZoom = 5;
+
+void Epaissir(double& bas, double& haut) {
+    if (haut - bas >= CoteMiniZoom) return;
+    const double milieu = (bas + haut) / 2;
+    bas = milieu - CoteMiniZoom / 2;
+    haut = milieu + CoteMiniZoom / 2;
+}
+
+} // namespace
+
+ReglesPlacement frmTessarel2D::Regles() const {
+    return ReglesAvecMarges(chkCentrer[0]->isChecked(), chkCentrer[1]->isChecked(),
+                            chkCentrer[2]->isChecked(), Parametres);
+}
+
+void frmTessarel2D::ChangerBloc(std::size_t cote, double valeur) {
+    if (valeur <= 0) {
+        MontrerBloc();
+        AfficherExclamation(TextesDoubles(DoublesDimensionNulle, 1), TextesDoubles(DoublesDimensionNulle, 2));
+        return;
+    }
+    Bloc bloc = m_espace.bloc;
+    (cote == 0 ? bloc.BlocX : bloc.BlocY) = static_cast<float>(valeur);
+    m_espace.bloc = LimiterBlocSaisi(bloc, TableINI);
+    Replacer();
+}
+
+void frmTessarel2D::AjusterBlocAuto() {
+    m_espace.bloc = BlocAuto(m_espace.TableauSequences, Regles(), TableINI, m_espace.coeffTransf);
+    MontrerTout();
+    if (chkZoomProjet->isChecked()) {
+        pctSequTS2D->Cadrer({0, m_espace.bloc.BlocX, 0, m_espace.bloc.BlocY});
+    }
+    MarquerModifie();
+}
+
+void frmTessarel2D::ChangerRegle() {
+    for (QCheckBox* regle : chkCentrer) {
+        QPalette couleurs;
+        if (regle->isChecked()) couleurs.setColor(QPalette::WindowText, QColor(255, 0, 0));
+        regle->setPalette(couleurs);
+    }
+    Replacer();
+}
+
+void frmTessarel2D::Replacer() {
+    AjusterAuBloc(m_espace.TableauSequences, m_espace.bloc, Regles(), TableINI, m_espace.coeffTransf);
+    MontrerTout();
+    MarquerModifie();
+}
+
+void frmTessarel2D::MontrerBloc() {
+    txtBloc[0]->FixerValeur(static_cast<double>(m_espace.bloc.BlocX));
+    txtBloc[1]->FixerValeur(static_cast<double>(m_espace.bloc.BlocY));
+    lblDimensionsBloc->setText(QString::fromStdString(TexteDimensionsBloc(m_espace.bloc)));
+}
+
+OptionsDessin frmTessarel2D::OptionsAffichage(const Canevas& canevas) const {
+    return {chkVoirPoints->isChecked(), chkCouleurProfils->isChecked(), canevas.FondSombre()};
+}
+
+void frmTessarel2D::TraceSequTS2D() {
+    const OptionsDessin options = OptionsAffichage(*pctSequTS2D);
+    Dessin table;
+    DessinerTable(table, TableINI, m_espace.bloc, options);
+    pctSequTS2D->Montrer(Canevas::CoucheFond, std::move(table));
+    Dessin traces;
+    DessinerSequences(traces, m_espace.TableauSequences, options);
+    pctSequTS2D->Montrer(Canevas::CoucheTrace, std::move(traces));
+}
+
+void frmTessarel2D::ZoomAutoToutVoir() {
+    if (!chkZoomProjet->isChecked()) return;
+    CadreDessin cadre{0, static_cast<double>(TableINI.CourseX), 0, static_cast<double>(TableINI.CourseY)};
+    if (!m_espace.TableauSequences.empty()) {
+        // The framing of the paths, as far as the table reaches.
+        const Etendue etendue = CadrageSequences(m_espace.TableauSequences);
+        const CadreDessin vu{
+            std::max<double>(etendue.XMin, 0), std::min<double>(etendue.XMax, TableINI.CourseX),
+            std::max<double>(etendue.YMin, 0), std::min<double>(etendue.YMax, TableINI.CourseY)};
+        const bool surLaTable = vu.XMin <= vu.XMax && vu.YMin <= vu.YMax;
+        cadre = surLaTable ? vu : CadreDessin{etendue.XMin, etendue.XMax, etendue.YMin, etendue.YMax};
+    }
+    Epaissir(cadre.XMin, cadre.XMax);
+    Epaissir(cadre.YMin, cadre.YMax);
+    pctSequTS2D->Cadrer(cadre);
+}
+
+} // namespace tessarel
