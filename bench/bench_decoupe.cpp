@@ -99,9 +99,7 @@ void JoindreEtAlleger(benchmark::State& etat) {
 }
 BENCHMARK(JoindreEtAlleger)->Unit(benchmark::kMillisecond);
 
-void LignesGcode(benchmark::State& etat) {
-    const Decoupe2D decoupe = AssemblerDecoupe2D(Contour(0), Options(), Machine());
-    const std::vector<PointProfil>& points = decoupe.SequenceDecoupe.Points;
+void EcrireLignes(benchmark::State& etat, const std::vector<PointProfil>& points) {
     FichierGcode fichier;
     std::size_t allouees = 0;
     for ([[maybe_unused]] auto tour : etat) {
@@ -119,11 +117,27 @@ void LignesGcode(benchmark::State& etat) {
     }
     const auto lignes = static_cast<std::int64_t>(points.size()) * etat.iterations();
     etat.SetItemsProcessed(lignes);
-    etat.counters["ns/ligne"] = benchmark::Counter(static_cast<double>(lignes) * 1e-9,
-                                                   benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    etat.counters["par ligne"] = benchmark::Counter(
+        static_cast<double>(lignes), benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
     etat.counters["allocations/ligne"] = static_cast<double>(allouees) / static_cast<double>(lignes);
 }
+
+void LignesGcode(benchmark::State& etat) {
+    EcrireLignes(etat, AssemblerDecoupe2D(Contour(0), Options(), Machine()).SequenceDecoupe.Points);
+}
 BENCHMARK(LignesGcode)->Unit(benchmark::kMillisecond);
+
+// Thirty-seconds of a mm: every other coordinate is a half of the last digit, where rounding takes its slow
+// road.
+void LignesGcodeAuxDemis(benchmark::State& etat) {
+    std::vector<PointProfil> points(PointsTrace);
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        points[i].X = static_cast<double>(i % 30000) / 32;
+        points[i].Y = static_cast<double>(i % 16000) / 32;
+    }
+    EcrireLignes(etat, points);
+}
+BENCHMARK(LignesGcodeAuxDemis)->Unit(benchmark::kMillisecond);
 
 void FichierGcodeEntier(benchmark::State& etat) {
     const Decoupe2D decoupe = AssemblerDecoupe2D(Contour(0), Options(), Machine());

@@ -30,9 +30,10 @@ constexpr std::size_t TailleMouvement = 80;
 // "S" scale said to whoever reads the file.
 constexpr const char* EchelleChauffe = " {S0;S5;S10;S15;...;S995;S1000}<=>{0%;0.5%;1%;...;99.5%;100%} ";
 
+// A line end inside a name or a path must not start a line of its own: it would be read as a command.
 std::string Commentaire(std::string_view texte) {
     std::string ligne = "(";
-    ligne += texte;
+    for (const char c : texte) ligne += c == '\r' || c == '\n' ? ' ' : c;
     ligne += ')';
     return ligne;
 }

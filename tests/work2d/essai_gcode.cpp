@@ -224,6 +224,15 @@ TEST(Gcode, UneValeurNegativeEtUneCordeAUneDecimale) {
     EXPECT_EQ(Lignes(e.contenu)[5], "(Corde Cote 2 : 123.5mm)");
 }
 
+TEST(Gcode, UneFinDeLigneDansUnNomNeDevientPasUneCommande) {
+    TableMachine table = MachineEssai();
+    table.Nom = "Atelier\nG28";
+    const Decoupe2D decoupe = DecoupeDirecte(Chemin({{0, 0}, {20, 0}}));
+    const ExportGcode2D e = ConstruireGcode2D(decoupe, OptionsEssai(), table, "/a\r\nM3 S1000/b.tsr");
+    EXPECT_EQ(Lignes(e.contenu)[2], "(Fichier Tessarel du projet : /a  M3 S1000/b.tsr)");
+    EXPECT_EQ(Lignes(e.contenu)[3], "(Table de découpe : Atelier G28)");
+}
+
 TEST(FichierGcode, LesQuatreAxesDUneDecoupeConique) {
     EnteteGcode entete;
     entete.nomMachine = "Essai";
