@@ -134,14 +134,17 @@ bool EstLigneNumerique(std::string_view ligne) {
 }
 
 std::vector<Sequence> LireCoordonneesTexte(const std::string& chemin) {
-    const std::string texte = LireFichierEntier(chemin);
+    return SequencesDepuisTexte(LireFichierEntier(chemin), chemin);
+}
+
+std::vector<Sequence> SequencesDepuisTexte(std::string_view texte, const std::string& chemin) {
     std::vector<Sequence> sequences;
     bool ouverte = false;
     long numero = 0;
     // A byte-order mark would make the first line a line of text.
     for (std::size_t debut = texte.starts_with("\xEF\xBB\xBF") ? 3 : 0; debut < texte.size();) {
         const std::size_t fin = std::min(texte.find('\n', debut), texte.size());
-        const std::string_view ligne = Rogner(std::string_view(texte).substr(debut, fin - debut));
+        const std::string_view ligne = Rogner(texte.substr(debut, fin - debut));
         debut = fin + 1;
         ++numero;
         if (!EstLigneNumerique(ligne)) {

@@ -3,7 +3,9 @@
 
 #include "paths/points.h"
 
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tessarel {
@@ -30,7 +32,10 @@ std::vector<Sequence> CreerSequencesDepuisPoints(const std::vector<PointSimple>&
                                                  std::size_t* pointsRetires = nullptr);
 
 // Coordinates file .txt: X colon Y on a line, any line that does not begin like a number opens a new path.
+// FauteLecture with the line where a line of coordinates is none.
 std::vector<Sequence> LireCoordonneesTexte(const std::string& chemin);
+// The same from the file's text; `chemin` is for messages.
+std::vector<Sequence> SequencesDepuisTexte(std::string_view texte, const std::string& chemin);
 // First character is one of - + 0-9 . after trimming.
 bool EstLigneNumerique(std::string_view ligne);
 

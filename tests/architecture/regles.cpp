@@ -54,6 +54,8 @@ std::string RefusEtranger(const std::string& chemin, std::string_view entete) {
     if (CommencePar(chemin, "tests/") && (CommencePar(entete, "gtest/") || EstSysteme(entete))) return "";
     // What is known of foreign files is kept as JSON.
     if (CommencePar(chemin, "tests/corpus/") && CommencePar(entete, "nlohmann/")) return "";
+    // Other readers of the same files, held against ours.
+    if (CommencePar(chemin, "tests/pairs/") && CommencePar(entete, "dxflib/")) return "";
     // Benchmarks measure themselves against the bare library.
     if (CommencePar(chemin, "bench/") &&
         (CommencePar(entete, "benchmark/") || CommencePar(entete, "dxflib/"))) {
@@ -124,6 +126,7 @@ const Fleches& FlechesDeLaMaison() {
         {"tests/link", {"tests/outils", "link"}},
         {"tests/work2d", {"tests/outils", "work2d"}},
         {"tests/corpus", {"tests/outils", "paths"}},
+        {"tests/pairs", {"tests/outils", "platform/gabar"}},
         {"tests/bout_en_bout", {"tests/outils", "paths"}},
         {"tests/fenetres", {"tests/outils", "app/ui", "work2d/ui"}},
         {"bench", {"work2d", "work2d/ui"}},

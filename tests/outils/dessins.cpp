@@ -6,6 +6,7 @@
 #include "platform/fichiers.h"
 
 #include <fmt/format.h>
+#include <fstream>
 
 namespace tessarel::essais {
 
@@ -27,12 +28,13 @@ std::string DxfAvecEntites(std::string_view entites, std::string_view avant) {
 DessinLu LireTexte(const std::string& texte, const std::string& extension) {
     const DossierProvisoire dossier;
     const std::string chemin = dossier.Fichier("dessin." + extension);
-    EcrireFichierAtomique(chemin, texte);
+    std::ofstream(chemin, std::ios::binary) << texte;
     DessinLu lu;
     std::vector<PointSimple> points;
     try {
         LireFichier(points, chemin, lu.etendue, extension, &lu.rapport);
-    } catch (const Faute& faute) {
+    } catch (const FauteLecture& faute) {
+        lu.ligne = faute.Ligne();
         lu.refus = faute.what();
         if (lu.refus.starts_with(chemin)) lu.refus.erase(0, chemin.size());
         return lu;

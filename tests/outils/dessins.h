@@ -21,6 +21,7 @@ struct DessinLu {
     std::vector<std::vector<PointSimple>> polylignes;
     Etendue etendue;
     RapportLecture rapport;
+    long ligne = 0;    // to blame, 0 for none
     std::string refus; // sentence of the fault without the path; empty when the file was read
 };
 DessinLu LireTexte(const std::string& texte, const std::string& extension = "dxf");

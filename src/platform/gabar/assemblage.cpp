@@ -25,9 +25,9 @@ bool MemePoint(const PointSimple& a, const PointSimple& b) {
 [[noreturn]] void RefuserPoint(const Assemblage& a, double x, double y) {
     throw FauteLecture(
         *a.chemin, a.ligne,
-        Bilingue(fmt::format("{} : coordonnée hors limites ({:g} ; {:g}), le maximum est de {:g} mm",
+        Bilingue(fmt::format("{} : coordonnée hors limites ({:.10g} ; {:.10g}), le maximum est de {:g} mm",
                              Citation(a.entite), x, y, CoordonneeMax),
-                 fmt::format("{}: coordinate out of range ({:g} ; {:g}), the limit is {:g} mm",
+                 fmt::format("{}: coordinate out of range ({:.10g} ; {:.10g}), the limit is {:g} mm",
                              Citation(a.entite), x, y, CoordonneeMax)));
 }
 

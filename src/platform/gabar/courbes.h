@@ -42,7 +42,6 @@ void TracerRenflement(const Plume& plume, const Point3& p, const Point3& q, doub
 // Spline of `degre` by control points, knots and weights (empty: all 1), over the knots' own domain.
 struct Spline {
     int degre = 3;
-    bool fermee = false;
     std::vector<Point3> controles;
     std::vector<double> noeuds;
     std::vector<double> poids;

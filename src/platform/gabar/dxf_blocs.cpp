@@ -14,9 +14,10 @@ namespace {
 
 // Deeper nesting than this is made by no program, and costs stack.
 constexpr std::size_t ImbricationMax = 200;
-// Pairs of lines read again inside blocks, and what one copy of a block counts for even when it is empty.
-constexpr std::int64_t PairesBlocsMax = 40'000'000;
-constexpr std::int64_t PairesParCopie = 10;
+// Pairs of lines read again inside blocks, and what one copy of a block counts for even when it is empty:
+// about a second of work.
+constexpr std::int64_t PairesBlocsMax = 15'000'000;
+constexpr std::int64_t PairesParCopie = 5;
 
 constexpr std::string_view CalqueZero = "0";
 
@@ -67,6 +68,14 @@ Reseau ReseauInsertion(const DessinDxf& dessin, const EntiteDxf& e) {
     return r;
 }
 
+// A copy of the array: the first one moved along the axes of the insertion.
+Transformation Decaler(Transformation premiere, const Transformation& repere, double x, double y) {
+    if (x == 0 && y == 0) return premiere;
+    for (int i = 0; i < 12; i += 4) premiere.a[i + 3] += repere.a[i] * x + repere.a[i + 1] * y;
+    premiere.identite = false;
+    return premiere;
+}
+
 void PoserReseau(DessinDxf& dessin, const EntiteDxf& e, const BlocDxf& bloc, const Cadre& hote,
                  Cadre& cadre) {
     const Transformation repere =
@@ -76,11 +85,12 @@ void PoserReseau(DessinDxf& dessin, const EntiteDxf& e, const BlocDxf& bloc, con
         Composer(Echelle(FacteurInsertion(e.a41, e.r41), FacteurInsertion(e.a42, e.r42),
                          FacteurInsertion(e.a43, e.r43)),
                  Translation({-bloc.base.X, -bloc.base.Y, -bloc.base.Z}));
+    const Transformation premiere = Composer(repere, forme);
     const Reseau r = ReseauInsertion(dessin, e);
     for (std::int32_t j = 0; j < r.rangees; ++j) {
         for (std::int32_t i = 0; i < r.colonnes; ++i) {
             CompterTravail(dessin, e, PairesParCopie);
-            cadre.placement = Composer(repere, Composer(Translation({i * e.r44, j * e.r45, 0}), forme));
+            cadre.placement = Decaler(premiere, repere, i * e.r44, j * e.r45);
             PoserContenu(dessin, e, bloc, cadre);
             ++dessin.insertions;
         }

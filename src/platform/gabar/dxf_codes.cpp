@@ -99,7 +99,8 @@ std::int32_t ValeurEntiere(const LecteurCodes& lecteur) {
 }
 
 bool EstMot(const LecteurCodes& lecteur, std::string_view mot) {
-    return lecteur.code == 0 && (lecteur.valeur == mot || EgalSansCasse(lecteur.valeur, mot));
+    return lecteur.code == 0 && lecteur.valeur.size() == mot.size() &&
+           (lecteur.valeur == mot || EgalSansCasse(lecteur.valeur, mot));
 }
 
 } // namespace tessarel

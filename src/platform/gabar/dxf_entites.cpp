@@ -33,23 +33,21 @@ constexpr std::int32_t SommetHorsTrace = 16 | 128;
 
 GenreEntite GenreDuType(std::string_view type) {
     for (const auto& [nom, genre] : Genres)
-        if (nom == type || EgalSansCasse(nom, type)) return genre;
+        if (nom.size() == type.size() && (nom == type || EgalSansCasse(nom, type))) return genre;
     return GenreEntite::Ignore;
 }
 
+// Ready for the next entity; the room of the lists stays.
 void Vider(EntiteDxf& e) {
-    std::vector<SommetDxf> sommets = std::move(e.sommets);
-    Spline spline = std::move(e.spline);
-    e = EntiteDxf{};
-    sommets.clear();
-    spline.controles.clear();
-    spline.noeuds.clear();
-    spline.poids.clear();
-    spline.passages.clear();
-    spline.tangenteDebut = spline.tangenteFin = {};
-    spline.degre = 3;
-    e.sommets = std::move(sommets);
-    e.spline = std::move(spline);
+    static_cast<ChampsDxf&>(e) = ChampsDxf{};
+    e.sommets.clear();
+    Spline& s = e.spline;
+    s.controles.clear();
+    s.noeuds.clear();
+    s.poids.clear();
+    s.passages.clear();
+    s.tangenteDebut = s.tangenteFin = {};
+    s.degre = 3;
 }
 
 // Groups between "102 {name" and "102 }" belong to other programs.

@@ -26,8 +26,9 @@ struct SommetDxf {
     double renflement = 0; // bulge of the segment that starts here
 };
 
-// One entity. Lengths and angles as the file has them: drawing units, degrees (radians for the ellipse).
-struct EntiteDxf {
+// What an entity says in single values. Lengths and angles as the file has them: drawing units, degrees
+// (radians for the ellipse).
+struct ChampsDxf {
     GenreEntite genre = GenreEntite::Ignore;
     std::string_view type; // as the file has it
     long ligne = 0;        // line of its first pair's value
@@ -44,6 +45,10 @@ struct EntiteDxf {
     std::int32_t drapeaux = 0;                  // code 70
     std::int32_t rangees = 1;                   // code 71, of an insertion
     std::string_view bloc;                      // code 2, of an insertion
+};
+
+// One entity, with its lists.
+struct EntiteDxf : ChampsDxf {
     std::vector<SommetDxf> sommets;
     Spline spline;
 };

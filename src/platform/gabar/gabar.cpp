@@ -49,9 +49,9 @@ void LireFichier(std::vector<PointSimple>& points, const std::string& chemin, Et
     std::vector<PointSimple> lus;
     const std::string genre = EnMinuscules(extension);
     if (genre == "dxf") {
-        LireDxf(lus, chemin, local);
+        LireDxf(lus, LireFichierEntier(chemin), chemin, local);
     } else if (genre == "dat") {
-        LireDat(lus, chemin, local);
+        LireDat(lus, LireFichierEntier(chemin), chemin, local);
     } else {
         throw FauteLecture(
             chemin, 0,

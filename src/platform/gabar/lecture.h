@@ -9,8 +9,11 @@
 
 namespace tessarel {
 
-void LireDxf(std::vector<PointSimple>& points, const std::string& chemin, RapportLecture& rapport);
-void LireDat(std::vector<PointSimple>& points, const std::string& chemin, RapportLecture& rapport);
+// `texte` is the whole file, `chemin` its name for messages.
+void LireDxf(std::vector<PointSimple>& points, std::string texte, const std::string& chemin,
+             RapportLecture& rapport);
+void LireDat(std::vector<PointSimple>& points, std::string texte, const std::string& chemin,
+             RapportLecture& rapport);
 
 // Text of a file with these polylines, which are one or more.
 std::string TexteDxf(const std::vector<PointSimple>& points);

@@ -3,7 +3,6 @@
 
 #include "messages.h"
 #include "platform/erreurs.h"
-#include "platform/fichiers.h"
 #include "table_dat.h"
 
 #include <algorithm>
@@ -101,8 +100,8 @@ double FacteurCorde(const std::vector<std::vector<Point2>>& traces) {
 
 } // namespace
 
-void LireDat(std::vector<PointSimple>& points, const std::string& chemin, RapportLecture& rapport) {
-    std::string texte = LireFichierEntier(chemin);
+void LireDat(std::vector<PointSimple>& points, std::string texte, const std::string& chemin,
+             RapportLecture& rapport) {
     if (texte.find('\0') != std::string::npos)
         throw FauteLecture(chemin, 0, Bilingue("ce n'est pas un fichier texte", "this is not a text file"));
     if (texte.find('\n') == std::string::npos) std::replace(texte.begin(), texte.end(), '\r', '\n');

@@ -265,8 +265,8 @@ void PreparerTexte(std::string& texte, const std::string& chemin) {
 
 } // namespace
 
-void LireDxf(std::vector<PointSimple>& points, const std::string& chemin, RapportLecture& rapport) {
-    std::string texte = LireFichierEntier(chemin);
+void LireDxf(std::vector<PointSimple>& points, std::string texte, const std::string& chemin,
+             RapportLecture& rapport) {
     PreparerTexte(texte, chemin);
     DessinDxf dessin;
     dessin.chemin = &chemin;
