@@ -31,8 +31,8 @@ struct ValeursDecoupe {
 extern Matiere MatiereCourante;
 extern ValeursDecoupe DecoupeCourante;
 
-// Rebuilds both arrays from the settings file for TableINI. False when the file has no CR: the box was shown and
-// the program must end.
+// Rebuilds both arrays from the settings file for TableINI. False when the file has no CR: the box was shown
+// and the program must end.
 bool ChargerBaseMatieres();
 
 // Makes a material current and copies its values.

@@ -5,6 +5,8 @@
 #include "cles_machine.h"
 #include "platform/nombres.h"
 
+#include <algorithm>
+
 namespace tessarel {
 
 TableMachine TableINI;
@@ -51,6 +53,11 @@ void CalculerChampsGeometrie(TableMachine& table) {
         table.PasToOrigine[axe] =
             mmParTour == 0 ? 0 : Arrondi(table.PasParTour[axe] * double{table.MmToOrigine[axe]} / mmParTour);
     }
+}
+
+bool EstMachineConnue(const std::string& nom) {
+    return EstMachineIntegree(nom) ||
+           std::ranges::find(TableauNomsMachines, nom) != TableauNomsMachines.end();
 }
 
 void CreerTableauDesNomsDeMachines() {

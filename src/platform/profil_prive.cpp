@@ -173,6 +173,7 @@ void Profil::Effacer(std::string_view section) {
 }
 
 void Profil::SupprimerLignes(std::string_view texte) {
+    if (texte.empty()) return; // every line holds it
     std::string reste;
     const auto garder = [&](const std::string& ligne) {
         if (SansFin(ligne).find(texte) == std::string::npos) reste += ligne;

@@ -32,7 +32,7 @@ public:
     bool Ecrire(std::string_view section, std::string_view cle, std::string_view valeur);
     // Empties all sections of that name; their headers stay.
     void Effacer(std::string_view section);
-    // Removes all lines that hold the text anywhere, case counting.
+    // Removes all lines that hold the text anywhere, case counting; an empty text removes none.
     void SupprimerLignes(std::string_view texte);
 
     // Names of the sections in file order, a name met again left out.

@@ -97,6 +97,9 @@ std::string LireProfil(const std::string& fichier, std::string_view section, std
 
 bool EcrireProfil(const std::string& fichier, std::string_view section, std::string_view cle,
                   std::string_view valeur) {
+    // A value that stands there already costs no write.
+    const std::string* actuelle = ProfilAJour(fichier).profil.Chercher(section, cle);
+    if (actuelle != nullptr && *actuelle == valeur && valeur.size() < LongueurValeurProfil) return true;
     return Changer(fichier, [&](Profil& profil) { return profil.Ecrire(section, cle, valeur); });
 }
 

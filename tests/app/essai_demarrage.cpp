@@ -256,6 +256,15 @@ TEST_F(Demarrage, FauteDUneEtapeEstDiteParSaProcedureEtLaSuiteVient) {
         << texte;
 }
 
+TEST_F(Demarrage, IniQuiEstUnDossierNEmpechePasDeDemarrer) {
+    std::filesystem::create_directories(Ini());
+    const EtatDemarrage etat = Demarrer(m_options);
+    EXPECT_FALSE(etat.Termine());
+    EXPECT_EQ(etat.NomMachine, "(Defaut)");
+    EXPECT_EQ(MatiereCourante.Nom, "Par defaut");
+    EXPECT_TRUE(DossierExiste(Ini()));
+}
+
 TEST_F(Demarrage, ParametreTropGrandEstDitEtLesAutresSontLus) {
     PoserIni("[Parametres]\r\nSaigneeMaxiSoft=99999999999\r\nOngletActif=TS2D\r\nLangue=English\r\n");
     const EtatDemarrage etat = Demarrer(m_options);

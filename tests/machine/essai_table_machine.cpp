@@ -419,6 +419,9 @@ TEST_F(Machines, TableauDesNomsDansLOrdreDuFichier) {
     CreerTableauDesNomsDeMachines();
     EXPECT_EQ(TableauNomsMachines,
               (std::vector<std::string>{"(Defaut)", "QT4X-m1", "Zoe", "A]B", "dernier"}));
+    EXPECT_TRUE(EstMachineConnue("Zoe"));
+    EXPECT_TRUE(EstMachineConnue("QT2d v10")); // built in, not listed
+    EXPECT_FALSE(EstMachineConnue("Inconnue"));
 }
 
 TEST_F(Machines, ComparaisonIgnoreCeDontLeMouvementNeDependPas) {

@@ -103,6 +103,8 @@ TEST(ProfilPrive, SupprimerLignesOuQueSoitLeTexte) {
     profil.SupprimerLignes("[B]");
     EXPECT_EQ(profil.Texte(), "[A]\r\ny=1\r\n");
     EXPECT_EQ(*profil.Chercher("A", "y"), "1");
+    profil.SupprimerLignes("");
+    EXPECT_EQ(profil.Texte(), "[A]\r\ny=1\r\n");
 }
 
 TEST(ProfilsFichiers, AbsentDonneLeDefautEtEcrireCree) {
@@ -161,6 +163,19 @@ TEST(ProfilsFichiers, EcrituresGroupeesEnUneFois) {
         EXPECT_TRUE(SupprimerLignesProfil(fichier, "rien de tel"));
         EXPECT_TRUE(dehors.Valider());
     }
+    EXPECT_EQ(LireFichierEntier(fichier), "[A]\r\nk=1\r\n");
+}
+
+TEST(ProfilsFichiers, ValeurInchangeeNeReecritPas) {
+    const essais::DossierProvisoire dossier;
+    const std::string fichier = dossier.Fichier("a.ini");
+    EcrireProfil(fichier, "A", "k", "1");
+    struct stat avant {};
+    struct stat apres {};
+    ASSERT_EQ(::stat(fichier.c_str(), &avant), 0);
+    EXPECT_TRUE(EcrireProfil(fichier, "a", "K", "1"));
+    ASSERT_EQ(::stat(fichier.c_str(), &apres), 0);
+    EXPECT_EQ(apres.st_ino, avant.st_ino);
     EXPECT_EQ(LireFichierEntier(fichier), "[A]\r\nk=1\r\n");
 }
 
