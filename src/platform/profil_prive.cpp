@@ -26,7 +26,6 @@ std::string Plier(std::string_view texte) {
 
 // The first LongueurValeurProfil characters, a character of several bytes never cut.
 std::string_view CouperValeur(std::string_view valeur) {
-    valeur = valeur.substr(0, valeur.find('\0'));
     if (valeur.size() <= LongueurValeurProfil) return valeur;
     std::size_t caracteres = 0;
     for (std::size_t i = 0; i < valeur.size(); ++i) {

@@ -63,6 +63,7 @@ TEST(ProfilPrive, NomDeSectionJusquAuDernierCrochet) {
 
 TEST(ProfilPrive, EcrireGardeCommentairesEtLignesInconnues) {
     Profil profil("; en tete\r\n[A]\r\n;x=0\r\nx=1\r\nrien\r\n\r\n[B]\r\ny=2\r\n");
+    EXPECT_EQ(profil.Cles("A").size(), 1U);
     EXPECT_TRUE(profil.Ecrire("a", "X", "7"));
     EXPECT_TRUE(profil.Ecrire("A", "z", "8"));
     EXPECT_TRUE(profil.Ecrire("C", "w", "9"));
@@ -147,6 +148,16 @@ TEST(ProfilsFichiers, EcritureImpossibleEstDiteEtLAncienReste) {
     EXPECT_FALSE(EcrireProfil(dossier.Fichier("absent/a.ini"), "A", "k", "1"));
     EXPECT_EQ(LireProfil(dossier.Fichier("absent/a.ini"), "A", "k", "rien"), "rien");
     EXPECT_FALSE(EcrireProfil(dossier.Chemin(), "A", "k", "1"));
+}
+
+TEST(ProfilsFichiers, CeQuiNePeutEtreLuNEstPasEcrase) {
+    const essais::DossierProvisoire dossier;
+    const std::string tube = dossier.Fichier("tube");
+    ASSERT_EQ(::mkfifo(tube.c_str(), 0600), 0);
+    EXPECT_EQ(LireProfil(tube, "A", "k", "rien"), "rien");
+    EXPECT_FALSE(EcrireProfil(tube, "A", "k", "1"));
+    EXPECT_FALSE(EffacerSectionProfil(tube, "A"));
+    EXPECT_TRUE(std::filesystem::is_fifo(tube));
 }
 
 TEST(ProfilsFichiers, EcrituresGroupeesEnUneFois) {
