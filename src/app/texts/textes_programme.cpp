@@ -70,6 +70,9 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
     {TexteProgramme::DossierImpossible, "Le dossier %1 n'a pas pu être créé : %2",
      "The folder %1 could not be created: %2"},
     {TexteProgramme::DossierImpossibleTitre, "Création de dossier", "Creating a folder"},
+    {TexteProgramme::SplashCourses, "Courses : %1 × %2 mm", "Travel: %1 × %2 mm"},
+    {TexteProgramme::SplashMemoireEgale, "mêmes paramètres", "same parameters"},
+    {TexteProgramme::SplashMemoireDifferente, "paramètres différents", "different parameters"},
 
     // Machines and materials
     {TexteProgramme::ChargementMachineImpossible,

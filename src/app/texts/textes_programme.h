@@ -28,6 +28,9 @@ enum class TexteProgramme {
     IniSansRetourChariotTitre,
     DossierImpossible, // %1 folder, %2 reason
     DossierImpossibleTitre,
+    SplashCourses, // %1 and %2 travel in X and Y, mm
+    SplashMemoireEgale,
+    SplashMemoireDifferente,
 
     // Machines and materials
     ChargementMachineImpossible, // %1 machine
