@@ -1,0 +1,73 @@
+// The desktop program: one instance, the start-up, the splash, and the window of the mode chosen there.
+#include "app/demarrage/demarrage.h"
+#include "app/settings/parametres.h"
+#include "app/texts/textes_programme.h"
+#include "app/ui/application.h"
+#include "app/ui/frmSplashScreen.h"
+#include "machine/table_machine.h"
+#include "platform/dialogue.h"
+#include "platform/instance.h"
+#include "ui/boites_qt.h"
+#include "ui/pompe_qt.h"
+#include "ui/theme.h"
+#include "work2d/ui/frmTessarel2D.h"
+
+#include <memory>
+
+namespace {
+
+using namespace tessarel;
+
+// The windows of the run, owned here until the program ends.
+struct Fenetres {
+    std::unique_ptr<frmSplashScreen> splash;
+    std::unique_ptr<frmTessarel2D> travail2D;
+};
+
+// The splash is a one-way door: it isn't shown again in this run.
+void Entrer2D(Fenetres& fenetres) {
+    Parametres.OngletActif = "TS2D";
+    fenetres.travail2D = std::make_unique<frmTessarel2D>();
+    fenetres.travail2D->show();
+    fenetres.splash->hide();
+}
+
+// Everything up to the splash; false when the start-up ends the program, which has then told why.
+bool MontrerSplash(ApplicationTessarel& application, Fenetres& fenetres) {
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    const EtatDemarrage etat = Demarrer({});
+    QGuiApplication::restoreOverrideCursor();
+    if (etat.Termine()) return false;
+    application.ParlerLangue(LangueCourante());
+    fenetres.splash = std::make_unique<frmSplashScreen>();
+    fenetres.splash->MontrerCourses(TableINI.CourseX, TableINI.CourseY);
+    fenetres.splash->Montrer(etat);
+    QObject::connect(fenetres.splash.get(), &frmSplashScreen::Continuer, fenetres.splash.get(),
+                     [&fenetres](ModeChoisi mode) {
+                         if (mode == ModeChoisi::Mode2D) Entrer2D(fenetres);
+                     });
+    fenetres.splash->show();
+    return true;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    ApplicationTessarel application(argc, argv);
+    AppliquerTheme(Theme::Systeme);
+    InstallerBoitesQt();
+    InstallerPompeQt();
+    try {
+        const VerrouInstance instance;
+        if (!instance.Seule()) {
+            AfficherExclamation(Texte(TexteProgramme::InstanceUnique),
+                                Texte(TexteProgramme::InstanceUniqueTitre));
+            return 0;
+        }
+        Fenetres fenetres;
+        return MontrerSplash(application, fenetres) ? ApplicationTessarel::exec() : 0;
+    } catch (const std::exception& faute) {
+        AnnoncerFaute(faute, "Form_Load", "frmSplashScreen");
+    }
+    return 1;
+}
