@@ -29,7 +29,7 @@ struct TonsPalette {
 
 constexpr TonsPalette TonsClairs = {0xfff4f5f7, 0xffffffff, 0xffeceff3, 0xffeef0f3, 0xff1c2430, 0xff98a1ad,
                                     0xff6b7684, 0xff1f6fd1, 0xffffffff, 0xff1a5fb4, 0xff26303d, 0xfff4f5f7};
-constexpr TonsPalette TonsSombres = {0xff20252c, 0xff2a3038, 0xff252b32, 0xff2c323b, 0xffe6eaf0, 0xff6d7784,
+constexpr TonsPalette TonsSombres = {0xff20252c, 0xff2a3038, 0xff252b32, 0xff2c323b, 0xffe6eaf0, 0xff808b98,
                                      0xff96a1ae, 0xff2f6fc4, 0xffffffff, 0xff7ab3f5, 0xffe6eaf0, 0xff1c2430};
 
 QPalette FairePalette(const TonsPalette& tons) {

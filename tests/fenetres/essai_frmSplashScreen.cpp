@@ -372,7 +372,7 @@ void EssaiSplash::Images() {
             etat.Splash.Correspondance.Texte = TitresMessages(247);
             m_splash->MontrerCourses(600, 300);
             Montrer(etat);
-            QVERIFY(essais::SauverImage(*m_splash, QStringLiteral("splash_%1_%2")
+            QVERIFY(essais::SauverImage(*m_splash, QStringLiteral("frmSplashScreen-%1-%2")
                                                        .arg(langue == Langue::English ? "en" : "fr",
                                                             theme == Theme::Sombre ? "sombre" : "clair")));
         }
