@@ -15,9 +15,10 @@ namespace {
 
 constexpr Masque MasqueReel = MasqueProjet;
 constexpr std::string_view FinDeLigne = "\r\n";
-// Pieces of this size reach the file; a line of a point needs the second at most.
-constexpr std::size_t TailleTampon = std::size_t{1} << 18U;
+// Room that the line of a point needs at most.
 constexpr std::size_t TailleLignePoint = 2 * TailleNombre + 64;
+// Filled to within a line it holds as much as the file's own buffer, which then takes no second copy.
+constexpr std::size_t TailleTampon = (std::size_t{1} << 18U) + TailleLignePoint;
 
 // Lines on their way into a file.
 class LignesProjet {

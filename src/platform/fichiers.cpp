@@ -8,6 +8,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdint>
+#include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
@@ -41,6 +42,17 @@ std::size_t LongueurUtf8(std::string_view s, std::size_t i) {
         return 4;
     }
     return 0;
+}
+
+// Where the run of plain ASCII that starts at `i` ends, to within a few bytes before it.
+std::size_t FinAscii(std::string_view s, std::size_t i) {
+    constexpr std::uint64_t bitsHauts = 0x8080808080808080U;
+    std::uint64_t mot = 0;
+    for (; i + sizeof mot <= s.size(); i += sizeof mot) {
+        std::memcpy(&mot, s.data() + i, sizeof mot);
+        if ((mot & bitsHauts) != 0) break;
+    }
+    return i;
 }
 
 // Windows-1252 between 0x80 and 0x9F; the five unused codes keep their number.
@@ -116,7 +128,7 @@ std::string LireDebutFichier(const std::string& chemin, std::size_t nombre) {
 
 std::string EnUtf8(std::string octets) {
     bool valide = true;
-    for (std::size_t i = 0; i < octets.size() && valide;) {
+    for (std::size_t i = FinAscii(octets, 0); i < octets.size() && valide; i = FinAscii(octets, i)) {
         const std::size_t n = LongueurUtf8(octets, i);
         valide = n != 0;
         i += n;

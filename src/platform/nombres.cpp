@@ -15,31 +15,82 @@ namespace tessarel {
 
 namespace {
 
-constexpr std::array<double, 13> PuissancesDe10 = {1e0, 1e1, 1e2, 1e3,  1e4,  1e5, 1e6,
-                                                   1e7, 1e8, 1e9, 1e10, 1e11, 1e12};
+// The numbers below 1000 as text, four bytes each: with leading zeros, and without them, their length last.
+struct TablesMilliers {
+    std::array<std::array<char, 4>, 1000> groupes{};
+    std::array<std::array<char, 4>, 1000> tetes{};
+};
+constexpr TablesMilliers Milliers = [] {
+    TablesMilliers t;
+    for (unsigned i = 0; i < 1000; ++i) {
+        const std::array<char, 3> chiffres = {static_cast<char>('0' + i / 100),
+                                              static_cast<char>('0' + i / 10 % 10),
+                                              static_cast<char>('0' + i % 10)};
+        const unsigned longueur = i >= 100 ? 3 : i >= 10 ? 2 : 1;
+        for (unsigned k = 0; k < 3; ++k) t.groupes[i][k] = chiffres[k];
+        for (unsigned k = 0; k < longueur; ++k) t.tetes[i][k] = chiffres[3 - longueur + k];
+        t.tetes[i][3] = static_cast<char>(longueur);
+    }
+    return t;
+}();
 
-// Writes the whole part and the decimals of a value already scaled by 10^decimalesMax and rounded.
-char* EcrireEchelle(char* sortie, bool negatif, std::uint64_t echelle, Masque masque) {
-    std::array<char, 24> chiffres; // least significant first
-    int n = 0;
-    int decimales = masque.decimalesMax;
-    const bool nul = echelle == 0;
-    while (decimales > masque.decimalesMin && echelle % 10 == 0) {
-        echelle /= 10;
-        --decimales;
+char* EcrireGroupe(char* sortie, std::uint32_t millier) {
+    std::memcpy(sortie, Milliers.groupes[millier].data(), 4);
+    return sortie + 3;
+}
+
+char* EcrireTete(char* sortie, std::uint32_t millier) {
+    std::memcpy(sortie, Milliers.tetes[millier].data(), 4);
+    return sortie + Milliers.tetes[millier][3];
+}
+
+// Decimals and whole parts that are written by groups of three digits.
+constexpr int DecimalesRapides = 6;
+constexpr std::uint32_t EntierRapideMax = 999'999;
+constexpr std::array<std::uint32_t, DecimalesRapides + 1> PuissancesDe10 = {1,      10,      100,      1'000,
+                                                                            10'000, 100'000, 1'000'000};
+// Only this close to a half can the fifteen digits of a value decide otherwise than the value itself.
+constexpr double VoisinageDemi = 1e-4;
+// Highest values written fast, by decimals: scaled they stay below 10^10, so that the fifteenth digit is less
+// than VoisinageDemi of a unit.
+constexpr std::array<double, DecimalesRapides + 1> GrandeursRapides = {
+    EntierRapideMax, EntierRapideMax, EntierRapideMax, EntierRapideMax, EntierRapideMax, 1e5, 1e4};
+
+// Writes a plain number: up to six decimals, a value of moderate size whose decimals are not near a half.
+// Null, and nothing written, for any other.
+char* EcrireRapide(char* sortie, double valeur, Masque masque) {
+    const double grandeur = std::abs(valeur);
+    const auto decimales = static_cast<std::size_t>(masque.decimalesMax);
+    if (decimales > DecimalesRapides || masque.entiers > 1) return nullptr;
+    if (!(grandeur < GrandeursRapides[decimales])) return nullptr;
+    auto entiers = static_cast<std::uint32_t>(static_cast<std::int32_t>(grandeur));
+    const std::uint32_t unite = PuissancesDe10[decimales];
+    // The whole part is taken off without loss.
+    const double echelle = (grandeur - entiers) * unite;
+    auto reste = static_cast<std::uint32_t>(static_cast<std::int32_t>(echelle));
+    const double partie = echelle - reste;
+    if (std::abs(partie - 0.5) <= VoisinageDemi) return nullptr;
+    reste += partie > 0.5 ? 1 : 0;
+    if (reste == unite) {
+        reste = 0;
+        ++entiers;
     }
-    while (echelle != 0) {
-        chiffres[static_cast<std::size_t>(n++)] = static_cast<char>('0' + echelle % 10);
-        echelle /= 10;
+
+    *sortie = '-';
+    sortie += std::signbit(valeur) && (entiers | reste) != 0 ? 1 : 0;
+    if (entiers >= 1000) {
+        sortie = EcrireGroupe(EcrireTete(sortie, entiers / 1000), entiers % 1000);
+    } else if (entiers != 0 || masque.entiers != 0) {
+        sortie = EcrireTete(sortie, entiers);
     }
-    while (n < decimales + masque.entiers) chiffres[static_cast<std::size_t>(n++)] = '0';
-    if (negatif && !nul) *sortie++ = '-';
-    while (n > decimales) *sortie++ = chiffres[static_cast<std::size_t>(--n)];
-    if (decimales > 0) {
-        *sortie++ = '.';
-        while (n > 0) *sortie++ = chiffres[static_cast<std::size_t>(--n)];
-    }
-    return sortie;
+    if (decimales == 0) return sortie;
+    const std::uint32_t millioniemes = reste * PuissancesDe10[DecimalesRapides - decimales];
+    EcrireGroupe(EcrireGroupe(sortie + 1, millioniemes / 1000), millioniemes % 1000);
+    std::size_t ecrites = decimales;
+    while (ecrites > static_cast<std::size_t>(masque.decimalesMin) && sortie[ecrites] == '0') --ecrites;
+    if (ecrites == 0) return sortie;
+    *sortie = '.';
+    return sortie + 1 + ecrites;
 }
 
 // Rounds the decimal digits of |valeur|, cut to `significatifs` digits first, half away from zero. Slow and
@@ -94,26 +145,11 @@ char* EcrireParChiffres(char* sortie, Reel valeur, Masque masque, int significat
     return sortie;
 }
 
-// The scaled value is within a few units of 2^-52 of the true one; only this close to a half can the 15
-// digits decide otherwise.
-constexpr double VoisinageDemi = 1e-4;
-// Above this the scaled value has no digits left to tell a half by.
-constexpr double EchelleMax = 1e10;
-
 } // namespace
 
 char* EcrireNombre(char* sortie, double valeur, Masque masque) {
-    if (!std::isfinite(valeur)) valeur = 0;
-    const double echelle =
-        std::abs(valeur) * PuissancesDe10[static_cast<std::size_t>(std::min(masque.decimalesMax, 12))];
-    if (echelle < EchelleMax && masque.decimalesMax <= 12) {
-        const double bas = std::floor(echelle);
-        const double reste = echelle - bas;
-        if (std::abs(reste - 0.5) > VoisinageDemi)
-            return EcrireEchelle(sortie, std::signbit(valeur),
-                                 static_cast<std::uint64_t>(bas) + (reste > 0.5 ? 1 : 0), masque);
-    }
-    return EcrireParChiffres(sortie, valeur, masque, 15);
+    if (char* fin = EcrireRapide(sortie, valeur, masque)) return fin;
+    return EcrireParChiffres(sortie, std::isfinite(valeur) ? valeur : 0, masque, 15);
 }
 
 char* EcrireNombre(char* sortie, float valeur, Masque masque) {
@@ -131,6 +167,37 @@ std::string FormaterNombre(float valeur, Masque masque) {
     return {tampon.data(), EcrireNombre(tampon.data(), valeur, masque)};
 }
 
+namespace {
+
+// Digits and a point, fifteen digits at most, no exponent: the whole number of the digits and the power of
+// ten are then exact, and one division rounds as it must. Returns where it ends; null for any other number.
+const char* LireDecimalCourt(const char* debut, const char* fin, double& valeur) {
+    constexpr std::ptrdiff_t chiffresMax = 15;
+    static constexpr std::array<double, chiffresMax + 1> puissances = {
+        1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    std::uint64_t mantisse = 0;
+    const char* c = debut;
+    const auto avancer = [&] {
+        for (; c != fin && *c >= '0' && *c <= '9'; ++c)
+            mantisse = mantisse * 10 + static_cast<unsigned>(*c - '0');
+    };
+    avancer();
+    std::ptrdiff_t chiffres = c - debut;
+    std::ptrdiff_t decimales = 0;
+    if (c != fin && *c == '.') {
+        const char* apres = ++c;
+        avancer();
+        decimales = c - apres;
+        chiffres += decimales;
+    }
+    if (chiffres == 0 || chiffres > chiffresMax) return nullptr;
+    if (c != fin && (*c == 'e' || *c == 'E')) return nullptr;
+    valeur = static_cast<double>(mantisse) / puissances[static_cast<std::size_t>(decimales)];
+    return c;
+}
+
+} // namespace
+
 std::size_t LireTeteNumerique(std::string_view texte, double& valeur) {
     const char* debut = texte.data();
     const char* fin = debut + texte.size();
@@ -144,6 +211,10 @@ std::size_t LireTeteNumerique(std::string_view texte, double& valeur) {
     if (premier != fin && *premier == '-') ++premier;
     // No "nan", "inf" or other words: a number begins with a digit or a point.
     if (premier == fin || !((*premier >= '0' && *premier <= '9') || *premier == '.')) return 0;
+    if (const char* suite = LireDecimalCourt(premier, fin, valeur)) {
+        if (*chiffre == '-') valeur = -valeur;
+        return static_cast<std::size_t>(suite - texte.data());
+    }
     const auto r = std::from_chars(chiffre, fin, valeur);
     if (r.ec == std::errc::result_out_of_range) {
         // Underflow reads as zero, overflow as infinity, which the callers refuse.

@@ -34,6 +34,32 @@ TEST(Fichiers, EncodageReconnu) {
     EXPECT_EQ(EnUtf8("\xC0\xAF"), "À¯"); // an overlong form is no UTF-8
 }
 
+// The run of ASCII before, between and after is skipped by words: the place of the odd byte must not matter.
+TEST(Fichiers, EncodageReconnuOuQueSoitLOctet) {
+    for (std::size_t avant = 0; avant < 20; ++avant) {
+        for (std::size_t apres = 0; apres < 20; ++apres) {
+            const std::string a(avant, 'a');
+            const std::string b(apres, 'b');
+            EXPECT_EQ(EnUtf8(a + "\xE9" + b), a + "é" + b);
+            EXPECT_EQ(EnUtf8(a + "é" + b), a + "é" + b);
+            EXPECT_EQ(EnUtf8(a + "é" + b + "\xE9"), a + "Ã©" + b + "é");
+        }
+    }
+}
+
+TEST(Fichiers, DebutDUnFichier) {
+    const essais::DossierProvisoire dossier;
+    const std::string chemin = dossier.Fichier("a");
+    EcrireFichierAtomique(chemin, std::string(5000, 'x') + "fin");
+    EXPECT_EQ(LireDebutFichier(chemin, 4), "xxxx");
+    EXPECT_EQ(LireDebutFichier(chemin, 0), "");
+    EXPECT_EQ(LireDebutFichier(chemin, 5003).size(), 5003U);
+    EXPECT_EQ(LireDebutFichier(chemin, 99999), LireFichierEntier(chemin));
+    // A file whose size the system does not tell.
+    EXPECT_EQ(LireDebutFichier("/proc/self/status", 5), LireFichierEntier("/proc/self/status").substr(0, 5));
+    EXPECT_THROW(LireDebutFichier(dossier.Chemin(), 4), FauteFichier);
+}
+
 TEST(Fichiers, EcritureToutOuRien) {
     const essais::DossierProvisoire dossier;
     const std::string cible = dossier.Fichier("a.txt");

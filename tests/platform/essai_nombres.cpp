@@ -5,8 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
+#include <cstdlib>
 #include <random>
+#include <string_view>
 
 using namespace tessarel;
 
@@ -53,6 +56,38 @@ TEST(Masques, CheminRapideCommeCheminExact) {
     }
 }
 
+TEST(Masques, ToutesLesFormesCommeLeSysteme) {
+    std::mt19937_64 hasard(21);
+    static constexpr std::array<const char*, 6> masques = {"##0",    "0.0",        "#####0.000000",
+                                                           "000.00", "0.00000000", "00000000.0"};
+    const std::array<int, 6> decimales = {0, 1, 6, 2, 8, 1};
+    const std::array<int, 6> largeurs = {1, 3, 8, 6, 10, 10};
+    for (int i = 0; i < 100000; ++i) {
+        const std::size_t m = hasard() % masques.size();
+        const double v = std::ldexp(static_cast<double>(static_cast<std::int64_t>(hasard())),
+                                    -60 + static_cast<int>(hasard() % 24));
+        // Near a half the fifteen digits decide, and the system's own conversion does not look at them.
+        const double echelle = std::abs(v) * std::pow(10, decimales[m]);
+        if (std::abs(echelle - std::floor(echelle) - 0.5) < 0.01 || echelle > 1e12) continue;
+        std::array<char, 64> attendu;
+        std::snprintf(attendu.data(), attendu.size(), "%0*.*f", largeurs[m] + (v < 0 ? 1 : 0), decimales[m],
+                      v);
+        if (attendu[0] == '-' &&
+            std::string_view(attendu.data()).find_first_of("123456789") == std::string_view::npos)
+            continue;
+        ASSERT_EQ(FormaterNombre(v, masques[m]), attendu.data()) << v << " " << masques[m];
+    }
+}
+
+TEST(Masques, DecimalesPermisesSansZerosInutiles) {
+    EXPECT_EQ(FormaterNombre(0.1, "##0.0##"), "0.1");
+    EXPECT_EQ(FormaterNombre(12.340, "##0.0##"), "12.34");
+    EXPECT_EQ(FormaterNombre(100.0, "##0.##"), "100");
+    EXPECT_EQ(FormaterNombre(1000.05, "##0.0##"), "1000.05");
+    EXPECT_EQ(FormaterNombre(-7.0, "000.0#"), "-007.0");
+    EXPECT_EQ(FormaterNombre(0.0, "#.##"), "");
+}
+
 TEST(NombreDepuisTexte, CaracteresGardesEtFin) {
     EXPECT_EQ(NombreDepuisTexte(""), 0);
     EXPECT_EQ(NombreDepuisTexte("1,5"), 1.5);
@@ -81,6 +116,43 @@ TEST(LireDecimal, RefuseCeQuiNEstPasUnNombre) {
     EXPECT_FALSE(LireDecimal("inf"));
     EXPECT_FALSE(LireDecimal("1e999"));
     EXPECT_FALSE(LireDecimal("1.2.3"));
+}
+
+TEST(LireTeteNumerique, CommeLaConversionDuSysteme) {
+    std::mt19937_64 hasard(31);
+    const auto chiffres = [&](std::size_t n) {
+        std::string texte;
+        while (n-- > 0) texte += static_cast<char>('0' + hasard() % 10);
+        return texte;
+    };
+    for (int i = 0; i < 200000; ++i) {
+        std::string texte = hasard() % 3 == 0 ? "-" : "";
+        texte += chiffres(1 + hasard() % 12);
+        if (hasard() % 4 != 0) texte += "." + chiffres(hasard() % 12);
+        if (hasard() % 8 == 0) texte += "e" + std::to_string(static_cast<int>(hasard() % 40) - 20);
+        double valeur = -1;
+        ASSERT_EQ(LireTeteNumerique(texte + ":x", valeur), texte.size()) << texte;
+        const double attendue = std::strtod(texte.c_str(), nullptr);
+        ASSERT_EQ(valeur, attendue) << texte;
+        ASSERT_EQ(std::signbit(valeur), std::signbit(attendue)) << texte;
+    }
+}
+
+TEST(LireTeteNumerique, CaracteresPris) {
+    const auto prend = [](std::string_view texte) {
+        double valeur = 0;
+        return LireTeteNumerique(texte, valeur);
+    };
+    EXPECT_EQ(prend("12.5mm"), 4U);
+    EXPECT_EQ(prend("  .5"), 4U);
+    EXPECT_EQ(prend("5."), 2U);
+    EXPECT_EQ(prend("+5"), 2U);
+    EXPECT_EQ(prend("5e"), 1U);
+    EXPECT_EQ(prend("5e3,"), 3U);
+    EXPECT_EQ(prend("1.2.3"), 3U);
+    EXPECT_EQ(prend("123456789012345678901234"), 24U);
+    for (const char* rien : {"", ".", "-", "-.", "+-1", "--1", "e5", "nan", "inf", "abc", ":"})
+        EXPECT_EQ(prend(rien), 0U) << rien;
 }
 
 TEST(Arrondis, DemisVersLePair) {
