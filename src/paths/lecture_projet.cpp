@@ -6,6 +6,7 @@
 #include "paths/texte_projet.h"
 #include "platform/dialogue.h"
 #include "platform/fichiers.h"
+#include "platform/profil_prive.h"
 
 #include <string_view>
 #include <type_traits>

@@ -5,6 +5,7 @@
 #include "paths/cles_projet.h"
 #include "platform/fichiers.h"
 #include "platform/nombres.h"
+#include "platform/profil_prive.h"
 
 #include <algorithm>
 #include <charconv>
@@ -51,7 +52,7 @@ private:
 
 // The plain case, three bare numbers; false for anything else, which then takes the careful road.
 bool LirePointRapide(std::string_view valeur, PointProfil& point) {
-    if (valeur.size() > LongueurValeurMax) return false;
+    if (valeur.size() > LongueurValeurProfil) return false;
     double drapeaux = 0;
     std::size_t n = LireTeteNumerique(valeur, point.X);
     if (n == 0 || n >= valeur.size() || valeur[n] != ':') return false;
@@ -68,7 +69,7 @@ bool LirePointRapide(std::string_view valeur, PointProfil& point) {
 }
 
 PointProfil LirePointSoigneux(const TexteProjet& texte, std::string_view valeur) {
-    const std::string_view propre = PremiersCaracteres(TexteProjet::Nettoyer(valeur), LongueurValeurMax);
+    const std::string_view propre = PremiersCaracteres(ValeurNettoyee(valeur), LongueurValeurProfil);
     const std::vector<std::string_view> champs = Decouper(propre, ":");
     if (champs.size() < 3)
         texte.Refuser(valeur, TexteRempli(TexteProgramme::LecturePointProjetAttendu, {propre}));

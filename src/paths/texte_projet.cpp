@@ -5,6 +5,7 @@
 #include "platform/erreurs.h"
 #include "platform/fichiers.h"
 #include "platform/nombres.h"
+#include "platform/profil_prive.h"
 
 #include <algorithm>
 #include <charconv>
@@ -28,16 +29,6 @@ bool EnDebutDeLigne(std::string_view texte, std::size_t i) {
 
 } // namespace
 
-std::string_view PremiersCaracteres(std::string_view texte, std::size_t nombre) {
-    if (texte.size() <= nombre) return texte;
-    std::size_t caracteres = 0;
-    for (std::size_t i = 0; i < texte.size(); ++i) {
-        const bool suite = (static_cast<unsigned char>(texte[i]) & 0xC0U) == 0x80U;
-        if (!suite && caracteres++ == nombre) return texte.substr(0, i);
-    }
-    return texte;
-}
-
 TexteProjet::TexteProjet(std::string octets, std::string chemin)
     : m_texte(EnUtf8(std::move(octets))), m_chemin(std::move(chemin)) {
     IndexerSections();
@@ -53,12 +44,10 @@ void TexteProjet::IndexerSections() {
     for (std::size_t i = texte.find('['); i != std::string_view::npos; i = texte.find('[', i + 1)) {
         if (!EnDebutDeLigne(texte, i)) continue;
         const std::size_t finLigne = std::min(texte.find('\n', i), texte.size());
-        const std::string_view ligne = texte.substr(i + 1, finLigne - i - 1);
-        const std::size_t crochet = ligne.find(']');
-        if (crochet == std::string_view::npos) continue;
+        std::string_view nom;
+        if (!NomDeSection(texte.substr(i, finLigne - i), nom)) continue;
         fermer(i);
-        const auto [place, nouvelle] =
-            m_sections.try_emplace(EnMinuscules(Rogner(ligne.substr(0, crochet))), std::string_view());
+        const auto [place, nouvelle] = m_sections.try_emplace(PlierNom(nom), std::string_view());
         ouverte = nouvelle ? &place->second : nullptr;
         debut = texte.data() + std::min(finLigne + 1, texte.size());
         // The rest of a line of headers is no header.
@@ -68,16 +57,16 @@ void TexteProjet::IndexerSections() {
 }
 
 bool TexteProjet::Contient(std::string_view section) const {
-    return m_sections.find(EnMinuscules(section)) != m_sections.end();
+    return m_sections.find(PlierNom(section)) != m_sections.end();
 }
 
 std::string_view TexteProjet::Corps(std::string_view section) const {
-    const auto place = m_sections.find(EnMinuscules(section));
+    const auto place = m_sections.find(PlierNom(section));
     return place == m_sections.end() ? std::string_view() : place->second;
 }
 
 std::size_t TexteProjet::CompterNumerotees(std::string_view prefixe, std::uint32_t maximum) const {
-    const std::string debut = EnMinuscules(prefixe);
+    const std::string debut = PlierNom(prefixe);
     std::size_t nombre = 0;
     for (const auto& [nom, corps] : m_sections) {
         if (!nom.starts_with(debut) || nom.size() == debut.size() || nom[debut.size()] == '0') continue;
@@ -93,23 +82,16 @@ std::string_view TexteProjet::ValeurBrute(std::string_view section, std::string_
     std::string_view cleLue;
     std::string_view valeur;
     while (LigneSuivante(corps, cleLue, valeur))
-        if (EgalSansCasse(cleLue, cle)) return valeur;
+        if (EgalSansCasse(cleLue, cle)) return valeur; // keys of projects are ASCII
     return {};
 }
 
 std::string_view TexteProjet::ValeurEntiere(std::string_view section, std::string_view cle) const {
-    return Nettoyer(ValeurBrute(section, cle));
-}
-
-std::string_view TexteProjet::Nettoyer(std::string_view valeur) {
-    valeur = valeur.substr(0, valeur.find('\0'));
-    const bool entre = valeur.size() >= 2 && valeur.front() == valeur.back() &&
-                       (valeur.front() == '"' || valeur.front() == '\'');
-    return entre ? valeur.substr(1, valeur.size() - 2) : valeur;
+    return ValeurNettoyee(ValeurBrute(section, cle));
 }
 
 std::string_view TexteProjet::Valeur(std::string_view section, std::string_view cle) const {
-    return PremiersCaracteres(ValeurEntiere(section, cle), LongueurValeurMax);
+    return PremiersCaracteres(ValeurEntiere(section, cle), LongueurValeurProfil);
 }
 
 double TexteProjet::Reel(std::string_view valeur) const {

@@ -33,12 +33,6 @@ inline bool LigneSuivante(std::string_view& corps, std::string_view& cle, std::s
     return false;
 }
 
-// Longest value that is read, in characters; what is beyond is cut.
-inline constexpr std::size_t LongueurValeurMax = 255;
-
-// The first characters of a UTF-8 text, at most `nombre` of them.
-std::string_view PremiersCaracteres(std::string_view texte, std::size_t nombre);
-
 class TexteProjet {
 public:
     // `octets` as the file holds them, in any of the encodings of users' files; `chemin` is named in faults.
@@ -58,8 +52,6 @@ public:
     [[nodiscard]] std::string_view Valeur(std::string_view section, std::string_view cle) const;
     // The same without the cut at 255 characters.
     [[nodiscard]] std::string_view ValeurEntiere(std::string_view section, std::string_view cle) const;
-    // What private profiles make of the text after '='.
-    static std::string_view Nettoyer(std::string_view valeur);
 
     // A value as a number: empty gives 0. FauteLecture with the line where it is none, or beyond the limit of
     // what 32 bits can square.

@@ -12,46 +12,8 @@ namespace {
 
 constexpr std::string_view FinDeLigne = "\r\n";
 
-// Folded for comparison: ASCII letters and the accented ones of Latin-1 (U+00C0 to U+00DE), which names of
-// materials hold.
-std::string Plier(std::string_view texte) {
-    std::string plie = EnMinuscules(texte);
-    for (std::size_t i = 0; i + 1 < plie.size(); ++i) {
-        if (static_cast<unsigned char>(plie[i]) != 0xC3) continue;
-        const auto suite = static_cast<unsigned char>(plie[i + 1]);
-        if (suite >= 0x80 && suite <= 0x9E && suite != 0x97) plie[i + 1] = static_cast<char>(suite + 0x20);
-    }
-    return plie;
-}
-
-// The first LongueurValeurProfil characters, a character of several bytes never cut.
-std::string_view CouperValeur(std::string_view valeur) {
-    if (valeur.size() <= LongueurValeurProfil) return valeur;
-    std::size_t caracteres = 0;
-    for (std::size_t i = 0; i < valeur.size(); ++i) {
-        const bool debut = (static_cast<unsigned char>(valeur[i]) & 0xC0U) != 0x80U;
-        if (debut && ++caracteres > LongueurValeurProfil) return valeur.substr(0, i);
-    }
-    return valeur;
-}
-
-std::string_view SansGuillemets(std::string_view valeur) {
-    const bool entoure = valeur.size() >= 2 && valeur.front() == valeur.back() &&
-                         (valeur.front() == '"' || valeur.front() == '\'');
-    return entoure ? valeur.substr(1, valeur.size() - 2) : valeur;
-}
-
 std::string ValeurLue(std::string_view brute) {
-    return std::string(CouperValeur(SansGuillemets(Rogner(brute.substr(0, brute.find('\0'))))));
-}
-
-bool NomDeSection(std::string_view ligne, std::string& nom) {
-    const std::string_view propre = Rogner(ligne);
-    if (propre.empty() || propre.front() != '[') return false;
-    const auto fin = propre.rfind(']'); // the last one: a name may hold brackets
-    if (fin == std::string_view::npos) return false;
-    nom = std::string(propre.substr(1, fin - 1));
-    return true;
+    return std::string(PremiersCaracteres(ValeurNettoyee(brute), LongueurValeurProfil));
 }
 
 bool TientSurUneLigne(std::string_view nom) {
@@ -77,6 +39,43 @@ std::string SansFin(std::string_view ligne) {
 
 } // namespace
 
+std::string_view ValeurNettoyee(std::string_view brute) {
+    const std::string_view valeur = Rogner(brute.substr(0, brute.find('\0')));
+    const bool entoure = valeur.size() >= 2 && valeur.front() == valeur.back() &&
+                         (valeur.front() == '"' || valeur.front() == '\'');
+    return entoure ? valeur.substr(1, valeur.size() - 2) : valeur;
+}
+
+std::string_view PremiersCaracteres(std::string_view texte, std::size_t nombre) {
+    if (texte.size() <= nombre) return texte;
+    std::size_t caracteres = 0;
+    for (std::size_t i = 0; i < texte.size(); ++i) {
+        const bool debut = (static_cast<unsigned char>(texte[i]) & 0xC0U) != 0x80U;
+        if (debut && ++caracteres > nombre) return texte.substr(0, i);
+    }
+    return texte;
+}
+
+bool NomDeSection(std::string_view ligne, std::string_view& nom) {
+    const std::string_view propre = Rogner(ligne);
+    if (propre.empty() || propre.front() != '[') return false;
+    const auto fin = propre.rfind(']'); // the last one: a name may hold brackets
+    if (fin == std::string_view::npos) return false;
+    nom = propre.substr(1, fin - 1);
+    return true;
+}
+
+// Folds ASCII letters and the accented ones of Latin-1 (U+00C0 to U+00DE), which names of materials hold.
+std::string PlierNom(std::string_view nom) {
+    std::string plie = EnMinuscules(nom);
+    for (std::size_t i = 0; i + 1 < plie.size(); ++i) {
+        if (static_cast<unsigned char>(plie[i]) != 0xC3) continue;
+        const auto suite = static_cast<unsigned char>(plie[i + 1]);
+        if (suite >= 0x80 && suite <= 0x9E && suite != 0x97) plie[i + 1] = static_cast<char>(suite + 0x20);
+    }
+    return plie;
+}
+
 Profil::Profil(std::string_view texteUtf8) {
     Charger(texteUtf8);
 }
@@ -92,14 +91,14 @@ void Profil::Charger(std::string_view texteUtf8) {
     }
     for (std::size_t i = 0; i < m_blocs.size(); ++i) {
         Indexer(m_blocs[i]);
-        if (i > 0) m_index.emplace(Plier(m_blocs[i].nom), i);
+        if (i > 0) m_index.emplace(PlierNom(m_blocs[i].nom), i);
     }
 }
 
 void Profil::AjouterLigne(std::string_view texte) {
-    std::string nom;
+    std::string_view nom;
     if (NomDeSection(texte, nom)) {
-        m_blocs.push_back(Bloc{std::string(texte), std::move(nom), {}, {}});
+        m_blocs.push_back(Bloc{std::string(texte), std::string(nom), {}, {}});
         return;
     }
     Ligne ligne{std::string(texte), {}, {}};
@@ -116,14 +115,14 @@ void Profil::Indexer(Bloc& bloc) {
     bloc.index.clear();
     bloc.index.reserve(bloc.lignes.size());
     for (std::size_t i = 0; i < bloc.lignes.size(); ++i)
-        if (!bloc.lignes[i].cle.empty()) bloc.index.emplace(Plier(bloc.lignes[i].cle), i);
+        if (!bloc.lignes[i].cle.empty()) bloc.index.emplace(PlierNom(bloc.lignes[i].cle), i);
 }
 
 const std::string* Profil::Chercher(std::string_view section, std::string_view cle) const {
-    const auto bloc = m_index.find(Plier(section));
+    const auto bloc = m_index.find(PlierNom(section));
     if (bloc == m_index.end()) return nullptr;
     const Bloc& trouve = m_blocs[bloc->second];
-    const auto ligne = trouve.index.find(Plier(Rogner(cle)));
+    const auto ligne = trouve.index.find(PlierNom(Rogner(cle)));
     return ligne == trouve.index.end() ? nullptr : &trouve.lignes[ligne->second].valeur;
 }
 
@@ -133,7 +132,7 @@ bool Profil::Ecrire(std::string_view section, std::string_view cle, std::string_
     if (cle.find('=') != std::string_view::npos || cle.front() == ';' || cle.front() == '[') return false;
     if (m_blocs.empty()) m_blocs.emplace_back();
     const std::string uneLigne = SurUneLigne(valeur);
-    const auto [place, nouveau] = m_index.try_emplace(Plier(section), m_blocs.size());
+    const auto [place, nouveau] = m_index.try_emplace(PlierNom(section), m_blocs.size());
     if (nouveau) {
         Bloc& dernier = m_blocs.back();
         TerminerLigne(dernier.lignes.empty() ? dernier.entete : dernier.lignes.back().texte);
@@ -141,7 +140,7 @@ bool Profil::Ecrire(std::string_view section, std::string_view cle, std::string_
         m_blocs.push_back(Bloc{"[" + nom + "]\r\n", nom, {}, {}});
     }
     Bloc& bloc = m_blocs[place->second];
-    const std::string clePliee = Plier(cle);
+    const std::string clePliee = PlierNom(cle);
     if (const auto ligne = bloc.index.find(clePliee); ligne != bloc.index.end()) {
         Ligne& ancienne = bloc.lignes[ligne->second];
         const bool derniere = ancienne.texte.empty() || ancienne.texte.back() != '\n';
@@ -163,9 +162,9 @@ bool Profil::Ecrire(std::string_view section, std::string_view cle, std::string_
 }
 
 void Profil::Effacer(std::string_view section) {
-    const std::string nom = Plier(section);
+    const std::string nom = PlierNom(section);
     for (std::size_t i = 1; i < m_blocs.size(); ++i) {
-        if (Plier(m_blocs[i].nom) != nom) continue;
+        if (PlierNom(m_blocs[i].nom) != nom) continue;
         m_blocs[i].lignes.clear();
         m_blocs[i].index.clear();
     }
@@ -187,18 +186,18 @@ void Profil::SupprimerLignes(std::string_view texte) {
 std::vector<std::string> Profil::Sections() const {
     std::vector<std::string> noms;
     for (std::size_t i = 1; i < m_blocs.size(); ++i)
-        if (const auto premier = m_index.find(Plier(m_blocs[i].nom)); premier->second == i)
+        if (const auto premier = m_index.find(PlierNom(m_blocs[i].nom)); premier->second == i)
             noms.push_back(m_blocs[i].nom);
     return noms;
 }
 
 std::vector<std::pair<std::string, std::string>> Profil::Cles(std::string_view section) const {
     std::vector<std::pair<std::string, std::string>> cles;
-    const auto bloc = m_index.find(Plier(section));
+    const auto bloc = m_index.find(PlierNom(section));
     if (bloc == m_index.end()) return cles;
     std::unordered_set<std::string> vues;
     for (const Ligne& ligne : m_blocs[bloc->second].lignes)
-        if (!ligne.cle.empty() && vues.insert(Plier(ligne.cle)).second)
+        if (!ligne.cle.empty() && vues.insert(PlierNom(ligne.cle)).second)
             cles.emplace_back(ligne.cle, ligne.valeur);
     return cles;
 }

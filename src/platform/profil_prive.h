@@ -18,6 +18,16 @@ namespace tessarel {
 // Highest number of characters that a read gives back.
 inline constexpr std::size_t LongueurValeurProfil = 255;
 
+// The rules of one line, for readers that go over a large file on their own. All give views into the text.
+// What stands after '=' as it is read, but for the cut at 255 characters.
+std::string_view ValeurNettoyee(std::string_view brute);
+// The first `nombre` characters of a UTF-8 text; a character of several bytes is never cut.
+std::string_view PremiersCaracteres(std::string_view texte, std::size_t nombre);
+// Sets the name and returns true when the line is the header of a section.
+bool NomDeSection(std::string_view ligne, std::string_view& nom);
+// Names that differ by case alone give the same text.
+std::string PlierNom(std::string_view nom);
+
 // The text of one settings file and the index into it.
 class Profil {
 public:
