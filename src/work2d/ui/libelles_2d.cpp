@@ -21,7 +21,7 @@ constexpr Libelle LIBELLES[] = {
     {"cmdOuvrirFichierTS2D", Bulle, "Ouvrir un projet ou ajouter un dessin",
      "Open a project or add a drawing"},
     {"cmdRecents", Texte, "Récents", "Recent", "Ctrl+R", "recents"},
-    {"cmdRecents", Bulle, "Rouvrir un des derniers fichiers", "Open one of the latest files again"},
+    {"cmdRecents", Bulle, "Rouvrir un des derniers fichiers", "Reopen a recent file"},
     {"menuRecents", Variable},
     {"cmdActualiserSauvegarde", Texte, "Enregistrer", "Save", "Ctrl+S", "enregistrer"},
     {"cmdActualiserSauvegarde", Bulle, "Enregistrer le projet sous son nom",
@@ -37,7 +37,7 @@ constexpr Libelle LIBELLES[] = {
     {"cmdZoomPlus", Bulle, "Agrandir", "Zoom in", "Ctrl++", "zoom-plus"},
     {"cmdZoomMoins", Bulle, "Réduire", "Zoom out", "Ctrl+-", "zoom-moins"},
     {"cmdAide", Texte, "Aide", "Help", "F1", "aide"},
-    {"cmdAide", Bulle, "Souris et clavier de cette fenêtre", "Mouse and keyboard of this window"},
+    {"cmdAide", Bulle, "Souris et clavier de cette fenêtre", "Mouse and keyboard in this window"},
 
     // Project page
     {"frameFichier", Texte, "Fichier", "File"},
@@ -51,35 +51,35 @@ constexpr Libelle LIBELLES[] = {
     {"txtBloc_1", Bulle, "Hauteur du bloc de mousse, en mm", "Height of the foam block, in mm"},
     {"cmdBlocAuto", Texte, "Bloc auto", "Auto block", "Ctrl+B", "bloc-auto"},
     {"cmdBlocAuto", Bulle, "Donner au bloc la taille des tracés, puis les placer",
-     "Give the block the size of the paths, then place them"},
+     "Fit the block to the paths, then place them"},
     {"lblDimensionsBloc", Variable},
-    {"framePlacement", Texte, "Placement dans le bloc", "Placing in the block"},
+    {"framePlacement", Texte, "Placement dans le bloc", "Placement in the block"},
     {"chkCentrer_0", Texte, "Ajuster au bloc", "Fit to the block", "", "ajuster"},
     {"chkCentrer_0", Bulle, "Mettre les tracés à l'échelle du bloc, marges intérieures comprises",
      "Scale the paths to the block, inner margins included"},
-    {"chkCentrer_1", Texte, "Centrer en X", "Centre in X", "", "centrer-x"},
+    {"chkCentrer_1", Texte, "Centrer en X", "Center in X", "", "centrer-x"},
     {"chkCentrer_1", Bulle, "Centrer les tracés sur la largeur du bloc",
-     "Centre the paths on the block's width"},
-    {"chkCentrer_2", Texte, "Centrer en Y", "Centre in Y", "", "centrer-y"},
+     "Center the paths across the width of the block"},
+    {"chkCentrer_2", Texte, "Centrer en Y", "Center in Y", "", "centrer-y"},
     {"chkCentrer_2", Bulle, "Centrer les tracés sur la hauteur du bloc",
-     "Centre the paths on the block's height"},
+     "Center the paths over the height of the block"},
     {"frameAffichage", Texte, "Affichage", "Display"},
-    {"chkZoomProjet", Texte, "Zoom sur le projet", "Zoom on the project"},
+    {"chkZoomProjet", Texte, "Zoom sur le projet", "Zoom to the project"},
     {"chkZoomProjet", Bulle, "Cadrer les tracés après chaque opération",
-     "Frame the paths after every operation"},
+     "Fit the view to the paths after every operation"},
     {"chkVoirPoints", Texte, "Voir les points", "Show the points"},
     {"chkVoirPoints", Bulle, "Marquer chaque point des tracés", "Mark every point of the paths"},
-    {"chkCouleurProfils", Texte, "Une couleur par tracé", "One colour per path"},
+    {"chkCouleurProfils", Texte, "Une couleur par tracé", "One color per path"},
     {"chkCouleurProfils", Bulle, "Distinguer les tracés par leur couleur",
-     "Tell the paths apart by their colour"},
+     "Tell the paths apart by their color"},
     {"cmdDecouper", Texte, "Découper…", "Cut…", "Ctrl+D", "decouper"},
-    {"cmdDecouper", Bulle, "Passer aux paramètres de la découpe", "Go on to the settings of the cut"},
+    {"cmdDecouper", Bulle, "Passer aux paramètres de la découpe", "Go to the cut settings"},
 
     // Cut page
     {"frameMatiere", Texte, "Matière", "Material"},
     {"comboMatieres", Bulle,
      "Matière découpée : elle donne la chauffe et, en mode Expert, la vitesse et la saignée",
-     "Material to cut: it gives the heat and, in Expert mode, speed and kerf"},
+     "Material to cut: it sets the heating and, in Expert mode, the speed and the kerf"},
     {"comboMatieres", Variable},
     {"frameEntree", Texte, "Entrée dans le bloc", "Entry into the block"},
     {"optEntrerBloc_0", Texte, "Origine", "Origin", "", "entree-0"},
@@ -116,24 +116,24 @@ constexpr Libelle LIBELLES[] = {
     {"optDecalage_0", Bulle, "Le fil suit le tracé", "The wire follows the path"},
     {"optDecalage_1", Texte, "Gauche", "Left", "", "decalage-gauche"},
     {"optDecalage_1", Bulle, "Le fil passe à gauche du tracé, vu dans le sens du déplacement",
-     "The wire runs on the left of the path, as seen along the travel"},
+     "The wire runs on the left of the path, seen in the direction of motion"},
     {"optDecalage_2", Texte, "Droite", "Right", "", "decalage-droite"},
     {"optDecalage_2", Bulle, "Le fil passe à droite du tracé, vu dans le sens du déplacement",
-     "The wire runs on the right of the path, as seen along the travel"},
+     "The wire runs on the right of the path, seen in the direction of motion"},
     {"lblInformationDecoupe", Variable},
     {"lblLegende", Texte,
      "<span style='color:#ff0000'>━</span> entrée &nbsp; <span style='color:#00903d'>━</span> sortie &nbsp; "
      "<b>━</b> rapide",
      "<span style='color:#ff0000'>━</span> entry &nbsp; <span style='color:#00903d'>━</span> exit &nbsp; "
      "<b>━</b> rapid"},
-    {"chkZoomDecoupe", Texte, "Zoom sur la découpe", "Zoom on the cut"},
-    {"chkZoomDecoupe", Bulle, "Cadrer le trajet du fil", "Frame the path of the wire"},
-    {"chkExportGcode2D", Texte, "Exporter un fichier Gcode", "Export a G-code file"},
+    {"chkZoomDecoupe", Texte, "Zoom sur la découpe", "Zoom to the cut"},
+    {"chkZoomDecoupe", Bulle, "Cadrer le trajet du fil", "Fit the view to the path of the wire"},
+    {"chkExportGcode2D", Texte, "Exporter un fichier Gcode", "Export a Gcode file"},
     {"chkExportGcode2D", Bulle, "Écrire un fichier .gcode au lieu de piloter la machine",
      "Write a .gcode file instead of driving the machine"},
     {"cmdLancerLaDecoupeTS2D", Variable},
     {"cmdLancerLaDecoupeTS2D", Bulle, "Lancer la découpe, ou écrire le fichier Gcode",
-     "Start the cut, or write the G-code file", "Ctrl+Return"},
+     "Start the cut, or write the Gcode file", "Ctrl+Return"},
     {"cmdAnnulerDecoupe", Texte, "Annuler", "Cancel", "Esc", "annuler"},
     {"cmdAnnulerDecoupe", Bulle, "Fermer la découpe et revenir au projet",
      "Close the cut and go back to the project"},
@@ -159,7 +159,7 @@ constexpr std::array TEXTES = {
     LigneTexte2D{Texte2D::EtatExporte, "Trajet exporté : %1", "Path exported: %1"},
     LigneTexte2D{Texte2D::EtatOuvert, "%1 : tracés : %2, points : %3", "%1: paths: %2, points: %3"},
     LigneTexte2D{Texte2D::Coordonnees, "X %1   Y %2 mm", "X %1   Y %2 mm"},
-    LigneTexte2D{Texte2D::Ignores, "Laissé de côté : %1", "Passed over: %1"},
+    LigneTexte2D{Texte2D::Ignores, "Laissé de côté : %1", "Skipped: %1"},
     LigneTexte2D{Texte2D::AucunRecent, "Aucun fichier récent", "No recent file"},
     LigneTexte2D{Texte2D::AideTitre, "Souris et clavier", "Mouse and keyboard"},
     LigneTexte2D{
@@ -172,9 +172,9 @@ constexpr std::array TEXTES = {
         "Ctrl+B : bloc auto    Ctrl+D : découper    Ctrl+Entrée : lancer    Échap : annuler la découpe\n"
         "Ctrl+E : export DXF    Ctrl+R : fichiers récents    F1 : cette aide",
         "Zoom: mouse wheel, or the + and - keys\n"
-        "Zoom on a frame: right button + drag\n"
-        "Pan: wheel button + drag, Shift + left button + drag, or the arrow keys\n"
-        "Show all: wheel button click, or the 0 key\n\n"
+        "Zoom to a frame: right-click + drag\n"
+        "Pan: wheel click + drag, Shift + left-click + drag, or the arrow keys\n"
+        "Show all: wheel click, or the 0 key\n\n"
         "Ctrl+O: open    Ctrl+N: new    Ctrl+S: save    Ctrl+Shift+S: save as\n"
         "Ctrl+B: auto block    Ctrl+D: cut    Ctrl+Enter: start    Esc: cancel the cut\n"
         "Ctrl+E: export DXF    Ctrl+R: recent files    F1: this help"},
