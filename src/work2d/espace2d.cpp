@@ -4,7 +4,6 @@
 #include "app/texts/textes.h"
 #include "paths/fichier_projet.h"
 #include "platform/dialogue.h"
-#include "platform/erreurs.h"
 #include "platform/fichiers.h"
 
 #include <algorithm>
@@ -92,6 +91,11 @@ ContenuFichier LireContenuFichier(const std::string& chemin, float distNettoyage
     return contenu;
 }
 
+void DireErreurLecture(const Faute& faute) {
+    AfficherCritique(TextesDoubles(DoublesErreurLecture, 1) + "\r\n" + faute.what(),
+                     TextesDoubles(DoublesErreurLecture, 2));
+}
+
 Espace2D NouvelEspace2D(const TableMachine& table) {
     Espace2D espace;
     espace.bloc = BlocParDefaut(table);
@@ -111,8 +115,7 @@ bool OuvrirFichier2D(Espace2D& espace, const std::string& chemin, const TableMac
     try {
         contenu = LireContenuFichier(chemin, distNettoyage);
     } catch (const Faute& faute) {
-        AfficherCritique(TextesDoubles(DoublesErreurLecture, 1) + "\r\n" + faute.what(),
-                         TextesDoubles(DoublesErreurLecture, 2));
+        DireErreurLecture(faute);
         return false;
     }
     if (contenu.ouverture.estProjet2D) {

@@ -4,6 +4,7 @@
 
 #include "paths/import.h"
 #include "paths/projets.h"
+#include "platform/erreurs.h"
 #include "work2d/decoupe2d.h"
 #include "work2d/placement.h"
 
@@ -46,6 +47,9 @@ struct ContenuFichier {
 
 // Reads a file of any kind that the program opens. FauteFichier, FauteLecture, FauteConversion.
 ContenuFichier LireContenuFichier(const std::string& chemin, float distNettoyage);
+
+// The box of a file that could not be read, with the reason.
+void DireErreurLecture(const Faute& faute);
 
 // An empty workspace with the machine's default block.
 Espace2D NouvelEspace2D(const TableMachine& table);

@@ -1,0 +1,18 @@
+// Standard streams made fit for a program that is piped, closed and limited from outside.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessarel::lot {
+
+// First act of the program: opens what the caller closed of streams 0 to 2, so that no output file lands on
+// one of them, and turns the signals of a closed pipe and of a file size limit into errors of the write that
+// met them.
+void PreparerFlux();
+
+// Writes on standard output and flushes. False when it could not be written; a closed pipe counts as written:
+// the reader has seen all it wanted.
+bool EcrireSortie(std::string_view texte);
+
+} // namespace tessarel::lot

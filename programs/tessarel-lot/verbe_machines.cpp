@@ -1,0 +1,102 @@
+// `machines`: the machines that are known, the values of one of them.
+#include "flux.h"
+#include "langue_lot.h"
+#include "machine_lot.h"
+#include "resume_lot.h"
+#include "verbes.h"
+
+#include "machine/matieres.h"
+#include "machine/table_machine.h"
+#include "platform/nombres.h"
+
+#include <memory>
+
+namespace tessarel::lot {
+
+namespace {
+
+int ListerMachines() {
+    std::string texte;
+    for (const std::string& nom : TableauNomsMachines)
+        texte += (nom == TableINI.Nom ? "* " : "  ") + nom + "\n";
+    return EcrireSortie(texte) ? StatutFait : StatutRefuse;
+}
+
+std::string OuiNon(bool valeur) {
+    return valeur ? Dire("oui", "yes") : Dire("non", "no");
+}
+
+// A value under the key that the settings file has for it.
+std::string Ligne(const char* cle, const std::string& valeur) {
+    constexpr std::size_t largeur = 34;
+    std::string ligne = cle;
+    ligne.resize(std::max(largeur, ligne.size() + 1), ' ');
+    return ligne + valeur + "\n";
+}
+
+std::string Ligne(const char* cle, double valeur) {
+    return Ligne(cle, FormaterNombre(valeur, "#####0.####"));
+}
+std::string Ligne(const char* cle, float valeur) {
+    return Ligne(cle, FormaterNombre(valeur, "#####0.####"));
+}
+
+std::string TexteMachine(const TableMachine& t) {
+    std::string texte = Ligne("Nom", t.Nom);
+    texte += Ligne("CourseX", t.CourseX * 1.0) + Ligne("CourseY", t.CourseY * 1.0);
+    texte += Ligne("OrigineEnHaut", OuiNon(t.OrigineEnHaut));
+    texte += Ligne("MargeFilPlateau", t.MargeFilPlateau) + Ligne("MargeFilBloc", t.MargeFilBloc) +
+             Ligne("MargeOrigineBloc", t.MargeOrigineBloc);
+    texte +=
+        Ligne("VitesseDecoupeParDefaut", t.VitesseDecoupeParDefaut) + Ligne("VitesseRapide", t.VitesseRapide);
+    texte += Ligne("VmaxSansAccXY", t.VmaxSansAccXY) + Ligne("VmaxAvecAccXY", t.VmaxAvecAccXY);
+    texte += Ligne("PenteAcceleration", t.PenteAcceleration * 1.0) +
+             Ligne("FrequenceInterpolateur", t.Frequence * 1.0);
+    texte += Ligne("ChauffeParDefaut", t.ChauffeParDefaut * 1.0) +
+             Ligne("ChauffeMaxiSur100", t.ChauffeMaxiSur100 * 1.0) +
+             Ligne("TempoChauffe", t.TempoChauffe * 1.0);
+    texte += Ligne("SaigneeVDParDefaut", t.SaigneeVDParDefaut) +
+             Ligne("SaigneeVDsur2ParDefaut", t.SaigneeVDsur2ParDefaut);
+    texte += Ligne("EcartementY1Y2", t.EcartementY1Y2) + Ligne("EcartementUtile", t.EcartementUtile) +
+             Ligne("LongueurMaxiFil", t.LongueurMaxiFil);
+    texte += Ligne("DistanceRangementFilSousOrigine", t.DistanceRangementFilSousOrigine);
+    texte += Ligne("NomAxeGcode X1 Y1 X2 Y2",
+                   t.NomAxeGcodeX1 + " " + t.NomAxeGcodeY1 + " " + t.NomAxeGcodeX2 + " " + t.NomAxeGcodeY2);
+    return texte;
+}
+
+int MontrerMachine(const std::string& nom) {
+    if (!ChoisirMachine(nom)) return StatutRefuse;
+    std::string texte = TexteMachine(TableINI);
+    for (const Matiere& matiere : MatieresMachine)
+        texte += Ligne(Dire("Matière", "Material").c_str(),
+                       NomAffiche(matiere) + " : " + FormaterNombre(matiere.ChauffeDecoupe, "##0.0") +
+                           " %, " + FormaterNombre(matiere.VitesseDecoupe, "##0.0#") + " mm/s, " +
+                           FormaterNombre(matiere.SaigneeVD, "##0.0#") + " mm, " +
+                           FormaterNombre(matiere.SaigneeVDsur2, "##0.0#") + " mm");
+    return EcrireSortie(texte) ? StatutFait : StatutRefuse;
+}
+
+} // namespace
+
+void DeclarerMachines(CLI::App& programme, const ChoisirAction& choisir) {
+    CLI::App* verbe = AjouterVerbe(
+        programme, "machines",
+        Dire("Liste les machines, celle des réglages marquée d'une étoile ; montrer M : ses valeurs",
+             "Lists the machines, that of the settings marked by a star; montrer M: its values"));
+    CLI::App* montrer = AjouterVerbe(*verbe, "montrer",
+                                     Dire("Affiche les valeurs et les matières d'une machine",
+                                          "Prints the values and the materials of a machine"));
+    const auto nom = std::make_shared<std::string>();
+    montrer->add_option("M", *nom, Dire("Nom de la machine", "Name of the machine"))
+        ->required()
+        ->type_name("");
+    verbe->callback([verbe, montrer, nom, choisir] {
+        if (montrer->parsed())
+            choisir([nom] { return MontrerMachine(*nom); });
+        else
+            choisir(ListerMachines);
+    });
+}
+
+} // namespace tessarel::lot

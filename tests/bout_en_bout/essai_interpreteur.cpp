@@ -1,0 +1,110 @@
+// The G-code judged by an independent interpreter, LinuxCNC's rs274: every move that it makes is one of the
+// file, in order and to the last decimal. Skipped where that program is not installed.
+#include "bout_en_bout/executer.h"
+#include "outils/dossiers.h"
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace tessarel::essais {
+namespace {
+
+// A machine whose name has no parentheses: inside a comment the interpreter refuses them.
+constexpr const char* REGLAGES = "[Parametres]\r\n"
+                                 "MachineUtilisee=Atelier\r\n"
+                                 "[Machine_Atelier]\r\n"
+                                 "CourseX=980\r\n"
+                                 "CourseY=510\r\n"
+                                 "MargeFilBloc=10\r\n"
+                                 "MargeOrigineBloc=20\r\n"
+                                 "VitesseDecoupeParDefaut=4\r\n"
+                                 "VitesseRapide=20\r\n"
+                                 "EcartementY1Y2=520\r\n"
+                                 "LongueurMaxiFil=660\r\n"
+                                 "ChauffeMaxiSur100=80\r\n"
+                                 "ChauffeParDefaut=65\r\n"
+                                 "TempoChauffe=2\r\n"
+                                 "SaigneeVDParDefaut=1\r\n"
+                                 "SaigneeVDsur2ParDefaut=2\r\n"
+                                 "VmaxAvecAccXY=30\r\n";
+
+// X, Y, Z, A: the two carriages in the order in which the interpreter names its axes.
+using Mouvement = std::array<double, 4>;
+
+std::vector<Mouvement> MouvementsDuFichier(const std::string& gcode) {
+    std::vector<Mouvement> mouvements;
+    std::istringstream lignes(gcode);
+    for (std::string ligne; std::getline(lignes, ligne);) {
+        Mouvement m{};
+        double f = 0;
+        if (std::sscanf(ligne.c_str(), "G01 X%lf Y%lf A%lf Z%lf F%lf", &m[0], &m[1], &m[3], &m[2], &f) == 5)
+            mouvements.push_back(m);
+    }
+    return mouvements;
+}
+
+std::vector<Mouvement> MouvementsInterpretes(const std::string& trace) {
+    std::vector<Mouvement> mouvements;
+    std::istringstream lignes(trace);
+    for (std::string ligne; std::getline(lignes, ligne);) {
+        const auto i = ligne.find("STRAIGHT_FEED(");
+        if (i == std::string::npos) continue;
+        Mouvement m{};
+        if (std::sscanf(ligne.c_str() + i, "STRAIGHT_FEED(%lf, %lf, %lf, %lf,", &m[0], &m[1], &m[2], &m[3]) ==
+            4)
+            mouvements.push_back(m);
+    }
+    return mouvements;
+}
+
+void VerifierDecoupe(const std::string& dessin, const std::string& options) {
+    if (!ProgrammePresent("rs274")) GTEST_SKIP() << "rs274 (Debian package linuxcnc-uspace) is not installed";
+    const DossierProvisoire travail;
+    std::filesystem::create_directories(travail.Fichier("doc/Tessarel/Datas"));
+    EcrireTout(travail.Fichier("doc/Tessarel/Datas/Tessarel.ini"), REGLAGES);
+    const Execution lot =
+        Executer("tessarel-lot --documents doc decouper '" + dessin + "' --gcode sortie.gcode " + options,
+                 travail.Chemin());
+    ASSERT_EQ(lot.statut, 0) << lot.erreurs;
+    const auto ecrits = MouvementsDuFichier(LireTout(travail.Fichier("sortie.gcode")));
+    ASSERT_GT(ecrits.size(), 10U);
+
+    // The interpreter wants a file for its variables, even an empty one.
+    EcrireTout(travail.Fichier("variables"), "");
+    const Execution rs274 = Executer("rs274 -g -v variables sortie.gcode", travail.Chemin());
+    EXPECT_EQ(rs274.statut, 0) << rs274.erreurs;
+    EXPECT_EQ(rs274.sortie.find("error"), std::string::npos) << rs274.sortie;
+    EXPECT_NE(rs274.sortie.find("SET_FEED_MODE(0, 0)"), std::string::npos);
+    EXPECT_NE(rs274.sortie.find("SET_SPINDLE_SPEED(0, 650.0000)"), std::string::npos);
+    EXPECT_NE(rs274.sortie.find("DWELL(2.0000)"), std::string::npos);
+    EXPECT_NE(rs274.sortie.find("PROGRAM_END()"), std::string::npos);
+    EXPECT_EQ(MouvementsInterpretes(rs274.sortie), ecrits);
+}
+
+TEST(Interpreteur, ReconnaitLaConsoleDesEchantillons) {
+    VerifierDecoupe(std::string(TESSAREL_RACINE) + "/samples/console.dxf",
+                    "--ajuster --centrer-x --centrer-y --decalage droite --approche rapide --retour rapide");
+}
+
+TEST(Interpreteur, ReconnaitLeProfilDesEchantillons) {
+    VerifierDecoupe(
+        std::string(TESSAREL_RACINE) + "/samples/naca2412.dat",
+        "--bloc 300x100 --ajuster --centrer-x --centrer-y --decalage gauche --entree 1 --sortie 2");
+}
+
+TEST(Interpreteur, ReconnaitDesDessinsEtUnProfilDAutrui) {
+    const std::string corpus = DossierCorpus(TESSAREL_RACINE);
+    if (corpus.empty()) GTEST_SKIP() << "no folder of foreign files beside the checkout";
+    const std::string placement = "--ajuster --centrer-x --centrer-y --decalage droite";
+    VerifierDecoupe(corpus + "/dat/airfoiloptimiz__clarky.dat", placement);
+    for (const char* dessin : {"dxf2gcodeplasm__ADLER.DXF", "openscad__example008.dxf", "camotics__top.dxf"})
+        VerifierDecoupe(corpus + "/dxf/" + dessin, placement);
+}
+
+} // namespace
+} // namespace tessarel::essais
