@@ -5,10 +5,12 @@
 #include "geometrie.h"
 #include "platform/erreurs.h"
 #include "platform/fichiers.h"
+#include "platform/gabar/assemblage.h"
 #include "platform/nombres.h"
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <fmt/format.h>
 
 namespace tessarel {
@@ -154,6 +156,9 @@ std::vector<Sequence> SequencesDepuisTexte(std::string_view texte, const std::st
         PointProfil point;
         if (!LireCoordonnees(ligne, point))
             throw FauteLecture(chemin, numero, Texte(TexteProgramme::LectureCoordonneesAttendues));
+        if (std::abs(point.X) > CoordonneeMax || std::abs(point.Y) > CoordonneeMax)
+            throw FauteLecture(chemin, numero,
+                               TexteRempli(TexteProgramme::LectureCoordonneeHorsLimites, {ligne}));
         if (!ouverte) sequences.emplace_back();
         ouverte = true;
         sequences.back().Points.push_back(point);

@@ -5,6 +5,7 @@
 #include "paths/points_projet.h"
 #include "paths/texte_projet.h"
 #include "platform/dialogue.h"
+#include "platform/erreurs.h"
 #include "platform/fichiers.h"
 #include "platform/profil_prive.h"
 
@@ -117,6 +118,9 @@ Projet4axes AnalyserProjet4axes(std::string octets, const std::string& nom) {
         recentes = recentes || texte.Contient(profil.section);
         anciennes = anciennes || texte.Contient(profil.ancienne);
     }
+    // Neither a kind nor a profile: this is some other file under the name of a project.
+    if (!recentes && !anciennes && texte.Valeur(SectionTypeProjet, CleOnglet).empty())
+        throw FauteLecture(nom, 0, Texte(TexteProgramme::LectureSansTrace));
     const auto nomSection = [&](const char* section, const char* ancienne) {
         return recentes || !anciennes || ancienne == nullptr ? section : ancienne;
     };
