@@ -70,29 +70,31 @@ void DeclarerOptions(CLI::App& programme, Commande& commande) {
                             "Answers Yes or OK to questions, instead of No or Cancel"));
 }
 
-std::string RaisonUsage(const CLI::App& programme, const CLI::ParseError& erreur) {
-    const std::string brut = erreur.what();
-    const std::string debut = brut.substr(0, brut.find(':'));
-    const std::string genre = erreur.get_name();
-    if (genre == "ExtrasError") {
-        std::string mots;
-        for (const std::string& mot : programme.remaining(true)) mots += " " + mot;
-        return Dire("inattendu :", "not expected:") + mots;
-    }
-    if (genre == "RequiredError") return Dire("il manque le verbe", "the verb is missing");
-    if (genre == "ArgumentMismatch")
-        return debut +
-               Dire(" : une valeur et une seule est attendue", ": one value and only one is expected");
-    if (genre == "ConversionError")
-        return Dire("valeur impossible : ", "impossible value: ") + brut.substr(brut.find(':') + 2);
-    return brut;
+// What comes before a mark in the parser's English sentence: the name of the option it is about.
+std::string Avant(const std::string& phrase, const char* marque) {
+    return phrase.substr(0, phrase.find(marque));
 }
 
-int RefuserUsage(const CLI::App& programme, const std::string& raison) {
+std::string RaisonUsage(const CLI::App& programme, const CLI::ParseError& erreur) {
+    const std::string phrase = erreur.what();
+    if (dynamic_cast<const CLI::ExtrasError*>(&erreur) != nullptr)
+        return Dire("inattendu : ", "not expected: ") + phrase.substr(phrase.find(": ") + 2);
+    if (dynamic_cast<const CLI::RequiredError*>(&erreur) != nullptr) {
+        if (programme.get_subcommands().empty())
+            return Dire("un verbe est attendu : decouper, convertir, info ou machines",
+                        "a verb is expected: decouper, convertir, info or machines");
+        return Avant(phrase, " is required") + Dire(" est attendu", " is expected");
+    }
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&erreur) != nullptr)
+        return Avant(phrase, ":") +
+               Dire(" : une valeur et une seule est attendue", ": one value and only one is expected");
+    return phrase;
+}
+
+int RefuserUsage(const std::string& raison) {
     const std::string texte = "tessarel-lot: " + raison + "\n" +
                               Dire("Aide : tessarel-lot --help, ou tessarel-lot VERBE --help\n",
                                    "Help: tessarel-lot --help, or tessarel-lot VERB --help\n");
-    (void)programme;
     std::fputs(texte.c_str(), stderr);
     return StatutMauvaisUsage;
 }
@@ -154,7 +156,7 @@ Commande LireCommande(int argc, char** argv) {
         commande.statut = EcrireSortie(std::string(version.what()) + "\n") ? StatutFait : StatutRefuse;
     } catch (const CLI::ParseError& erreur) {
         commande.action = nullptr;
-        commande.statut = RefuserUsage(programme, RaisonUsage(programme, erreur));
+        commande.statut = RefuserUsage(RaisonUsage(programme, erreur));
     }
     return commande;
 }

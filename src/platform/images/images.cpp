@@ -36,7 +36,13 @@ std::unique_ptr<QGuiApplication> ApplicationSiAbsente() {
     static std::array<char*, 4> arguments = {nom.data(), option.data(), valeur.data(), nullptr};
     nombre = 3;
     arguments = {nom.data(), option.data(), valeur.data(), nullptr};
-    return std::make_unique<QGuiApplication>(nombre, arguments.data());
+    // The toolkit would say on standard error what a run without a session lacks; nothing of it is needed
+    // here.
+    const QtMessageHandler ancien =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    auto application = std::make_unique<QGuiApplication>(nombre, arguments.data());
+    qInstallMessageHandler(ancien);
+    return application;
 }
 
 // A length of 1, 2 or 5 times a power of ten that takes about a sixth of the picture.
