@@ -1,9 +1,10 @@
 // The command line: options of the program, its verbs, help and refusals in the user's language.
 #include "arguments.h"
 
-#include "flux.h"
 #include "langue_lot.h"
 #include "session.h"
+
+#include "platform/flux_standards.h"
 
 #include <cstdio>
 #include <string_view>

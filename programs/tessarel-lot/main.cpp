@@ -1,11 +1,12 @@
 // The batch program: what the windows do, from a shell.
 #include "arguments.h"
-#include "flux.h"
 #include "session.h"
+
+#include "platform/flux_standards.h"
 
 int main(int argc, char** argv) {
     using namespace tessarel::lot;
-    PreparerFlux();
+    tessarel::PreparerFlux();
     const Commande commande = LireCommande(argc, argv);
     if (!commande.action) return commande.statut;
     return Executer(commande);

@@ -1,7 +1,6 @@
 // The summary of a cut as text: duration, speed, heat, offset, kerf, counts of points.
 #include "resume_lot.h"
 
-#include "flux.h"
 #include "langue_lot.h"
 #include "machine_lot.h"
 #include "verbes.h"
@@ -9,6 +8,7 @@
 #include "machine/matieres.h"
 #include "paths/durees.h"
 #include "platform/fichiers.h"
+#include "platform/flux_standards.h"
 #include "platform/nombres.h"
 
 #include <cmath>

@@ -1,5 +1,4 @@
 // `convertir`: from any file that can be read to any that can be written.
-#include "flux.h"
 #include "langue_lot.h"
 #include "resume_lot.h"
 #include "sorties.h"
@@ -13,6 +12,7 @@
 #include "paths/import.h"
 #include "platform/dialogue.h"
 #include "platform/fichiers.h"
+#include "platform/flux_standards.h"
 #include "platform/gabar/gabar.h"
 #include "work2d/espace2d.h"
 

@@ -1,11 +1,11 @@
 // `info`: what a file holds, for a reader or, with --json, for a program.
-#include "flux.h"
 #include "langue_lot.h"
 #include "resume_lot.h"
 #include "verbes.h"
 
 #include "platform/dialogue.h"
 #include "platform/erreurs.h"
+#include "platform/flux_standards.h"
 #include "platform/nombres.h"
 #include "work2d/espace2d.h"
 

@@ -1,5 +1,4 @@
 // `machines`: the machines that are known, the values of one of them.
-#include "flux.h"
 #include "langue_lot.h"
 #include "machine_lot.h"
 #include "resume_lot.h"
@@ -7,6 +6,7 @@
 
 #include "machine/matieres.h"
 #include "machine/table_machine.h"
+#include "platform/flux_standards.h"
 #include "platform/nombres.h"
 
 #include <memory>

@@ -9,6 +9,7 @@
 #include "platform/fichiers.h"
 #include "platform/profil_prive.h"
 
+#include <algorithm>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -70,6 +71,13 @@ CommentaireLu LireCommentaire(std::string_view valeur) {
     return commentaire;
 }
 
+// False for some other file under the name of a project.
+bool ASectionsProjet4axes(const TexteProjet& texte) {
+    return texte.Contient(SectionTypeProjet) ||
+           std::any_of(ClesProjet4axes.begin(), ClesProjet4axes.end(),
+                       [&](const Cle4axes& c) { return texte.Contient(c.section); });
+}
+
 } // namespace
 
 std::string LireOngletProjet(const std::string& chemin) {
@@ -118,9 +126,6 @@ Projet4axes AnalyserProjet4axes(std::string octets, const std::string& nom) {
         recentes = recentes || texte.Contient(profil.section);
         anciennes = anciennes || texte.Contient(profil.ancienne);
     }
-    // Neither a kind nor a profile: this is some other file under the name of a project.
-    if (!recentes && !anciennes && texte.Valeur(SectionTypeProjet, CleOnglet).empty())
-        throw FauteLecture(nom, 0, Texte(TexteProgramme::LectureSansTrace));
     const auto nomSection = [&](const char* section, const char* ancienne) {
         return recentes || !anciennes || ancienne == nullptr ? section : ancienne;
     };
@@ -155,6 +160,8 @@ Projet4axes AnalyserProjet4axes(std::string octets, const std::string& nom) {
         }
         }
     }
+    if (!recentes && !anciennes && !ASectionsProjet4axes(texte))
+        throw FauteLecture(nom, 0, Texte(TexteProgramme::LectureSansTrace));
     if (commentaireCoupe)
         AfficherExclamation(Texte(TexteProgramme::CommentaireTropLong),
                             Texte(TexteProgramme::CommentaireTropLongTitre));

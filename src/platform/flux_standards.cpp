@@ -1,12 +1,12 @@
 // Standard streams: closed ones, broken pipes, a full disk behind a redirection.
-#include "flux.h"
+#include "platform/flux_standards.h"
 
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace tessarel::lot {
+namespace tessarel {
 
 void PreparerFlux() {
     for (const int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
@@ -27,4 +27,4 @@ bool EcrireSortie(std::string_view texte) {
     return true;
 }
 
-} // namespace tessarel::lot
+} // namespace tessarel

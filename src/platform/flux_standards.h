@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace tessarel::lot {
+namespace tessarel {
 
 // First act of the program: opens what the caller closed of streams 0 to 2, so that no output file lands on
 // one of them, and turns the signals of a closed pipe and of a file size limit into errors of the write that
@@ -15,4 +15,4 @@ void PreparerFlux();
 // the reader has seen all it wanted.
 bool EcrireSortie(std::string_view texte);
 
-} // namespace tessarel::lot
+} // namespace tessarel
