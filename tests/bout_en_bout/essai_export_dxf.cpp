@@ -1,12 +1,10 @@
 // The DXF that is written, read back by another program.
 #include "outils/dossiers.h"
+#include "outils/python.h"
 #include "platform/gabar/gabar.h"
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
-#include <cstdlib>
 #include <fstream>
 #include <random>
 #include <sstream>
@@ -32,28 +30,10 @@ for e in dessin.modelspace():
         print(e.dxftype(), 0, 1, repr(e.dxf.location[0]), repr(e.dxf.location[1]))
 )";
 
-// The interpreter that knows ezdxf; empty when there is none.
-std::string Interprete() {
-    for (const char* nom : {"/usr/bin/python3", "python3"})
-        if (std::system((std::string(nom) + " -c 'import ezdxf' >/dev/null 2>&1").c_str()) == 0) return nom;
-    return "";
-}
-
-std::string Sortie(const std::string& commande) {
-    std::FILE* tuyau = popen(commande.c_str(), "r");
-    if (tuyau == nullptr) return "";
-    std::string texte;
-    std::array<char, 4096> tampon;
-    while (const std::size_t n = std::fread(tampon.data(), 1, tampon.size(), tuyau))
-        texte.append(tampon.data(), n);
-    pclose(tuyau);
-    return texte;
-}
-
 } // namespace
 
 TEST(ExportDxf, UnAutreProgrammeYRetrouveChaqueSommet) {
-    const std::string interprete = Interprete();
+    const std::string interprete = PythonAvecEzdxf();
     if (interprete.empty()) GTEST_SKIP() << "no ezdxf here";
     // Open paths and closed ones in turn.
     std::mt19937 alea(11);
@@ -72,7 +52,7 @@ TEST(ExportDxf, UnAutreProgrammeYRetrouveChaqueSommet) {
     EcrireFichier(chemin, "dxf", points);
     const std::string programme = dossier.Fichier("relire.py");
     std::ofstream(programme) << Programme;
-    std::istringstream sortie(Sortie(interprete + " " + programme + " " + chemin));
+    std::istringstream sortie(SortieDe(interprete + " " + programme + " " + chemin));
     int fautes = -1;
     int reparations = -1;
     std::string version;
