@@ -164,6 +164,17 @@ TEST(DxfTraces, UneExtrusionInverseMireLeCercleEtPasLaLigne) {
     EXPECT_FLOAT_EQ(d.polylignes[1].front().X, 20);
 }
 
+TEST(DxfTraces, LAxeXDUneExtrusionChangeA1Soixantequatrieme) {
+    // At 1/32 from the vertical the X axis comes from the world's Z: it is (0,1,0), and Y leans over -X.
+    const auto loin = LireTexte(DxfAvecEntites("0 CIRCLE|10 20|20 5|40 1|210 0.03125|220 0|230 1"));
+    EXPECT_NEAR(loin.polylignes.at(0).front().X, -5, 0.01);
+    EXPECT_NEAR(loin.polylignes.at(0).front().Y, 21, 0.01);
+    // At 1/128 it comes from the world's Y, and hardly differs from the world's X.
+    const auto pres = LireTexte(DxfAvecEntites("0 CIRCLE|10 20|20 5|40 1|210 0.0078125|220 0|230 1"));
+    EXPECT_NEAR(pres.polylignes.at(0).front().X, 21, 0.01);
+    EXPECT_NEAR(pres.polylignes.at(0).front().Y, 5, 0.01);
+}
+
 TEST(DxfTraces, LesNoeudsDUneSplineDeDegre2DonnentUneParabole) {
     // Control points (0,0) (1,2) (2,0), clamped: the parabola y = 2 x - x^2, highest at (1,1).
     const auto d = LireTexte(
@@ -203,6 +214,16 @@ TEST(DxfTraces, DesPointsDePassageSontTraverses) {
             (p.X == 30 && p.Y == 10))
             ++traverses;
     EXPECT_EQ(traverses, 4);
+}
+
+TEST(DxfTraces, EntreLesPointsDePassageLaCourbureEstContinue) {
+    // Three points at equal distances, ends free: the middle tangent is the mean of the slopes halved, the
+    // first is (1, 1.5) / sqrt 2, and half way to the middle point stands (20, 20 + 7.5).
+    const auto d = LireTexte(DxfAvecEntites("0 SPLINE|70 0|71 3|11 0|21 0|11 40|21 40|11 80|21 0"));
+    ASSERT_EQ(d.polylignes.size(), 1U);
+    double ecart = 1e9;
+    for (const PointSimple& p : d.polylignes[0]) ecart = std::min(ecart, std::hypot(p.X - 20.0, p.Y - 27.5));
+    EXPECT_LT(ecart, 1e-4);
 }
 
 TEST(DxfTraces, DesPointsDePassageAlignesRestentAlignes) {

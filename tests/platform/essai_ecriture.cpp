@@ -46,6 +46,11 @@ TEST(EcritureDxf, UneLigneOuverteAuMotPres) {
 TEST(EcritureDxf, UnContourFermeEstDitFerme) {
     const std::string texte = EcrireEtRelire("dxf", Points({{{0, 0}, {4, 0}, {4, 3}, {0, 0}}}));
     EXPECT_NE(texte.find(" 70\r\n     1\r\n"), std::string::npos);
+    // Its last vertex is the first again, and is not written.
+    std::size_t sommets = 0;
+    for (std::size_t i = texte.find("VERTEX"); i != std::string::npos; i = texte.find("VERTEX", i + 1))
+        ++sommets;
+    EXPECT_EQ(sommets, 3U);
     EXPECT_EQ(EnTexte(LireTexte(texte).polylignes.at(0)), "0,0 4,0 4,3 0,0");
 }
 
