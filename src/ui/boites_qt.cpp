@@ -110,6 +110,7 @@ void PreparerBoite(QMessageBox& fenetre, const Boite& boite) {
     for (const MotBouton& mot : MotsBoutons) {
         if (QAbstractButton* bouton = fenetre.button(mot.bouton)) {
             bouton->setText(QString::fromUtf8(anglais ? mot.english : mot.francais));
+            bouton->setIcon({}); // some desktops add pictures of their own beside ours
         }
     }
     for (const auto sortie : {QMessageBox::Cancel, QMessageBox::No, QMessageBox::Ok}) {

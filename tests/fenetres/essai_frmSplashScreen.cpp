@@ -11,6 +11,7 @@
 #include <QDesktopServices>
 #include <QDialog>
 #include <QLabel>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBrowser>
@@ -357,6 +358,9 @@ void EssaiSplash::TientDansUnEcran() {
     m_splash->ProposerMiseAJour();
     QVERIFY(m_splash->width() <= 1280);
     QVERIFY(m_splash->height() <= 760); // room for a task bar in 800
+    // In the middle of the screen, but for the frame that the desktop puts around.
+    const QPoint ecart = m_splash->geometry().center() - m_splash->screen()->availableGeometry().center();
+    QVERIFY(ecart.manhattanLength() <= 40);
     QVERIFY(m_splash->minimumSizeHint().width() <= m_splash->width());
     QVERIFY(m_splash->minimumSizeHint().height() <= m_splash->height());
 }

@@ -16,6 +16,7 @@
 #include <QPalette>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStyle>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -35,7 +36,10 @@ struct Repondeur {
             titre = boite->windowTitle();
             texte = boite->text();
             icone = boite->icon();
-            for (QAbstractButton* b : boite->buttons()) mots << b->text().remove(u'&');
+            for (QAbstractButton* b : boite->buttons()) {
+                mots << b->text().remove(u'&');
+                sansImages = sansImages && b->icon().isNull();
+            }
             mots.sort();
             if (bouton == QMessageBox::NoButton) {
                 QTest::keyClick(boite, Qt::Key_Escape);
@@ -48,6 +52,7 @@ struct Repondeur {
     QString texte;
     QMessageBox::Icon icone = QMessageBox::NoIcon;
     QStringList mots;
+    bool sansImages = true;
 };
 
 // A window with two fields, the first with the focus.
@@ -114,6 +119,7 @@ private slots:
     void UneIconeInconnueEstVide();
     void LeProgrammeASonSigne();
     void LesThemesSontLisibles();
+    void LeThemeDuSystemeRendSaPalette();
 
     void LesLibellesSuiventLaLangue();
     void LesDefautsDUneTableSontDits();
@@ -145,6 +151,7 @@ void EssaiKit::LesMotsDesBoutonsSuiventLaLangue() {
         const Repondeur repondeur(QMessageBox::No);
         QCOMPARE(AfficherBoite(boite), ReponseBoite::Non);
         QCOMPARE(repondeur.mots, QStringList({"Annuler", "Non", "Oui"}));
+        QVERIFY(repondeur.sansImages);
     }
     ChargerMessages(Langue::English);
     const Repondeur repondeur(QMessageBox::Cancel);
@@ -350,6 +357,17 @@ void EssaiKit::LesThemesSontLisibles() {
         QVERIFY(contraste(CouleurFil(), fond) >= 3);
         QVERIFY(contraste(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)) >= 4);
     }
+}
+
+void EssaiKit::LeThemeDuSystemeRendSaPalette() {
+    AppliquerTheme(Theme::Systeme);
+    const QColor fond = QApplication::palette().color(QPalette::Window);
+    AppliquerTheme(Theme::Sombre);
+    QVERIFY(QApplication::palette().color(QPalette::Window) != fond);
+    AppliquerTheme(Theme::Systeme);
+    QCOMPARE(QApplication::palette().color(QPalette::Window), fond);
+    QCOMPARE(QApplication::style()->name(), QStringLiteral("fusion"));
+    QCOMPARE(ThemeCourant(), Theme::Systeme);
 }
 
 void EssaiKit::LesLibellesSuiventLaLangue() {

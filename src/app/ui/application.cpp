@@ -36,7 +36,7 @@ ApplicationTessarel::ApplicationTessarel(int& argc, char** argv) : QApplication(
     // The window system took over the user's number format; files are written and read with a point.
     std::setlocale(LC_NUMERIC, "C");
     setApplicationName(QStringLiteral("tessarel"));
-    setApplicationDisplayName(QStringLiteral("Tessarel"));
+    // No display name: the window system would add it to every title, and the titles tell it where it is due.
     setApplicationVersion(QStringLiteral("%1.%2.%3")
                               .arg(TESSAREL_VERSION_MAJEURE)
                               .arg(TESSAREL_VERSION_MINEURE)

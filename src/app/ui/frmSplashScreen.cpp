@@ -22,6 +22,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -253,8 +254,8 @@ void frmSplashScreen::Montrer(const EtatDemarrage& etat) {
     m_etat = etat;
     Peindre();
     const bool vers2D = etat.FocusSur2D || !m_cmdContinuer[1]->isEnabled();
-    GrandBouton* bouton = m_cmdContinuer[vers2D ? 0 : 1];
-    bouton->setFocus();
+    m_cmdContinuer[vers2D ? 0 : 1]->setFocus();
+    if (const QScreen* ecran = screen()) move(ecran->availableGeometry().center() - rect().center());
 }
 
 void frmSplashScreen::MontrerCourses(int courseX, int courseY) {
