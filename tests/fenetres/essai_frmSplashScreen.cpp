@@ -374,7 +374,7 @@ void EssaiSplash::Images() {
             EtatDemarrage etat = SansInterface();
             etat.Splash.Detection.Texte = TextesMessages(247);
             etat.Splash.Correspondance.Texte = TitresMessages(247);
-            m_splash->MontrerCourses(600, 300);
+            m_splash->MontrerCourses(980, 510);
             Montrer(etat);
             QVERIFY(essais::SauverImage(*m_splash, QStringLiteral("frmSplashScreen-%1-%2")
                                                        .arg(langue == Langue::English ? "en" : "fr",
