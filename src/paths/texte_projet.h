@@ -12,7 +12,8 @@
 namespace tessarel {
 
 // Takes the next "key=value" line off the front of `corps`; false when there is none left. Both are without
-// blanks at their ends. Comments, empty lines and lines without '=' are passed over.
+// blanks at their ends. Lines without '=' are passed over; a comment has a key that begins with ';', which no
+// key of a project does.
 inline bool LigneSuivante(std::string_view& corps, std::string_view& cle, std::string_view& valeur) {
     const auto blanc = [](char c) { return c == ' ' || c == '\t' || c == '\r'; };
     const auto rogner = [&](std::string_view t) {
@@ -25,7 +26,7 @@ inline bool LigneSuivante(std::string_view& corps, std::string_view& cle, std::s
         const std::string_view ligne = rogner(corps.substr(0, fin));
         corps.remove_prefix(fin == std::string_view::npos ? corps.size() : fin + 1);
         const std::size_t egal = ligne.find('=');
-        if (egal == std::string_view::npos || ligne.front() == ';') continue;
+        if (egal == std::string_view::npos) continue;
         cle = rogner(ligne.substr(0, egal));
         valeur = rogner(ligne.substr(egal + 1));
         return true;

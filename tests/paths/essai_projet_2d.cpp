@@ -131,7 +131,7 @@ TEST(EcritureProjet2D, ToutOuRien) {
 TEST(LectureProjet2D, RelitCeQuiEstEcritAuxArrondisDuMasque) {
     std::mt19937 hasard(42);
     std::uniform_real_distribution<double> tirage(-2000, 2000);
-    for (int essai = 0; essai < 60; ++essai) {
+    for (int essai = 0; essai < 20; ++essai) {
         Projet2D projet;
         const std::size_t sequences = hasard() % 5;
         for (std::size_t k = 0; k < sequences; ++k) {
