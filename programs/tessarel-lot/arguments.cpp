@@ -53,7 +53,7 @@ void DeclarerOptions(CLI::App& programme, Commande& commande) {
     programme
         .add_option("--documents", commande.documents,
                     Dire("Dossier qui tient lieu de Documents : celui qui contient Tessarel",
-                         "Folder that stands for Documents: the one that holds Tessarel"))
+                         "Folder to use as Documents: the one that contains Tessarel"))
         ->type_name("DIR");
     programme
         .add_option_function<std::string>(
@@ -64,7 +64,7 @@ void DeclarerOptions(CLI::App& programme, Commande& commande) {
                     throw CLI::ValidationError("--langue", Dire("fr ou en attendu", "fr or en expected"));
             },
             Dire("Langue des messages ; sinon celle des réglages",
-                 "Language of the messages; that of the settings otherwise"))
+                 "Language of the messages (default: that of the settings)"))
         ->type_name("fr|en");
     programme.add_flag("--oui", commande.oui,
                        Dire("Répond Oui ou OK aux questions, au lieu de Non ou Annuler",
@@ -79,7 +79,7 @@ std::string Avant(const std::string& phrase, const char* marque) {
 std::string RaisonUsage(const CLI::App& programme, const CLI::ParseError& erreur) {
     const std::string phrase = erreur.what();
     if (dynamic_cast<const CLI::ExtrasError*>(&erreur) != nullptr)
-        return Dire("inattendu : ", "not expected: ") + phrase.substr(phrase.find(": ") + 2);
+        return Dire("inattendu : ", "unexpected: ") + phrase.substr(phrase.find(": ") + 2);
     if (dynamic_cast<const CLI::RequiredError*>(&erreur) != nullptr) {
         if (programme.get_subcommands().empty())
             return Dire("un verbe est attendu : decouper, convertir, info ou machines",
@@ -88,7 +88,7 @@ std::string RaisonUsage(const CLI::App& programme, const CLI::ParseError& erreur
     }
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&erreur) != nullptr)
         return Avant(phrase, ":") +
-               Dire(" : une valeur et une seule est attendue", ": one value and only one is expected");
+               Dire(" : une valeur et une seule est attendue", ": exactly one value is expected");
     return phrase;
 }
 
@@ -136,7 +136,7 @@ Commande LireCommande(int argc, char** argv) {
     ChoisirLangueDesMessages(argc, argv);
     Commande commande;
     CLI::App programme(Dire("Tessarel depuis un terminal : du dessin au Gcode pour une machine à fil chaud.",
-                            "Tessarel from a shell: from a drawing to G-code for a hot-wire machine."),
+                            "Tessarel from a shell: from a drawing to Gcode for a hot-wire machine."),
                        "tessarel-lot");
     // The parser's own words for a group of options.
     programme.option_defaults()->group("Options");

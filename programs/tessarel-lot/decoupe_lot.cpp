@@ -55,7 +55,7 @@ bool DemandeAcceptable(const DemandeDecoupe& demande) {
         for (const std::string& fichier : demande.fichiers)
             if (EstProjet(fichier))
                 throw MauvaisUsage(Dire("un projet se découpe seul, sans autre fichier : ",
-                                        "a project is cut alone, without another file: ") +
+                                        "a project is cut on its own, without other files: ") +
                                    fichier);
     if (demande.interface) {
         AfficherExclamation(TextesMessages(MessagesPasDInterface), TitresMessages(MessagesPasDInterface));
@@ -67,7 +67,7 @@ bool DemandeAcceptable(const DemandeDecoupe& demande) {
                          TitresMessages(MessagesExtensionDxf)) ||
         ExtensionRefusee(demande.apercu, "png",
                          Dire("L'extension de fichier n'est pas correcte, l'aperçu se fait en .png",
-                              "The file extension is not correct, the preview is a .png"),
+                              "The file extension is wrong; the preview is saved as .png"),
                          TitresMessages(MessagesExtensionDxf)))
         return false;
     for (const std::string* sortie : {&demande.gcode, &demande.dxf, &demande.apercu})

@@ -1,11 +1,10 @@
 // The bar: "[######........] 3/7 name", redrawn in place.
 #include "progression.h"
 
+#include "platform/flux_standards.h"
+
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
-#include <string_view>
-#include <unistd.h>
 
 namespace tessarel::lot {
 
@@ -15,14 +14,10 @@ constexpr int LargeurBarre = 24;
 
 bool g_barreVisible = false;
 
-bool TerminalCapable() {
-    const char* genre = std::getenv("TERM");
-    return ::isatty(STDERR_FILENO) == 1 && genre != nullptr && std::string_view(genre) != "dumb";
-}
-
 } // namespace
 
-Progression::Progression(int etapes) : m_etapes(std::max(etapes, 1)), m_terminal(TerminalCapable()) {}
+Progression::Progression(int etapes)
+    : m_etapes(std::max(etapes, 1)), m_terminal(ErreurStandardRedessinable()) {}
 
 Progression::~Progression() {
     Effacer();

@@ -36,7 +36,7 @@ std::string TexteLecture(const LectureLot& lecture) {
                         std::to_string(lecture.points) + " points";
     if (lecture.pointsRetires > 0)
         texte += Dire(" (", " (") + std::to_string(lecture.pointsRetires) +
-                 Dire(" retirés au nettoyage)", " thinned out)");
+                 Dire(" retirés au nettoyage)", " removed by the cleanup)");
     return texte;
 }
 
@@ -87,7 +87,7 @@ std::string TexteConversion(const std::string& entree, const LectureLot& lecture
     std::string texte = LigneResume(Dire("Fichier", "File"), entree);
     texte += LigneResume(Dire("Lu", "Read"), TexteLecture(lecture));
     if (!lecture.ignores.empty())
-        texte += LigneResume(Dire("Ignoré", "Passed over"), TexteComptes(lecture.ignores));
+        texte += LigneResume(Dire("Ignoré", "Skipped"), TexteComptes(lecture.ignores));
     return texte + LigneResume(Dire("Écrit", "Written"), sortie);
 }
 
@@ -98,7 +98,7 @@ int ImprimerResume(const std::vector<std::string>& fichiers, const LectureLot& l
     for (const std::string& fichier : fichiers) texte += LigneResume(Dire("Fichier", "File"), fichier);
     texte += LigneResume(Dire("Lu", "Read"), TexteLecture(lecture));
     if (!lecture.ignores.empty())
-        texte += LigneResume(Dire("Ignoré", "Passed over"), TexteComptes(lecture.ignores));
+        texte += LigneResume(Dire("Ignoré", "Skipped"), TexteComptes(lecture.ignores));
     texte += LigneResume("Machine", TableINI.Nom);
     texte += LigneResume(Dire("Matière", "Material"), NomAffiche(MatiereCourante));
     texte += LigneResume(Dire("Bloc", "Block"), FormaterNombre(espace.bloc.BlocX, "#####0.##") + " x " +
@@ -107,7 +107,7 @@ int ImprimerResume(const std::vector<std::string>& fichiers, const LectureLot& l
         LigneResume(Dire("Durée", "Duration"), std::string(Rogner(TexteDureeGcode(gcode.dureeSecondes))));
     texte += LigneResume(Dire("Vitesse", "Speed"),
                          FormaterNombre(VitesseEnVigueur(options, TableINI), "##0.0") + " mm/s");
-    texte += LigneResume(Dire("Chauffe", "Heat"), FormaterNombre(options.chauffe, "##0.0") + " %");
+    texte += LigneResume(Dire("Chauffe", "Heating"), FormaterNombre(options.chauffe, "##0.0") + " %");
     texte +=
         LigneResume(Dire("Saignée", "Kerf"), Millimetres(SaigneeEnVigueur(options, TableINI), "##0.0##"));
     texte += LigneResume(Dire("Décalage", "Offset"), TexteDecalage(options));

@@ -40,11 +40,11 @@ void DeclarerEntrees(CLI::App& verbe, DemandeDecoupe& demande) {
     verbe
         .add_option(
             "--machine", demande.machine,
-            Dire("Machine, au lieu de celle des réglages", "Machine, instead of that of the settings"))
+            Dire("Machine, au lieu de celle des réglages", "Machine to use (default: that of the settings)"))
         ->type_name("M");
     verbe
         .add_option("--matiere", demande.matiere,
-                    Dire("Matière de cette machine", "Material of that machine"))
+                    Dire("Matière de cette machine", "Material of this machine"))
         ->type_name("M");
 }
 
@@ -66,9 +66,9 @@ void DeclarerPlacement(CLI::App& verbe, DemandeDecoupe& demande) {
     verbe.add_flag("--ajuster", demande.regles.ajuster,
                    Dire("Met les tracés à l'échelle du bloc", "Scales the paths to the block"));
     verbe.add_flag("--centrer-x", demande.regles.centrerX,
-                   Dire("Centre les tracés en largeur", "Centres the paths across the block"));
+                   Dire("Centre les tracés en largeur", "Centers the paths across the width of the block"));
     verbe.add_flag("--centrer-y", demande.regles.centrerY,
-                   Dire("Centre les tracés en hauteur", "Centres the paths in height"));
+                   Dire("Centre les tracés en hauteur", "Centers the paths over the height of the block"));
 }
 
 void DeclarerCoupe(CLI::App& verbe, DemandeDecoupe& demande) {
@@ -79,29 +79,30 @@ void DeclarerCoupe(CLI::App& verbe, DemandeDecoupe& demande) {
     const MotsChoix types = {{"0"}, {"1"}, {"2"}};
     AjouterChoix(verbe, "--entree", demande.entree, types,
                  Dire("Entrée dans le bloc : 0 côté origine, 1 par-dessus, 2 par l'arrière",
-                      "Way into the block: 0 origin side, 1 from above, 2 from the far side"));
+                      "Entry into the block: 0 from the origin side, 1 from above, 2 from the far side"));
     AjouterChoix(verbe, "--sortie", demande.sortie, types,
-                 Dire("Sortie du bloc, de même", "Way out of the block, likewise"));
+                 Dire("Sortie du bloc, de même", "Exit from the block, likewise"));
     AjouterChoix(verbe, "--approche", demande.approche,
                  {{"lente", "lent", "slow"}, {"rapide", "rapid", "fast"}},
-                 Dire("Vitesse jusqu'au bloc", "Speed up to the block"));
+                 Dire("Vitesse jusqu'au bloc", "Approach speed"));
     AjouterChoix(verbe, "--retour", demande.retour, {{"lent", "lente", "slow"}, {"rapide", "rapid", "fast"}},
-                 Dire("Vitesse du retour", "Speed of the way back"));
+                 Dire("Vitesse du retour", "Return speed"));
 }
 
 void DeclarerSorties(CLI::App& verbe, DemandeDecoupe& demande) {
-    verbe.add_option("--gcode", demande.gcode, Dire("Écrit le Gcode", "Writes the G-code"))
+    verbe.add_option("--gcode", demande.gcode, Dire("Écrit le Gcode", "Writes the Gcode"))
         ->type_name("OUT.gcode");
     verbe
         .add_option("--dxf", demande.dxf,
                     Dire("Écrit le trajet complet en DXF", "Writes the whole path as DXF"))
         ->type_name("OUT.dxf");
     verbe
-        .add_option("--apercu", demande.apercu,
-                    Dire("Dessine table, bloc et trajet en PNG", "Draws table, block and path as PNG"))
+        .add_option(
+            "--apercu", demande.apercu,
+            Dire("Dessine table, bloc et trajet en PNG", "Draws the table, the block and the path as a PNG"))
         ->type_name("OUT.png");
     verbe.add_flag("--interface", demande.interface,
-                   Dire("Découpe avec la machine branchée", "Cuts with the machine that is plugged in"));
+                   Dire("Découpe avec la machine branchée", "Cuts on the machine that is plugged in"));
 }
 
 } // namespace
@@ -109,7 +110,7 @@ void DeclarerSorties(CLI::App& verbe, DemandeDecoupe& demande) {
 void DeclarerDecouper(CLI::App& programme, const ChoisirAction& choisir) {
     CLI::App* verbe = AjouterVerbe(programme, "decouper",
                                    Dire("Prépare une découpe 2D : résumé, Gcode, DXF, aperçu",
-                                        "Prepares a 2D cut: summary, G-code, DXF, preview"));
+                                        "Prepares a 2D cut: summary, Gcode, DXF, preview"));
     const auto demande = std::make_shared<DemandeDecoupe>();
     DeclarerEntrees(*verbe, *demande);
     DeclarerPlacement(*verbe, *demande);

@@ -91,7 +91,7 @@ std::string TexteConstat(const std::string& fichier, const Constat& constat) {
     if (!rapport.couches.empty())
         texte += LigneResume(Dire("Calques", "Layers"), TexteComptes(rapport.couches));
     if (!rapport.ignores.empty())
-        texte += LigneResume(Dire("Ignoré", "Passed over"), TexteComptes(rapport.ignores));
+        texte += LigneResume(Dire("Ignoré", "Skipped"), TexteComptes(rapport.ignores));
     for (const std::string& note : rapport.notes) texte += LigneResume("Note", note);
     return texte;
 }
@@ -115,7 +115,7 @@ void DeclarerInfo(CLI::App& programme, const ChoisirAction& choisir) {
     CLI::App* verbe =
         AjouterVerbe(programme, "info",
                      Dire("Dit ce que contient un fichier : tracés, points, étendue, ce qui est ignoré",
-                          "Says what a file holds: paths, points, extent, what is passed over"));
+                          "Tells what a file contains: paths, points, extent, what is skipped"));
     const auto fichier = std::make_shared<std::string>();
     const auto json = std::make_shared<bool>(false);
     verbe->add_option("FILE", *fichier, Dire("Dessin ou projet", "Drawing or project"))

@@ -83,7 +83,7 @@ void DeclarerMachines(CLI::App& programme, const ChoisirAction& choisir) {
     CLI::App* verbe = AjouterVerbe(
         programme, "machines",
         Dire("Liste les machines, celle des réglages marquée d'une étoile ; montrer M : ses valeurs",
-             "Lists the machines, that of the settings marked by a star; montrer M: its values"));
+             "Lists the machines, the one of the settings marked with a star; montrer M shows its values"));
     CLI::App* montrer = AjouterVerbe(*verbe, "montrer",
                                      Dire("Affiche les valeurs et les matières d'une machine",
                                           "Prints the values and the materials of a machine"));

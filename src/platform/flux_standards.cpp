@@ -3,6 +3,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -25,6 +26,11 @@ bool EcrireSortie(std::string_view texte) {
         texte.remove_prefix(static_cast<std::size_t>(n));
     }
     return true;
+}
+
+bool ErreurStandardRedessinable() {
+    const char* genre = std::getenv("TERM");
+    return ::isatty(STDERR_FILENO) == 1 && genre != nullptr && std::string_view(genre) != "dumb";
 }
 
 } // namespace tessarel

@@ -15,4 +15,7 @@ void PreparerFlux();
 // the reader has seen all it wanted.
 bool EcrireSortie(std::string_view texte);
 
+// True when standard error is a terminal on which a line can be redrawn.
+bool ErreurStandardRedessinable();
+
 } // namespace tessarel

@@ -74,7 +74,7 @@ TEST(Regles, LesBibliothequesEtrangeresRestentDansPlatform) {
     EXPECT_EQ(Inclure("programs/tessarel-lot/principal.cpp", "<CLI/CLI.hpp>"), 0U);
     EXPECT_EQ(Inclure("programs/tessarel-lot/verbe_info.cpp", "<nlohmann/json.hpp>"), 0U);
     EXPECT_EQ(Inclure("src/paths/import.cpp", "<nlohmann/json.hpp>"), 1U);
-    EXPECT_EQ(Inclure("programs/tessarel/principal.cpp", "<unistd.h>"), 1U);
+    EXPECT_EQ(Inclure("programs/tessarel-lot/progression.cpp", "<unistd.h>"), 1U);
     EXPECT_EQ(Inclure("src/platform/gabar/gabar_dxf.cpp", "<dxflib/dl_dxf.h>"), 0U);
     EXPECT_EQ(Inclure("src/work2d/resume.cpp", "<fmt/format.h>"), 0U);
     EXPECT_EQ(Inclure("src/work2d/resume.cpp", "<vector>"), 0U);

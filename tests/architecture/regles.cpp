@@ -45,10 +45,9 @@ std::string RefusEtranger(const std::string& chemin, std::string_view entete) {
     if (EstQt(entete)) return QtPermis(chemin) ? "" : "Qt outside windows and the image decoder";
     if (EstStandard(entete) || CommencePar(entete, "fmt/")) return "";
     if (CommencePar(chemin, "src/platform/")) return "";
-    // What the batch program says and reads on its own account: words of the command line, one JSON object,
-    // and whether somebody sits at the terminal.
+    // What the batch program says and reads on its own account: words of the command line, one JSON object.
     if (CommencePar(chemin, "programs/tessarel-lot/") &&
-        (CommencePar(entete, "CLI/") || CommencePar(entete, "nlohmann/") || entete == "unistd.h")) {
+        (CommencePar(entete, "CLI/") || CommencePar(entete, "nlohmann/"))) {
         return "";
     }
     if (CommencePar(chemin, "tests/") && (CommencePar(entete, "gtest/") || EstSysteme(entete))) return "";
