@@ -102,6 +102,15 @@ int RefuserUsage(const std::string& raison) {
 
 } // namespace
 
+int Imprimer(std::string_view texte) {
+    if (EcrireSortie(texte)) return StatutFait;
+    std::fputs(Dire("tessarel-lot: la sortie standard n'a pas pu être écrite\n",
+                    "tessarel-lot: standard output could not be written\n")
+                   .c_str(),
+               stderr);
+    return StatutRefuse;
+}
+
 CLI::App* AjouterVerbe(CLI::App& programme, const std::string& nom, const std::string& description) {
     CLI::App* verbe = programme.add_subcommand(nom, description);
     verbe->group(Dire("Verbes", "Verbs"));
@@ -151,10 +160,10 @@ Commande LireCommande(int argc, char** argv) {
         programme.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
         commande.action = nullptr;
-        commande.statut = EcrireSortie(programme.help()) ? StatutFait : StatutRefuse;
+        commande.statut = Imprimer(programme.help());
     } catch (const CLI::CallForVersion& version) {
         commande.action = nullptr;
-        commande.statut = EcrireSortie(std::string(version.what()) + "\n") ? StatutFait : StatutRefuse;
+        commande.statut = Imprimer(std::string(version.what()) + "\n");
     } catch (const CLI::ParseError& erreur) {
         commande.action = nullptr;
         commande.statut = RefuserUsage(RaisonUsage(programme, erreur));

@@ -8,7 +8,6 @@
 #include "machine/matieres.h"
 #include "paths/durees.h"
 #include "platform/fichiers.h"
-#include "platform/flux_standards.h"
 #include "platform/nombres.h"
 
 #include <cmath>
@@ -113,7 +112,7 @@ int ImprimerResume(const std::vector<std::string>& fichiers, const LectureLot& l
     texte += LigneResume(Dire("Décalage", "Offset"), TexteDecalage(options));
     texte += LigneResume("Points", TextePoints(decoupe, gcode));
     for (const std::string& ecrit : ecrits) texte += LigneResume(Dire("Écrit", "Written"), ecrit);
-    return EcrireSortie(texte) ? StatutFait : StatutRefuse;
+    return Imprimer(texte);
 }
 
 } // namespace tessarel::lot

@@ -12,7 +12,6 @@
 #include "paths/import.h"
 #include "platform/dialogue.h"
 #include "platform/fichiers.h"
-#include "platform/flux_standards.h"
 #include "platform/gabar/gabar.h"
 #include "work2d/espace2d.h"
 
@@ -80,7 +79,7 @@ int Convertir(const std::string& entree, const std::string& sortie) {
 
     LectureLot lecture;
     lecture.Ajouter(contenu.ouverture);
-    return EcrireSortie(TexteConversion(entree, lecture, sortie)) ? StatutFait : StatutRefuse;
+    return Imprimer(TexteConversion(entree, lecture, sortie));
 }
 
 } // namespace

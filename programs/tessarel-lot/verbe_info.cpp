@@ -5,7 +5,6 @@
 
 #include "platform/dialogue.h"
 #include "platform/erreurs.h"
-#include "platform/flux_standards.h"
 #include "platform/nombres.h"
 #include "work2d/espace2d.h"
 
@@ -101,12 +100,12 @@ int Informer(const std::string& fichier, bool json) {
     try {
         constat = Examiner(fichier);
     } catch (const Faute& faute) {
-        if (json) (void)EcrireSortie(Json({{"erreur", faute.what()}}));
+        if (json) (void)Imprimer(Json({{"erreur", faute.what()}}));
         DireErreurLecture(faute);
         return StatutRefuse;
     }
     const std::string texte = json ? Json(ObjetJson(constat)) : TexteConstat(fichier, constat);
-    return EcrireSortie(texte) ? StatutFait : StatutRefuse;
+    return Imprimer(texte);
 }
 
 } // namespace

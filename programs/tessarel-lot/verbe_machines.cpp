@@ -6,7 +6,6 @@
 
 #include "machine/matieres.h"
 #include "machine/table_machine.h"
-#include "platform/flux_standards.h"
 #include "platform/nombres.h"
 
 #include <memory>
@@ -19,7 +18,7 @@ int ListerMachines() {
     std::string texte;
     for (const std::string& nom : TableauNomsMachines)
         texte += (nom == TableINI.Nom ? "* " : "  ") + nom + "\n";
-    return EcrireSortie(texte) ? StatutFait : StatutRefuse;
+    return Imprimer(texte);
 }
 
 std::string OuiNon(bool valeur) {
@@ -74,7 +73,7 @@ int MontrerMachine(const std::string& nom) {
                            " %, " + FormaterNombre(matiere.VitesseDecoupe, "##0.0#") + " mm/s, " +
                            FormaterNombre(matiere.SaigneeVD, "##0.0#") + " mm, " +
                            FormaterNombre(matiere.SaigneeVDsur2, "##0.0#") + " mm");
-    return EcrireSortie(texte) ? StatutFait : StatutRefuse;
+    return Imprimer(texte);
 }
 
 } // namespace

@@ -37,7 +37,9 @@ TEST_F(Flux, UnTubeQuiNeLitPlusLaisseLeTravailEntier) {
 }
 
 TEST_F(Flux, UneSortieSansPlaceEstUnEchec) {
-    EXPECT_EQ(Lancer("info a.txt >/dev/full").statut, 1);
+    const Execution lot = Lancer("info a.txt >/dev/full");
+    EXPECT_EQ(lot.statut, 1);
+    EXPECT_EQ(lot.erreurs, "tessarel-lot: la sortie standard n'a pas pu être écrite\n");
 }
 
 TEST_F(Flux, UnTerminalVoitLaBarreEtRienDAutre) {
