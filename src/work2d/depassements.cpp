@@ -49,7 +49,7 @@ bool Traverse(const std::vector<Sommet>& source, const Bord& bord) {
 }
 
 // Copies the path with a vertex put in at each proper crossing of one border; what was put in is stepped
-// over. The border goes first into the crossing, so that the crossing lies on it to the last bit.
+// over. The segment goes first into the crossing, which so lies on it; it may miss the border by a digit.
 void PasserBord(const std::vector<Sommet>& source, std::vector<Sommet>& resultat, const Bord& bord) {
     resultat.clear();
     bool surBord = false;
@@ -63,8 +63,8 @@ void PasserBord(const std::vector<Sommet>& source, std::vector<Sommet>& resultat
         const PointProfil& q = source[i + 1].point;
         float x = 0;
         float y = 0;
-        const Croisement code = IntersectionSegments(bord.x0, bord.y0, bord.x1, bord.y1, EnSimple(p.X),
-                                                     EnSimple(p.Y), EnSimple(q.X), EnSimple(q.Y), x, y);
+        const Croisement code = IntersectionSegments(EnSimple(p.X), EnSimple(p.Y), EnSimple(q.X), EnSimple(q.Y),
+                                                     bord.x0, bord.y0, bord.x1, bord.y1, x, y);
         if (code == Croisement::Propre) {
             Sommet croisement;
             croisement.point.X = x;
@@ -73,9 +73,9 @@ void PasserBord(const std::vector<Sommet>& source, std::vector<Sommet>& resultat
             croisement.point.Vitesse = q.Vitesse;
             croisement.bord = bord.code;
             resultat.push_back(croisement);
-        } else if (code == Croisement::DebutB) {
+        } else if (code == Croisement::DebutA) {
             resultat.back().surBord = true;
-        } else if (code == Croisement::FinB) {
+        } else if (code == Croisement::FinA) {
             surBord = true;
         }
     }

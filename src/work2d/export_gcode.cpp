@@ -36,7 +36,7 @@ EnteteGcode EnteteGcodeTS2D(const Decoupe2D& decoupe, const OptionsDecoupe2D& op
 std::size_t AjouterMouvements(FichierGcode& fichier, const std::vector<PointProfil>& points,
                               const std::vector<float>& durees, float rangement) {
     std::size_t mouvements = 0;
-    float cumul = 0;
+    double cumul = 0;
     for (std::size_t i = 1; i < points.size(); ++i) {
         cumul += durees[i];
         if (!(cumul > DureeMinimaleLigne)) continue;
