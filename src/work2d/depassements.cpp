@@ -49,7 +49,8 @@ bool Traverse(const std::vector<Sommet>& source, const Bord& bord) {
 }
 
 // Copies the path with a vertex put in at each proper crossing of one border; what was put in is stepped
-// over. The segment goes first into the crossing, which so lies on it; it may miss the border by a digit.
+// over. The crossing keeps its place along the border; across it, it stands on the border to the last bit, so
+// that no rounding leaves the zone.
 void PasserBord(const std::vector<Sommet>& source, std::vector<Sommet>& resultat, const Bord& bord) {
     resultat.clear();
     bool surBord = false;
@@ -67,8 +68,8 @@ void PasserBord(const std::vector<Sommet>& source, std::vector<Sommet>& resultat
                                                      bord.x0, bord.y0, bord.x1, bord.y1, x, y);
         if (code == Croisement::Propre) {
             Sommet croisement;
-            croisement.point.X = x;
-            croisement.point.Y = y;
+            croisement.point.X = bord.vertical ? bord.x0 : x;
+            croisement.point.Y = bord.vertical ? y : bord.y0;
             croisement.point.Drapeaux = bord.code;
             croisement.point.Vitesse = q.Vitesse;
             croisement.bord = bord.code;
