@@ -37,6 +37,15 @@ std::string MotifsPourDialogue(std::string_view motifs) {
     return sortie;
 }
 
+// The place of the filter in force, from 1; 0 for none. Some dialogs give it back whole, some without the
+// patterns that they don't show.
+int IndiceDuFiltre(const QStringList& filtres, const QString& choisi) {
+    for (int i = 0; i < filtres.size(); ++i) {
+        if (filtres.at(i) == choisi || filtres.at(i).startsWith(choisi + QStringLiteral(" ("))) return i + 1;
+    }
+    return 0;
+}
+
 FichiersChoisis DemanderParDialogue(const DemandeFichier& demande, QWidget* parent) {
     if (parent == nullptr) parent = QApplication::activeWindow();
     QString dossier = QString::fromStdString(demande.dossier);
@@ -69,7 +78,7 @@ FichiersChoisis DemanderParDialogue(const DemandeFichier& demande, QWidget* pare
     if (dialogue.exec() != QDialog::Accepted) return {};
     FichiersChoisis choix;
     for (const QString& chemin : dialogue.selectedFiles()) choix.chemins.push_back(chemin.toStdString());
-    choix.indiceFiltre = static_cast<int>(filtres.indexOf(dialogue.selectedNameFilter())) + 1;
+    choix.indiceFiltre = IndiceDuFiltre(filtres, dialogue.selectedNameFilter());
     return choix;
 }
 

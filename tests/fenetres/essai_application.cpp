@@ -5,7 +5,9 @@
 #include "outils/boites.h"
 #include "platform/erreurs.h"
 
+#include <QFile>
 #include <QLabel>
+#include <QLibraryInfo>
 #include <QPushButton>
 #include <QTest>
 #include <QTextBrowser>
@@ -26,6 +28,7 @@ private slots:
     void UneExceptionEtrangereAussi();
     void UneFauteApresLaFinDuControleAussi();
     void LesNombresGardentLePoint();
+    void LesDialoguesDuSystemeParlentFrancais();
     void LaListeDesModificationsDansLesDeuxLangues();
 };
 
@@ -91,6 +94,18 @@ void EssaiApplication::UneFauteApresLaFinDuControleAussi() {
 
 void EssaiApplication::LesNombresGardentLePoint() {
     QCOMPARE(QByteArray(std::setlocale(LC_NUMERIC, nullptr)), QByteArray("C"));
+}
+
+void EssaiApplication::LesDialoguesDuSystemeParlentFrancais() {
+    auto* application = qobject_cast<ApplicationTessarel*>(QCoreApplication::instance());
+    application->ParlerLangue(Langue::English);
+    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Cancel"));
+    if (!QFile::exists(QLibraryInfo::path(QLibraryInfo::TranslationsPath) +
+                       QStringLiteral("/qtbase_fr.qm"))) {
+        QSKIP("the window system has no French here");
+    }
+    application->ParlerLangue(Langue::Francais);
+    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Annuler"));
 }
 
 void EssaiApplication::LaListeDesModificationsDansLesDeuxLangues() {

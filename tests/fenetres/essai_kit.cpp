@@ -1,5 +1,7 @@
 // The window kit: boxes, captions, icons, the numeric field, theme, file choice and event pump.
 #include "outils/boites.h"
+#include "outils/dossiers.h"
+#include "platform/fichiers.h"
 #include "platform/pompe.h"
 #include "ui/boites_qt.h"
 #include "ui/champ_nombre.h"
@@ -11,6 +13,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPalette>
@@ -114,6 +117,8 @@ private slots:
 
     void LesFiltresTelsQueDits();
     void UnEssaiRepondALaPlaceDeLUtilisateur();
+    void LeDialogueMontreLaDemandeEtRendLeChoix();
+    void LeDialogueAnnuleNeRendRien();
 
     void ChaqueIconeSeDessineAvecLEncreDeLaPalette();
     void UneIconeInconnueEstVide();
@@ -301,6 +306,47 @@ void EssaiKit::UnEssaiRepondALaPlaceDeLUtilisateur() {
     InstallerChoisisseurFichier([](const DemandeFichier&, QWidget*) { return FichiersChoisis{}; });
     QVERIFY(ChoisirFichier(demande).Annule());
     InstallerChoisisseurFichier(ancien);
+}
+
+void EssaiKit::LeDialogueMontreLaDemandeEtRendLeChoix() {
+    const essais::DossierProvisoire dossier;
+    const std::string chemin = dossier.Fichier("aile.DXF");
+    EcrireFichierAtomique(chemin, "0");
+    DemandeFichier demande;
+    demande.titre = "Choisissez un fichier";
+    demande.filtre = "Tessarel (*.tsr)|*.tsr|DAO (*.dxf)|*.dxf";
+    demande.indiceFiltre = 2;
+    demande.dossier = dossier.Chemin();
+    QString titre;
+    QString filtre;
+    QString ouvert;
+    QTimer::singleShot(0, [&] {
+        auto* dialogue = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (dialogue == nullptr) return;
+        titre = dialogue->windowTitle();
+        filtre = dialogue->selectedNameFilter();
+        ouvert = dialogue->directory().path();
+        dialogue->selectFile(QString::fromStdString(chemin));
+        static_cast<QDialog*>(dialogue)->accept();
+    });
+    const FichiersChoisis choix = ChoisirFichier(demande);
+    QCOMPARE(titre, QStringLiteral("Choisissez un fichier"));
+    QVERIFY(filtre.startsWith(QStringLiteral("DAO (*.dxf)")));
+    QCOMPARE(ouvert.toStdString(), dossier.Chemin());
+    QCOMPARE(choix.chemins, std::vector<std::string>{chemin});
+    QCOMPARE(choix.indiceFiltre, 2);
+}
+
+void EssaiKit::LeDialogueAnnuleNeRendRien() {
+    DemandeFichier demande;
+    demande.enregistrer = true;
+    demande.dossier = "/un/dossier/absent";
+    demande.filtre = "Fichier Gcode(*.gcode)|*.gcode";
+    QTimer::singleShot(0, [] {
+        if (auto* dialogue = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()))
+            dialogue->reject();
+    });
+    QVERIFY(ChoisirFichier(demande).Annule());
 }
 
 void EssaiKit::ChaqueIconeSeDessineAvecLEncreDeLaPalette() {
