@@ -1,4 +1,4 @@
-// The 2D window's project side, control by control as a person uses it.
+// The 2D window's files: opening in all ways, saving, starting anew, closing, as a person does it.
 #include "fenetres/poste_2d.h"
 #include "paths/fichier_projet.h"
 #include "ui/canevas.h"
@@ -42,18 +42,6 @@ private slots:
     void LeTypeDeFichierSEffaceTroisDizainesDeSecondesApres();
     void UnProjet4AxesEstDitTsr4x();
 
-    void LeBlocSaisiCompteSurEntree();
-    void LeBlocSaisiCompteEnQuittantLeChamp();
-    void LeBlocSaisiEstLimiteALaMachine();
-    void UnBlocQuiNEstPasUnNombreEstRefuse();
-    void UnBlocNulEstRefuse();
-    void CentrerPlaceLesTracesEtRougit();
-    void AjusterMetALEchelle();
-    void BlocAutoPrendLaTailleDesTraces();
-    void VoirPointsMarqueLesPoints();
-    void ZoomProjetCadreLesTraces();
-    void LesBoutonsDeZoomZooment();
-
     void UnProjetVideNeSEnregistrePas();
     void EnregistrerSousPuisRouvrir();
     void UneMauvaiseExtensionEstRefusee();
@@ -80,12 +68,6 @@ private:
     [[nodiscard]] const Espace2D& Espace() const { return m_poste->fenetre->Espace(); }
     [[nodiscard]] const Boite& DerniereBoite() const { return m_poste->boites.boites.back(); }
     [[nodiscard]] std::size_t NombreBoites() const { return m_poste->boites.boites.size(); }
-    void Saisir(const char* champ, const QString& texte) {
-        auto& saisie = m_poste->Trouver<ChampNombre>(champ);
-        saisie.setFocus();
-        saisie.selectAll();
-        QTest::keyClicks(&saisie, texte);
-    }
 
     std::unique_ptr<Poste2D> m_poste;
 };
@@ -245,114 +227,6 @@ void EssaiTessarel2D::UnProjet4AxesEstDitTsr4x() {
     QVERIFY(Espace().cheminProjet.empty());
 }
 
-void EssaiTessarel2D::LeBlocSaisiCompteSurEntree() {
-    Saisir("txtBloc_0", QStringLiteral("412,5"));
-    QCOMPARE(Espace().bloc.BlocX, 770.0F);
-    QTest::keyClick(&m_poste->Trouver<ChampNombre>("txtBloc_0"), Qt::Key_Return);
-    QCOMPARE(Espace().bloc.BlocX, 412.5F);
-    QCOMPARE(m_poste->Trouver<QLabel>("lblDimensionsBloc").text(), QStringLiteral("412.5 mm x 390.0 mm"));
-}
-
-void EssaiTessarel2D::LeBlocSaisiCompteEnQuittantLeChamp() {
-    Saisir("txtBloc_1", QStringLiteral("200"));
-    m_poste->Trouver<ChampNombre>("txtBloc_0").setFocus();
-    QCOMPARE(Espace().bloc.BlocY, 200.0F);
-}
-
-void EssaiTessarel2D::LeBlocSaisiEstLimiteALaMachine() {
-    // 980 - 15 - 5 = 960 wide, 510 - 15 = 495 high.
-    Saisir("txtBloc_0", QStringLiteral("5000\r"));
-    Saisir("txtBloc_1", QStringLiteral("5000\r"));
-    QCOMPARE(Espace().bloc.BlocX, 960.0F);
-    QCOMPARE(Espace().bloc.BlocY, 495.0F);
-    QCOMPARE(m_poste->Trouver<ChampNombre>("txtBloc_0").text(), QStringLiteral("960"));
-    QCOMPARE(m_poste->Trouver<ChampNombre>("txtBloc_1").text(), QStringLiteral("495"));
-}
-
-void EssaiTessarel2D::UnBlocQuiNEstPasUnNombreEstRefuse() {
-    Saisir("txtBloc_0", QStringLiteral("1-2\r"));
-    QCOMPARE(NombreBoites(), std::size_t{1});
-    QCOMPARE(DerniereBoite().texte, std::string("Veuillez entrer un nombre décimal."));
-    QCOMPARE(DerniereBoite().titre, std::string("Erreur de saisie"));
-    QCOMPARE(Espace().bloc.BlocX, 770.0F);
-    QCOMPARE(m_poste->Trouver<ChampNombre>("txtBloc_0").text(), QStringLiteral("770"));
-}
-
-void EssaiTessarel2D::UnBlocNulEstRefuse() {
-    Saisir("txtBloc_1", QStringLiteral("0\r"));
-    QCOMPARE(NombreBoites(), std::size_t{1});
-    QCOMPARE(DerniereBoite().titre, std::string("Calcul impossible"));
-    QCOMPARE(Espace().bloc.BlocY, 390.0F);
-    QCOMPARE(m_poste->Trouver<ChampNombre>("txtBloc_1").text(), QStringLiteral("390"));
-}
-
-void EssaiTessarel2D::CentrerPlaceLesTracesEtRougit() {
-    OuvrirRectangle();
-    auto& centrerX = m_poste->Trouver<QCheckBox>("chkCentrer_1");
-    QVERIFY(centrerX.palette().color(QPalette::WindowText) != QColor(255, 0, 0));
-    m_poste->Cliquer<QCheckBox>("chkCentrer_1");
-    QVERIFY(centrerX.isChecked());
-    QCOMPARE(centrerX.palette().color(QPalette::WindowText), QColor(255, 0, 0));
-    // Middle of the block: 770 / 2 + 5 = 390.
-    QCOMPARE(Espace().TableauSequences[0].XMin, 340.0F);
-    QCOMPARE(Espace().TableauSequences[0].YMin, 0.0F);
-    m_poste->Cliquer<QCheckBox>("chkCentrer_2");
-    QCOMPARE(Espace().TableauSequences[0].YMin, 170.0F);
-    // A new block keeps the rule.
-    Saisir("txtBloc_0", QStringLiteral("200\r"));
-    QCOMPARE(Espace().TableauSequences[0].XMin, 55.0F);
-    m_poste->Cliquer<QCheckBox>("chkCentrer_1");
-    QVERIFY(centrerX.palette().color(QPalette::WindowText) != QColor(255, 0, 0));
-}
-
-void EssaiTessarel2D::AjusterMetALEchelle() {
-    OuvrirRectangle();
-    m_poste->Cliquer<QCheckBox>("chkCentrer_0");
-    // Room 770 - 2 x 5 = 760 by 390 - 2 x 5 = 380: the factor is 7.6 both ways.
-    QCOMPARE(Espace().TableauSequences[0].Largeur, 760.0F);
-    QCOMPARE(Espace().TableauSequences[0].Hauteur, 380.0F);
-    QCOMPARE(Espace().coeffTransf, 7.6F);
-}
-
-void EssaiTessarel2D::BlocAutoPrendLaTailleDesTraces() {
-    OuvrirRectangle();
-    m_poste->Cliquer<QToolButton>("cmdBlocAuto");
-    QCOMPARE(Espace().bloc.BlocX, 100.0F);
-    QCOMPARE(Espace().bloc.BlocY, 50.0F);
-    QCOMPARE(m_poste->Trouver<ChampNombre>("txtBloc_0").text(), QStringLiteral("100"));
-}
-
-void EssaiTessarel2D::VoirPointsMarqueLesPoints() {
-    OuvrirRectangle();
-    const auto& canevas = m_poste->Trouver<Canevas>("pctSequTS2D");
-    const std::size_t avant = canevas.Montre(Canevas::CoucheTrace).Liste().marques.size();
-    m_poste->Cliquer<QCheckBox>("chkVoirPoints");
-    QVERIFY(canevas.Montre(Canevas::CoucheTrace).Liste().marques.size() >= avant + 4);
-    m_poste->Cliquer<QCheckBox>("chkVoirPoints");
-    QCOMPARE(canevas.Montre(Canevas::CoucheTrace).Liste().marques.size(), avant);
-}
-
-void EssaiTessarel2D::ZoomProjetCadreLesTraces() {
-    OuvrirRectangle();
-    const auto& canevas = m_poste->Trouver<Canevas>("pctSequTS2D");
-    const double table = canevas.Vue().echelle;
-    m_poste->Cliquer<QCheckBox>("chkZoomProjet");
-    QVERIFY(canevas.Vue().echelle > 5 * table);
-    QVERIFY((canevas.EnPixels({50, 25}) - canevas.ZoneDessin().center()).manhattanLength() < 1e-6);
-    m_poste->Cliquer<QCheckBox>("chkZoomProjet");
-    QCOMPARE(canevas.Vue().echelle, table);
-}
-
-void EssaiTessarel2D::LesBoutonsDeZoomZooment() {
-    const auto& canevas = m_poste->Trouver<Canevas>("pctSequTS2D");
-    const VueDessin depart = canevas.Vue();
-    m_poste->Cliquer<QToolButton>("cmdZoomPlus");
-    QVERIFY(canevas.Vue().echelle > depart.echelle);
-    m_poste->Cliquer<QToolButton>("cmdZoomMoins");
-    m_poste->Cliquer<QToolButton>("cmdZoomTout");
-    QVERIFY(canevas.Vue() == depart);
-}
-
 void EssaiTessarel2D::UnProjetVideNeSEnregistrePas() {
     m_poste->Cliquer<QToolButton>("cmdSauverTS2D");
     QCOMPARE(NombreBoites(), std::size_t{1});
@@ -495,7 +369,7 @@ void EssaiTessarel2D::UnNouveauProjetDemandeQuandIlYADesTraces() {
     m_poste->Cliquer<QToolButton>("cmdNouveauProjetTS2D");
     QCOMPARE(NombreBoites(), std::size_t{0});
     OuvrirRectangle();
-    Saisir("txtBloc_0", QStringLiteral("100\r"));
+    m_poste->Saisir("txtBloc_0", QStringLiteral("100\r"));
     m_poste->Cliquer<QToolButton>("cmdNouveauProjetTS2D");
     QCOMPARE(DerniereBoite().texte, std::string("Voulez-vous effectuer une sauvegarde du projet en cours?"));
     QCOMPARE(DerniereBoite().titre, std::string("Nouveau projet"));

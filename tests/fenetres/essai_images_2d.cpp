@@ -7,7 +7,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
+#include <QScrollArea>
 #include <QToolButton>
 
 using namespace tessarel;
@@ -31,6 +31,13 @@ QStringList MotsCoupes(const QWidget& fenetre) {
     for (const auto* etiquette : fenetre.findChildren<QLabel*>()) {
         if (!etiquette->isVisible() || etiquette->wordWrap() || etiquette->text().isEmpty()) continue;
         if (etiquette->width() < etiquette->sizeHint().width()) coupes << etiquette->objectName();
+    }
+    for (const auto* page : fenetre.findChildren<QScrollArea*>()) {
+        if (page->isVisible() && page->widget()->width() > page->viewport()->width()) {
+            coupes << QStringLiteral("a page of %1 pixels in %2")
+                          .arg(page->widget()->width())
+                          .arg(page->viewport()->width());
+        }
     }
     return coupes;
 }

@@ -10,6 +10,7 @@
 #include "outils/boites.h"
 #include "outils/dossiers.h"
 #include "platform/fichiers.h"
+#include "ui/champ_nombre.h"
 #include "ui/choix_fichier.h"
 #include "work2d/ui/frmTessarel2D.h"
 
@@ -91,6 +92,14 @@ public:
     void Cliquer(const char* nom) const {
         Controle& controle = Trouver<Controle>(nom);
         QTest::mouseClick(&controle, Qt::LeftButton, Qt::NoModifier, PointSensible(controle));
+    }
+
+    // Types over what a field holds; "\r" is Enter.
+    void Saisir(const char* champ, const QString& texte) const {
+        auto& saisie = Trouver<ChampNombre>(champ);
+        saisie.setFocus();
+        saisie.selectAll();
+        QTest::keyClicks(&saisie, texte);
     }
 
     void Deposer(const std::vector<std::string>& chemins) const {

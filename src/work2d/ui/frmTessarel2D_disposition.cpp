@@ -24,7 +24,7 @@ namespace tessarel {
 namespace {
 
 constexpr int LargeurOutils = 104; // pixels
-constexpr int LargeurPage = 300;
+constexpr int LargeurPage = 324;
 constexpr int CoteIconeOutil = 26;
 constexpr int CoteIconeOption = 30;
 constexpr int HauteurBoutonPrincipal = 40;
@@ -60,6 +60,12 @@ QGroupBox* Groupe(const QString& nom, QVBoxLayout* page) {
     auto* groupe = Nommer(new QGroupBox, nom);
     page->addWidget(groupe);
     return groupe;
+}
+
+// Room that a text of changing length keeps, so that what stands below it stays in its place.
+void ReserverLignes(QLabel* etiquette, int lignes) {
+    etiquette->setMinimumHeight(lignes * etiquette->fontMetrics().lineSpacing());
+    etiquette->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 }
 
 // The option that is set stands out on a dark ground as on a light one, which a sunk button does not.
@@ -184,8 +190,7 @@ QWidget* frmTessarel2D::DisposerPageProjet() {
     lblTypeFichierTS2D = Nommer(new QLabel, QStringLiteral("lblTypeFichierTS2D"));
     lblTypeFichierTS2D->setWordWrap(true);
     lblTypeFichierTS2D->setTextFormat(Qt::PlainText);
-    lblTypeFichierTS2D->setMinimumHeight(2 * lblTypeFichierTS2D->fontMetrics().height());
-    lblTypeFichierTS2D->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    ReserverLignes(lblTypeFichierTS2D, 3);
     fichier->addWidget(lblTypeFichierTS2D);
 
     auto* bloc = new QGridLayout(Groupe(QStringLiteral("frameBloc"), page));
@@ -250,6 +255,7 @@ QWidget* frmTessarel2D::DisposerPageDecoupe() {
     lblInformationDecoupe->setWordWrap(true);
     lblInformationDecoupe->setTextFormat(Qt::PlainText);
     lblInformationDecoupe->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    ReserverLignes(lblInformationDecoupe, 4);
     page->addWidget(lblInformationDecoupe);
     auto* legende = Nommer(new QLabel, QStringLiteral("lblLegende"));
     legende->setTextFormat(Qt::RichText);
