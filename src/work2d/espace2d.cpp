@@ -103,7 +103,7 @@ Espace2D NouvelEspace2D(const TableMachine& table) {
 }
 
 bool OuvrirFichier2D(Espace2D& espace, const std::string& chemin, const TableMachine& table,
-                     float distNettoyage, OuvertureFichier* ouverture) {
+                     float distNettoyage, OuvertureFichier* ouverture, const LecteurContenu& lecteur) {
     const std::string extension = ExtensionMinuscule(chemin);
     const auto& connues = ExtensionsConnues();
     if (std::find(connues.begin(), connues.end(), extension) == connues.end()) {
@@ -113,7 +113,9 @@ bool OuvrirFichier2D(Espace2D& espace, const std::string& chemin, const TableMac
     }
     ContenuFichier contenu;
     try {
-        contenu = LireContenuFichier(chemin, distNettoyage);
+        std::optional<ContenuFichier> lu = lecteur(chemin, distNettoyage);
+        if (!lu) return false;
+        contenu = std::move(*lu);
     } catch (const Faute& faute) {
         DireErreurLecture(faute);
         return false;

@@ -8,6 +8,7 @@
 #include "work2d/decoupe2d.h"
 #include "work2d/placement.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -48,6 +49,9 @@ struct ContenuFichier {
 // Reads a file of any kind that the program opens. FauteFichier, FauteLecture, FauteConversion.
 ContenuFichier LireContenuFichier(const std::string& chemin, float distNettoyage);
 
+// The same, from whoever reads in a way of its own: nothing when the user gave up.
+using LecteurContenu = std::function<std::optional<ContenuFichier>(const std::string&, float)>;
+
 // The box of a file that could not be read, with the reason.
 void DireErreurLecture(const Faute& faute);
 
@@ -57,9 +61,10 @@ Espace2D NouvelEspace2D(const TableMachine& table);
 // Opens any kind of file. A 2D project takes the place of what is there, its block limited to the machine,
 // and the speed options stay as they were: deliberate. A .qnt does the same but is left without a name, since
 // it can't be saved under its own. Drawings, and the two profiles of a 4-axis project, are added as read; the
-// block is kept. False after a box that says why; the workspace is then as it was.
+// block is kept. False after a box that says why, or when the user gave up; the workspace is then as it was.
 bool OuvrirFichier2D(Espace2D& espace, const std::string& chemin, const TableMachine& table,
-                     float distNettoyage, OuvertureFichier* ouverture = nullptr);
+                     float distNettoyage, OuvertureFichier* ouverture = nullptr,
+                     const LecteurContenu& lecteur = LireContenuFichier);
 
 // Writes the workspace to a .tsr and gives it that name, after a question where that replaces a 4-axis
 // project. False after a box that says why, or when the user keeps the old file.

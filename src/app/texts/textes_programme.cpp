@@ -206,6 +206,37 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
     {TexteProgramme::DureeHeures, "%1 h.", "%1 h."},
     {TexteProgramme::DureeMinutes, "%1 min.", "%1 min."},
     {TexteProgramme::DureeSecondes, "%1 s.", "%1 s."},
+
+    // 2D window
+    {TexteProgramme::Fenetre2DTitre, "Tessarel - 2D", "Tessarel - 2D"},
+    {TexteProgramme::Fenetre2DEtatProjet, "Tracés : %1, points : %2", "Paths: %1, points: %2"},
+    {TexteProgramme::Fenetre2DEtatVide, "Ouvrez un fichier, ou déposez-le ici",
+     "Open a file, or drop it here"},
+    {TexteProgramme::Fenetre2DEtatMachine, "Machine : %1", "Machine: %1"},
+    {TexteProgramme::Fenetre2DEtatSauve, "Projet enregistré : %1", "Project saved: %1"},
+    {TexteProgramme::Fenetre2DEtatExporte, "Trajet exporté : %1", "Path exported: %1"},
+    {TexteProgramme::Fenetre2DEtatOuvert, "%1 : tracés : %2, points : %3", "%1: paths: %2, points: %3"},
+    {TexteProgramme::Fenetre2DCoordonnees, "X %1   Y %2 mm", "X %1   Y %2 mm"},
+    {TexteProgramme::Fenetre2DIgnores, "Laissé de côté : %1", "Skipped: %1"},
+    {TexteProgramme::Fenetre2DAucunRecent, "Aucun fichier récent", "No recent file"},
+    {TexteProgramme::Fenetre2DAideTitre, "Souris et clavier", "Mouse and keyboard"},
+    {TexteProgramme::Fenetre2DAide,
+     "Zoom : molette de la souris, ou touches + et -\r\n"
+     "Zoom sur un cadre : clic droit + glisser\r\n"
+     "Déplacement de la vue : clic molette + glisser, Shift + clic gauche + glisser, ou flèches\r\n"
+     "Tout voir : clic molette, ou touche 0\r\n\r\n"
+     "Ctrl+O : ouvrir    Ctrl+N : nouveau    Ctrl+S : enregistrer    Ctrl+Shift+S : enregistrer sous\r\n"
+     "Ctrl+B : bloc auto    Ctrl+D : découper    Ctrl+Entrée : lancer    Échap : annuler la découpe\r\n"
+     "Ctrl+E : export DXF    Ctrl+R : fichiers récents    F1 : cette aide",
+     "Zoom: mouse wheel, or the + and - keys\r\n"
+     "Zoom to a frame: right-click + drag\r\n"
+     "Pan: wheel click + drag, Shift + left-click + drag, or the arrow keys\r\n"
+     "Show all: wheel click, or the 0 key\r\n\r\n"
+     "Ctrl+O: open    Ctrl+N: new    Ctrl+S: save    Ctrl+Shift+S: save as\r\n"
+     "Ctrl+B: auto block    Ctrl+D: cut    Ctrl+Enter: start    Esc: cancel the cut\r\n"
+     "Ctrl+E: export DXF    Ctrl+R: recent files    F1: this help"},
+    {TexteProgramme::Fenetre2DLecture, "Lecture de %1", "Reading %1"},
+    {TexteProgramme::BoutonAnnuler, "Annuler", "Cancel"},
 }};
 #undef COURRIEL
 

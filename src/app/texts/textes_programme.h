@@ -93,6 +93,22 @@ enum class TexteProgramme {
     DureeMinutes,
     DureeSecondes,
 
+    // 2D window
+    Fenetre2DTitre,      // of a project without a name
+    Fenetre2DEtatProjet, // %1 paths, %2 points
+    Fenetre2DEtatVide,
+    Fenetre2DEtatMachine, // %1 machine
+    Fenetre2DEtatSauve,   // %1 path
+    Fenetre2DEtatExporte, // %1 path
+    Fenetre2DEtatOuvert,  // %1 file, %2 paths, %3 points
+    Fenetre2DCoordonnees, // %1 x, %2 y
+    Fenetre2DIgnores,     // %1 kinds with their counts
+    Fenetre2DAucunRecent,
+    Fenetre2DAideTitre,
+    Fenetre2DAide,
+    Fenetre2DLecture, // %1 file
+    BoutonAnnuler,
+
     Fin // not a text: their number
 };
 

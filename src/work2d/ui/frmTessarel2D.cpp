@@ -5,6 +5,7 @@
 #include "app/settings/gestion_ini.h"
 #include "app/settings/parametres.h"
 #include "app/texts/textes.h"
+#include "app/texts/textes_programme.h"
 #include "paths/projets.h"
 #include "platform/dialogue.h"
 #include "platform/fichiers.h"
@@ -34,8 +35,8 @@ namespace {
 constexpr int MessagesSauverAvantDeQuitter = 5;
 constexpr double FacteurLoupe = 1.5;
 
-QString EnMmAffiches(double valeur) {
-    return QString::number(valeur, 'f', 2);
+std::string EnMmAffiches(double valeur) {
+    return FormaterNombre(valeur, "##0.00");
 }
 
 } // namespace
@@ -52,7 +53,7 @@ frmTessarel2D::frmTessarel2D(QWidget* parent) : QMainWindow(parent) {
     pctDecoupe->FixerCadreComplet(CadreTable(TableINI));
     FermerDecoupe();
     MontrerTout();
-    statusBar()->showMessage(TexteDe(Texte2D::EtatVide));
+    statusBar()->showMessage(TexteAffiche(Texte(TexteProgramme::Fenetre2DEtatVide)));
     PlacerFenetre(*this);
 }
 
@@ -62,7 +63,8 @@ void frmTessarel2D::Relier() {
     RelierDecoupe();
     for (Canevas* canevas : {pctSequTS2D, pctDecoupe}) {
         connect(canevas, &Canevas::PointeurDeplace, this, [this](double x, double y) {
-            lblCoordonnees->setText(TexteDe(Texte2D::Coordonnees).arg(EnMmAffiches(x), EnMmAffiches(y)));
+            lblCoordonnees->setText(TexteAffiche(
+                TexteRempli(TexteProgramme::Fenetre2DCoordonnees, {EnMmAffiches(x), EnMmAffiches(y)})));
         });
         connect(canevas, &Canevas::PointeurSorti, lblCoordonnees, &QLabel::clear);
     }
@@ -73,7 +75,7 @@ void frmTessarel2D::Relier() {
     connect(cmdZoomPlus, &QToolButton::clicked, this, [vue] { vue()->Zoomer(FacteurLoupe); });
     connect(cmdZoomMoins, &QToolButton::clicked, this, [vue] { vue()->Zoomer(1 / FacteurLoupe); });
     connect(cmdAide, &QToolButton::clicked, this, [] {
-        AfficherInformation(TexteDe(Texte2D::Aide).toStdString(), TexteDe(Texte2D::AideTitre).toStdString());
+        AfficherInformation(Texte(TexteProgramme::Fenetre2DAide), Texte(TexteProgramme::Fenetre2DAideTitre));
     });
 }
 
@@ -146,8 +148,8 @@ void frmTessarel2D::MarquerModifie() {
 
 void frmTessarel2D::MontrerEtat() {
     const bool nomme = !m_espace.cheminProjet.empty();
-    const QString nom =
-        nomme ? QString::fromStdString(NomDuChemin(m_espace.cheminProjet)) : TexteDe(Texte2D::Titre);
+    const QString nom = nomme ? QString::fromStdString(NomDuChemin(m_espace.cheminProjet))
+                              : TexteAffiche(Texte(TexteProgramme::Fenetre2DTitre));
     setWindowTitle(nom + QStringLiteral("[*]"));
     setWindowModified(m_espace.modifie);
     cmdActualiserSauvegarde->setVisible(nomme);
@@ -155,8 +157,10 @@ void frmTessarel2D::MontrerEtat() {
     raccourciEnregistrer->setEnabled(!nomme);
     std::size_t points = 0;
     for (const Sequence& sequence : m_espace.TableauSequences) points += sequence.Points.size();
-    lblProjet->setText(TexteDe(Texte2D::EtatProjet).arg(m_espace.TableauSequences.size()).arg(points));
-    lblMachine->setText(TexteDe(Texte2D::EtatMachine).arg(QString::fromStdString(TableINI.Nom)));
+    lblProjet->setText(TexteAffiche(
+        TexteRempli(TexteProgramme::Fenetre2DEtatProjet,
+                    {std::to_string(m_espace.TableauSequences.size()), std::to_string(points)})));
+    lblMachine->setText(TexteAffiche(TexteRempli(TexteProgramme::Fenetre2DEtatMachine, {TableINI.Nom})));
 }
 
 void frmTessarel2D::MontrerTout() {

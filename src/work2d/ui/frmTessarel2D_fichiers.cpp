@@ -10,12 +10,13 @@
 #include "platform/fichiers.h"
 #include "platform/gabar/gabar.h"
 #include "ui/attente.h"
+#include "ui/boites_qt.h"
 #include "ui/canevas.h"
 #include "ui/choix_fichier.h"
+#include "ui/en_arriere.h"
 #include "ui/fichiers_recents.h"
 #include "work2d/options_decoupe.h"
 #include "work2d/ui/frmTessarel2D.h"
-#include "work2d/ui/libelles_2d.h"
 
 #include <QCheckBox>
 #include <QDragEnterEvent>
@@ -29,6 +30,8 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <memory>
+#include <optional>
 
 namespace tessarel {
 
@@ -67,6 +70,23 @@ std::string Souche(const std::string& chemin) {
     const std::string nom = NomDuChemin(chemin);
     const std::size_t point = nom.rfind('.');
     return point == std::string::npos || point == 0 ? nom : nom.substr(0, point);
+}
+
+// A drawing is read beside the window, which stays alive; the user may give up, and then nothing is returned.
+// A project is read at once: its reader may have to ask, and boxes belong to the window's own thread.
+std::optional<ContenuFichier> LireSansBloquer(QWidget& fenetre, const std::string& chemin, float tolerance) {
+    const std::string extension = ExtensionMinuscule(chemin);
+    if (extension == "tsr" || extension == "qnt") {
+        const Attente attente;
+        return LireContenuFichier(chemin, tolerance);
+    }
+    std::optional<ContenuFichier> contenu;
+    const auto resultat = std::make_shared<ContenuFichier>();
+    const bool fini =
+        FaireEnArriere(fenetre, TexteRempli(TexteProgramme::Fenetre2DLecture, {NomDuChemin(chemin)}),
+                       [resultat, chemin, tolerance] { *resultat = LireContenuFichier(chemin, tolerance); });
+    if (fini) contenu = std::move(*resultat);
+    return contenu;
 }
 
 std::vector<std::string> CheminsDeposes(const QMimeData& donnees) {
@@ -116,14 +136,15 @@ bool frmTessarel2D::OuvrirFichier(const std::string& chemin) {
     const std::string extension = ExtensionMinuscule(chemin);
     const bool projet = extension == "tsr" || extension == "qnt";
     if (projet && m_espace.modifie && !PeutRemplacerProjet()) return false;
+    bool renonce = false;
+    const LecteurContenu lecteur = [&](const std::string& fichier, float tolerance) {
+        std::optional<ContenuFichier> contenu = LireSansBloquer(*this, fichier, tolerance);
+        renonce = !contenu;
+        return contenu;
+    };
     OuvertureFichier ouverture;
-    bool ouvert = false;
-    {
-        const Attente attente;
-        ouvert = OuvrirFichier2D(m_espace, chemin, TableINI, Parametres.DistNettoyage, &ouverture);
-    }
-    if (!ouvert) {
-        OublierFichierRecent(chemin);
+    if (!OuvrirFichier2D(m_espace, chemin, TableINI, Parametres.DistNettoyage, &ouverture, lecteur)) {
+        if (!renonce) OublierFichierRecent(chemin);
         return false;
     }
     FermerDecoupe();
@@ -145,32 +166,28 @@ bool frmTessarel2D::OuvrirFichier(const std::string& chemin) {
 
 // The kind of the file, and what was put right or passed over on its way in.
 void frmTessarel2D::MontrerTypeFichier(const std::string& chemin, const OuvertureFichier& ouverture) {
-    const QString nom = QString::fromStdString(NomDuChemin(chemin));
-    QString texte = QString::fromStdString(ouverture.typeFichier);
+    const std::string nom = NomDuChemin(chemin);
+    std::string texte = ouverture.typeFichier;
     const bool dessin = !ouverture.estProjet2D && ouverture.typeFichier != "tsr4x";
     if (dessin) {
-        const QString genre = ouverture.sequences > 1
-                                  ? QString::number(ouverture.sequences) + QStringLiteral(" ") +
-                                        QString::fromStdString(TextesMessages(MessagesProfils))
-                                  : QString::fromStdString(TextesMessages(MessagesProfil));
-        texte = nom + QStringLiteral(" : ") + genre;
-        for (const std::string& note : ouverture.rapport.notes) {
-            texte += QStringLiteral("\n") + QString::fromStdString(note);
-        }
-        QStringList ignores;
+        texte = nom + " : " +
+                (ouverture.sequences > 1
+                     ? std::to_string(ouverture.sequences) + " " + TextesMessages(MessagesProfils)
+                     : TextesMessages(MessagesProfil));
+        for (const std::string& note : ouverture.rapport.notes) texte += "\n" + note;
+        std::string ignores;
         for (const auto& [entite, nombre] : ouverture.rapport.ignores) {
-            ignores << QString::fromStdString(entite) + QStringLiteral(" ") + QString::number(nombre);
+            ignores += (ignores.empty() ? "" : ", ") + entite + " " + std::to_string(nombre);
         }
-        if (!ignores.isEmpty()) {
-            texte += QStringLiteral("\n") + TexteDe(Texte2D::Ignores).arg(ignores.join(QStringLiteral(", ")));
-        }
+        if (!ignores.empty()) texte += "\n" + TexteRempli(TexteProgramme::Fenetre2DIgnores, {ignores});
     }
-    lblTypeFichierTS2D->setText(texte);
+    lblTypeFichierTS2D->setText(TexteAffiche(texte));
     lblTypeFichierTS2D->setToolTip(QString::fromStdString(chemin));
     TimerAffichageTypeFichier.start(DureeTypeFichier);
-    statusBar()->showMessage(
-        TexteDe(Texte2D::EtatOuvert).arg(nom).arg(ouverture.sequences).arg(ouverture.points),
-        DureeMessageEtat);
+    statusBar()->showMessage(TexteAffiche(TexteRempli(TexteProgramme::Fenetre2DEtatOuvert,
+                                                      {nom, std::to_string(ouverture.sequences),
+                                                       std::to_string(ouverture.points)})),
+                             DureeMessageEtat);
 }
 
 void frmTessarel2D::PreparerMenuRecents() {
@@ -185,7 +202,8 @@ void frmTessarel2D::PreparerMenuRecents() {
         connect(action, &QAction::triggered, this, [this, chemin] { OuvrirFichier(chemin); });
     }
     menuRecents->setToolTipsVisible(true);
-    if (chemins.empty()) menuRecents->addAction(TexteDe(Texte2D::AucunRecent))->setEnabled(false);
+    if (chemins.empty())
+        menuRecents->addAction(TexteAffiche(Texte(TexteProgramme::Fenetre2DAucunRecent)))->setEnabled(false);
 }
 
 bool frmTessarel2D::SauverSous() {
@@ -209,7 +227,7 @@ bool frmTessarel2D::SauverSous() {
     RetenirRepertoire(choix.Premier());
     RetenirProjet(choix.Premier());
     MontrerEtat();
-    statusBar()->showMessage(TexteDe(Texte2D::EtatSauve).arg(QString::fromStdString(choix.Premier())),
+    statusBar()->showMessage(TexteAffiche(TexteRempli(TexteProgramme::Fenetre2DEtatSauve, {choix.Premier()})),
                              DureeMessageEtat);
     return true;
 }
@@ -222,8 +240,9 @@ bool frmTessarel2D::ActualiserSauvegarde() {
     const Attente attente;
     if (!EnregistrerEspace2D(m_espace, m_espace.cheminProjet)) return false;
     MontrerEtat();
-    statusBar()->showMessage(TexteDe(Texte2D::EtatSauve).arg(QString::fromStdString(m_espace.cheminProjet)),
-                             DureeMessageEtat);
+    statusBar()->showMessage(
+        TexteAffiche(TexteRempli(TexteProgramme::Fenetre2DEtatSauve, {m_espace.cheminProjet})),
+        DureeMessageEtat);
     return true;
 }
 
@@ -278,7 +297,7 @@ void frmTessarel2D::ExporterDxf() {
                          TextesDoubles(DoublesExportImpossible, 2));
         return;
     }
-    statusBar()->showMessage(TexteDe(Texte2D::EtatExporte).arg(QString::fromStdString(chemin)),
+    statusBar()->showMessage(TexteAffiche(TexteRempli(TexteProgramme::Fenetre2DEtatExporte, {chemin})),
                              DureeMessageEtat);
 }
 

@@ -1,10 +1,6 @@
 // The words of the 2D window in both languages.
 #include "work2d/ui/libelles_2d.h"
 
-#include "ui/boites_qt.h"
-
-#include <array>
-
 namespace tessarel {
 
 namespace {
@@ -144,59 +140,10 @@ constexpr Libelle LIBELLES[] = {
     {"lblMachine", Variable},
 };
 
-struct LigneTexte2D {
-    Texte2D cle;
-    const char* francais;
-    const char* english;
-};
-
-constexpr std::array TEXTES = {
-    LigneTexte2D{Texte2D::Titre, "Tessarel - 2D", "Tessarel - 2D"},
-    LigneTexte2D{Texte2D::EtatProjet, "Tracés : %1, points : %2", "Paths: %1, points: %2"},
-    LigneTexte2D{Texte2D::EtatVide, "Ouvrez un fichier, ou déposez-le ici", "Open a file, or drop it here"},
-    LigneTexte2D{Texte2D::EtatMachine, "Machine : %1", "Machine: %1"},
-    LigneTexte2D{Texte2D::EtatSauve, "Projet enregistré : %1", "Project saved: %1"},
-    LigneTexte2D{Texte2D::EtatExporte, "Trajet exporté : %1", "Path exported: %1"},
-    LigneTexte2D{Texte2D::EtatOuvert, "%1 : tracés : %2, points : %3", "%1: paths: %2, points: %3"},
-    LigneTexte2D{Texte2D::Coordonnees, "X %1   Y %2 mm", "X %1   Y %2 mm"},
-    LigneTexte2D{Texte2D::Ignores, "Laissé de côté : %1", "Skipped: %1"},
-    LigneTexte2D{Texte2D::AucunRecent, "Aucun fichier récent", "No recent file"},
-    LigneTexte2D{Texte2D::AideTitre, "Souris et clavier", "Mouse and keyboard"},
-    LigneTexte2D{
-        Texte2D::Aide,
-        "Zoom : molette de la souris, ou touches + et -\n"
-        "Zoom sur un cadre : clic droit + glisser\n"
-        "Déplacement de la vue : clic molette + glisser, Shift + clic gauche + glisser, ou flèches\n"
-        "Tout voir : clic molette, ou touche 0\n\n"
-        "Ctrl+O : ouvrir    Ctrl+N : nouveau    Ctrl+S : enregistrer    Ctrl+Shift+S : enregistrer sous\n"
-        "Ctrl+B : bloc auto    Ctrl+D : découper    Ctrl+Entrée : lancer    Échap : annuler la découpe\n"
-        "Ctrl+E : export DXF    Ctrl+R : fichiers récents    F1 : cette aide",
-        "Zoom: mouse wheel, or the + and - keys\n"
-        "Zoom to a frame: right-click + drag\n"
-        "Pan: wheel click + drag, Shift + left-click + drag, or the arrow keys\n"
-        "Show all: wheel click, or the 0 key\n\n"
-        "Ctrl+O: open    Ctrl+N: new    Ctrl+S: save    Ctrl+Shift+S: save as\n"
-        "Ctrl+B: auto block    Ctrl+D: cut    Ctrl+Enter: start    Esc: cancel the cut\n"
-        "Ctrl+E: export DXF    Ctrl+R: recent files    F1: this help"},
-};
-
-constexpr bool OrdreRespecte() {
-    for (std::size_t i = 0; i < TEXTES.size(); ++i) {
-        if (TEXTES[i].cle != static_cast<Texte2D>(i)) return false;
-    }
-    return true;
-}
-static_assert(OrdreRespecte(), "the texts stand in the order of their names");
-
 } // namespace
 
 std::span<const Libelle> LibellesTessarel2D() {
     return LIBELLES;
-}
-
-QString TexteDe(Texte2D cle) {
-    const LigneTexte2D& ligne = TEXTES[static_cast<std::size_t>(cle)];
-    return QString::fromUtf8(LangueCourante() == Langue::English ? ligne.english : ligne.francais);
 }
 
 } // namespace tessarel
