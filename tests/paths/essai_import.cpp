@@ -187,6 +187,14 @@ TEST_F(Import, LExtensionSeLitEnMinuscules) {
               "dxf");
 }
 
+TEST_F(Import, UnFichierDeTraceurDonneSesTraces) {
+    const auto dessin = LireDessin(Ecrire("A.PLT", "IN;PU0,0;PD400,0;PU0,400;PD400,400,400,800;PU;"), 0.02F);
+    EXPECT_EQ(dessin.extension, "plt");
+    ASSERT_EQ(dessin.sequences.size(), 2U);
+    EXPECT_EQ(dessin.sequences[0].Points.back().X, 10);
+    EXPECT_EQ(dessin.sequences[1].Points.size(), 3U);
+}
+
 TEST_F(Import, CeQuiNeSeLitPasLeDit) {
     for (const char* nom : {"a.plt", "a.eps", "a.cpx", "a.fc", "a.xyz", "sans"})
         EXPECT_NE(RefusDe(Ecrire(nom, "0:0\n")).find(nom), std::string::npos) << nom;

@@ -52,6 +52,8 @@ void LireFichier(std::vector<PointSimple>& points, const std::string& chemin, Et
         LireDxf(lus, LireFichierEntier(chemin), chemin, local);
     } else if (genre == "dat") {
         LireDat(lus, LireFichierEntier(chemin), chemin, local);
+    } else if (genre == "plt") {
+        LirePlt(lus, LireFichierEntier(chemin), chemin, local);
     } else {
         throw FauteLecture(
             chemin, 0,

@@ -1,0 +1,34 @@
+// Any bytes as a plotter file: read, or refused with a sentence; what is read keeps the promises of the
+// reader.
+#include "platform/erreurs.h"
+#include "platform/gabar/lecture.h"
+
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string>
+
+using namespace tessarel;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t taille) {
+    std::vector<PointSimple> points;
+    RapportLecture rapport;
+    try {
+        LirePlt(points, std::string(reinterpret_cast<const char*>(octets), taille), "essai.plt", rapport);
+    } catch (const FauteLecture&) {
+        return 0;
+    }
+    if (points.empty() || rapport.lus.empty()) std::abort();
+    for (const PointSimple& p : points)
+        if (!(std::abs(p.X) <= 1e7F && std::abs(p.Y) <= 1e7F)) std::abort();
+    // No polyline of a single point, and the codes in their order.
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const bool debut = i == 0 || points[i - 1].CodeSequence != points[i].CodeSequence;
+        const bool fin = i + 1 == points.size() || points[i + 1].CodeSequence != points[i].CodeSequence;
+        if (debut && fin) std::abort();
+    }
+    const bool plusieurs = points.front().CodeSequence != points.back().CodeSequence;
+    if (plusieurs && points.front().CodeSequence < points.back().CodeSequence) std::abort();
+    return 0;
+}
