@@ -64,6 +64,7 @@ int Convertir(const std::string& entree, const std::string& sortie) {
                             TitresMessages(MessagesOperationImpossible));
         return StatutRefuse;
     }
+    if (extension == "tsr" && !PeutEtreRemplace(sortie, contenu.projet4axes.has_value())) return StatutRefuse;
 
     Sorties sorties;
     sorties.Ajouter(sortie, [&](const std::string& chemin) {

@@ -18,6 +18,7 @@ namespace {
 constexpr int DoublesErreurLecture = 10;
 constexpr int DoublesExtensionInconnue = 12;
 constexpr int MessagesExtensionProjet = 148;
+constexpr int MessagesRemplacer2D = 149;
 constexpr int MessagesProjetVide = 198;
 constexpr int MessagesRemplacer4axes = 200;
 constexpr int MessagesErreurEnregistrement = 203;
@@ -69,8 +70,9 @@ void RemplacerParProjet(Espace2D& espace, ContenuFichier& contenu, const TableMa
     espace.modifie = false;
 }
 
-// False when the file holds a 4-axis project that the user wants to keep.
-bool PeutEtreRemplace(const std::string& chemin) {
+} // namespace
+
+bool PeutEtreRemplace(const std::string& chemin, bool par4axes) {
     if (!FichierExiste(chemin)) return true;
     std::string onglet;
     try {
@@ -78,11 +80,12 @@ bool PeutEtreRemplace(const std::string& chemin) {
     } catch (const Faute&) {
         return true; // no project to lose there, and the write tells what is wrong with the file
     }
-    if (onglet != C4X && onglet != D4X) return true;
-    return DemanderOuiNon(TextesMessages(MessagesRemplacer4axes), TitresMessages(MessagesRemplacer4axes));
+    const bool est4axes = onglet == C4X || onglet == D4X;
+    if (onglet != TS2D && !est4axes) return true;
+    if (est4axes == par4axes) return true;
+    const int rangee = par4axes ? MessagesRemplacer2D : MessagesRemplacer4axes;
+    return DemanderOuiNon(TextesMessages(rangee), TitresMessages(rangee));
 }
-
-} // namespace
 
 ContenuFichier LireContenuFichier(const std::string& chemin, float distNettoyage) {
     ContenuFichier contenu = LireSelonExtension(chemin, distNettoyage);
@@ -153,7 +156,7 @@ bool EnregistrerEspace2D(Espace2D& espace, const std::string& chemin) {
         AfficherExclamation(TextesMessages(MessagesExtensionProjet), TitresMessages(MessagesExtensionProjet));
         return false;
     }
-    if (!PeutEtreRemplace(chemin)) return false;
+    if (!PeutEtreRemplace(chemin, false)) return false;
     try {
         EcrireProjet2D(chemin, ProjetDepuisEspace(espace));
     } catch (const Faute& faute) {

@@ -66,6 +66,9 @@ bool OuvrirFichier2D(Espace2D& espace, const std::string& chemin, const TableMac
                      float distNettoyage, OuvertureFichier* ouverture = nullptr,
                      const LecteurContenu& lecteur = LireContenuFichier);
 
+// False when the file holds a project of the other kind, 4-axis or 2D, and the user wants to keep it.
+bool PeutEtreRemplace(const std::string& chemin, bool par4axes);
+
 // Writes the workspace to a .tsr and gives it that name, after a question where that replaces a 4-axis
 // project. False after a box that says why, or when the user keeps the old file.
 bool EnregistrerEspace2D(Espace2D& espace, const std::string& chemin);
