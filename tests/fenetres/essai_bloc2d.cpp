@@ -34,8 +34,8 @@ private slots:
 private:
     void OuvrirRectangle() { m_poste->Deposer({m_poste->Fichier("rectangle.txt", RectangleTexte)}); }
     [[nodiscard]] const Espace2D& Espace() const { return m_poste->fenetre->Espace(); }
-    [[nodiscard]] const Boite& DerniereBoite() const { return m_poste->boites.boites.back(); }
-    [[nodiscard]] std::size_t NombreBoites() const { return m_poste->boites.boites.size(); }
+    [[nodiscard]] Boite DerniereBoite() const { return m_poste->DerniereBoite(); }
+    [[nodiscard]] std::size_t NombreBoites() const { return m_poste->NombreBoites(); }
 
     std::unique_ptr<Poste2D> m_poste;
 };

@@ -60,8 +60,8 @@ private:
     void OuvrirDecoupe() { m_poste->Cliquer<QPushButton>("cmdDecouper"); }
     [[nodiscard]] const Decoupe2D& Decoupe() const { return m_poste->fenetre->DecoupeMontree(); }
     [[nodiscard]] const Espace2D& Espace() const { return m_poste->fenetre->Espace(); }
-    [[nodiscard]] const Boite& DerniereBoite() const { return m_poste->boites.boites.back(); }
-    [[nodiscard]] std::size_t NombreBoites() const { return m_poste->boites.boites.size(); }
+    [[nodiscard]] Boite DerniereBoite() const { return m_poste->DerniereBoite(); }
+    [[nodiscard]] std::size_t NombreBoites() const { return m_poste->NombreBoites(); }
     [[nodiscard]] static std::vector<QPointF> Points(const Sequence& sequence) {
         std::vector<QPointF> points;
         for (const PointProfil& p : sequence.Points) points.emplace_back(p.X, p.Y);

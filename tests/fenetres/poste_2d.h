@@ -102,6 +102,12 @@ public:
         QTest::keyClicks(&saisie, texte);
     }
 
+    [[nodiscard]] std::size_t NombreBoites() const { return boites.boites.size(); }
+    // The last box shown; one without words where none was.
+    [[nodiscard]] Boite DerniereBoite() const {
+        return boites.boites.empty() ? Boite() : boites.boites.back();
+    }
+
     void Deposer(const std::vector<std::string>& chemins) const {
         QMimeData donnees;
         QList<QUrl> urls;
