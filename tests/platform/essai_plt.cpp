@@ -319,8 +319,8 @@ TEST(Plt, LesPolylignesCodeesSeDecodent) {
     EXPECT_EQ(Traces("PU0,0;PE\x5F\xCB\xBF<\x5F\xCB\xBF\x5F\xCB\xBF;"), "0,0 10,0 | 20,0 30,0");
     // Base 32: 800 is 0 and 25 as digits: '?' and 'x'; zero is '_'.
     EXPECT_EQ(Traces("PU0,0;PE7?x_\r\n_?x;"), "0,0 10,0 10,10");
-    // The greatest digit that does not end a number: -15 is 31, '^', and a last digit of 0.
-    EXPECT_EQ(Traces("PU0,0;PE7^__;"), "0,0 -0.375,0");
+    // -31 is 63: the greatest digit that does not end a number, 31 or '^', then 1 as a last digit, '`'.
+    EXPECT_EQ(Traces("PU0,0;PE7^`_;"), "0,0 -0.775,0");
     // Two binary places: 1600 quarters are 400; 3200 is 0 and 50: 0x3F and 0xF1. The count 2 is 4: 0xC3.
     EXPECT_EQ(Traces("PU0,0;PE>\xC3?\xF1\xBF;"), "0,0 10,0");
     // A pen: 1 is 2, 0xC1.
