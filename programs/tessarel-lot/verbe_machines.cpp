@@ -90,7 +90,7 @@ void DeclarerMachines(CLI::App& programme, const ChoisirAction& choisir) {
     montrer->add_option("M", *nom, Dire("Nom de la machine", "Name of the machine"))
         ->required()
         ->type_name("");
-    verbe->callback([verbe, montrer, nom, choisir] {
+    verbe->callback([montrer, nom, choisir] {
         if (montrer->parsed())
             choisir([nom] { return MontrerMachine(*nom); });
         else
