@@ -3,6 +3,7 @@
 
 #include "app/texts/textes_programme.h"
 #include "geometrie.h"
+#include "paths/aile_importee.h"
 #include "platform/erreurs.h"
 #include "platform/fichiers.h"
 #include "platform/gabar/assemblage.h"
@@ -200,6 +201,12 @@ DessinImporte LireDessin(const std::string& chemin, float distNettoyage) {
         const std::vector<Sequence> lues = LireCoordonneesTexte(chemin);
         if (lues.empty()) throw FauteLecture(chemin, 0, Texte(TexteProgramme::LectureAucuneCoordonnee));
         dessin.rapport.lus["TXT"] = static_cast<int>(lues.size());
+        points = PointsDepuisSequences(lues);
+    } else if (dessin.extension == "cpx" || dessin.extension == "fc") {
+        const bool cpx = dessin.extension == "cpx";
+        const std::vector<Sequence> lues =
+            cpx ? LireCPX2TS2D(chemin, &dessin.rapport) : LireProfilsFC(chemin, &dessin.rapport);
+        dessin.rapport.lus[cpx ? "CPX" : "FC"] = static_cast<int>(lues.size());
         points = PointsDepuisSequences(lues);
     } else if (std::find(ExtensionsGabar.begin(), ExtensionsGabar.end(), dessin.extension) !=
                ExtensionsGabar.end()) {

@@ -54,6 +54,8 @@ void LireFichier(std::vector<PointSimple>& points, const std::string& chemin, Et
         LireDat(lus, LireFichierEntier(chemin), chemin, local);
     } else if (genre == "plt") {
         LirePlt(lus, LireFichierEntier(chemin), chemin, local);
+    } else if (genre == "eps") {
+        LireEps(lus, LireFichierEntier(chemin), chemin, local);
     } else {
         throw FauteLecture(
             chemin, 0,

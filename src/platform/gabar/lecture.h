@@ -16,6 +16,8 @@ void LireDat(std::vector<PointSimple>& points, std::string texte, const std::str
              RapportLecture& rapport);
 void LirePlt(std::vector<PointSimple>& points, const std::string& texte, const std::string& chemin,
              RapportLecture& rapport);
+void LireEps(std::vector<PointSimple>& points, const std::string& texte, const std::string& chemin,
+             RapportLecture& rapport);
 
 // Text of a file with these polylines, which are one or more.
 std::string TexteDxf(const std::vector<PointSimple>& points);
