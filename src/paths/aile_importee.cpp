@@ -4,7 +4,6 @@
 #include "app/texts/textes_programme.h"
 #include "paths/import.h"
 #include "paths/texte_aile.h"
-#include "platform/erreurs.h"
 #include "platform/fichiers.h"
 #include "platform/gabar/messages.h"
 
@@ -131,10 +130,10 @@ std::vector<Sequence> SequencesAile(const AileImportee& aile) {
 std::vector<Sequence> SequencesDepuisAile(AileImportee aile, const std::string& chemin,
                                           RapportLecture* rapport) {
     const std::array<std::pair<ProfilAile*, const char*>, 2> bouts = {
-        {{&aile.Emplanture, "Emplanture"}, {&aile.Saumon, "Saumon"}}};
+        {{&aile.Emplanture, SectionEmplanture}, {&aile.Saumon, SectionSaumon}}};
     for (const auto& [profil, nom] : bouts) PrendreFichier(*profil, nom, chemin, aile.rapport);
     std::vector<Sequence> sequences = SequencesAile(aile);
-    if (sequences.empty()) throw FauteLecture(chemin, 0, Texte(TexteProgramme::LectureAileAttendue));
+    if (sequences.empty()) RefuserSansSection(chemin, 0);
     for (const auto& [profil, nom] : bouts)
         if (profil->Points.empty())
             aile.rapport.notes.push_back(TexteRempli(TexteProgramme::NoteAileProfilAbsent, {nom}));

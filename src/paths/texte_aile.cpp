@@ -18,8 +18,6 @@ namespace tessarel {
 
 namespace {
 
-constexpr const char* NomEmplanture = "Emplanture";
-constexpr const char* NomSaumon = "Saumon";
 constexpr const char* CleNombre = "NombrePoints";
 constexpr const char* CleFichier = "Fichier";
 constexpr const char* CleNomFichier = "NomFichier";
@@ -95,9 +93,9 @@ bool OuvrirSection(Lecteur& l, std::string_view ligne) {
     if (crochets) nom = Rogner(nom.substr(1, nom.size() - 2));
     while (!crochets && (nom.ends_with(':') || nom.ends_with(l.separateur))) nom.remove_suffix(1);
     nom = Rogner(nom);
-    if (EgalSansCasse(nom, NomEmplanture))
+    if (EgalSansCasse(nom, SectionEmplanture))
         l.section = &l.aile.Emplanture;
-    else if (EgalSansCasse(nom, NomSaumon))
+    else if (EgalSansCasse(nom, SectionSaumon))
         l.section = &l.aile.Saumon;
     else if (crochets)
         l.section = nullptr;
@@ -122,7 +120,7 @@ bool LirePointAile(std::string_view ligne, PointProfil& point) {
 
 void AjouterPointAile(Lecteur& l, std::string_view ligne) {
     PointProfil point;
-    if (l.section == nullptr) Refuser(l, Texte(TexteProgramme::LectureAileAttendue));
+    if (l.section == nullptr) RefuserSansSection(l.chemin, l.ligne);
     if (!LirePointAile(ligne, point))
         Refuser(l, TexteRempli(TexteProgramme::LecturePointAileAttendu, {Citation(ligne)}));
     if (std::abs(point.X) > CoordonneeMax || std::abs(point.Y) > CoordonneeMax)
@@ -219,6 +217,11 @@ void VerifierComptes(const Lecteur& l) {
 }
 
 } // namespace
+
+void RefuserSansSection(const std::string& chemin, long ligne) {
+    throw FauteLecture(chemin, ligne,
+                       TexteRempli(TexteProgramme::LectureAileAttendue, {SectionEmplanture, SectionSaumon}));
+}
 
 AileImportee LireListeAile(const std::string& texte, char separateur, const std::string& chemin) {
     if (texte.find('\0') != std::string::npos)

@@ -7,6 +7,13 @@
 
 namespace tessarel {
 
+// The two sections.
+inline constexpr const char* SectionEmplanture = "Emplanture";
+inline constexpr const char* SectionSaumon = "Saumon";
+
+// FauteLecture saying that points were expected in one of them.
+[[noreturn]] void RefuserSansSection(const std::string& chemin, long ligne);
+
 // Reads the list. `separateur` stands between key and value: ';' or '='.
 AileImportee LireListeAile(const std::string& texte, char separateur, const std::string& chemin);
 

@@ -70,16 +70,16 @@ enum class TexteProgramme {
     LectureCoordonneesAttendues,
     LectureAucuneCoordonnee,
     LectureGenreInconnu,
-    LectureAileAttendue,
+    LectureAileAttendue,     // %1, %2 sections
     LecturePointAileAttendu, // %1 what stands there
     LectureNombreCleAttendu, // %1 key, %2 what stands there
     NoteAilePouces,
     NoteAileProfilAbsent, // %1 section
     NoteAileProfilLu,     // %1 section, %2 file
     LectureSansTrace,
-    LectureTropDePoints,  // %1 present, %2 highest
-    EcritureImpossible,   // %1 file, %2 reason
-    SortieEgaleEntree,    // %1 file
+    LectureTropDePoints, // %1 present, %2 highest
+    EcritureImpossible,  // %1 file, %2 reason
+    SortieEgaleEntree,   // %1 file
 
     // 2D work
     PasDeCoefficient,
