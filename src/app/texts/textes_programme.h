@@ -89,6 +89,29 @@ enum class TexteProgramme {
     FiltreGcode,
     VitesseTropBasse,
 
+    // Library and report of an opening
+    BibliothequeFichierExterieur,
+    BibliothequeTropGrande,
+    BibliothequeCopieImpossible,
+    ApercuDe,        // %1 file
+    OuvertureJoints, // %1 number, likewise below
+    OuvertureRetournes,
+    OuverturePointsRetires,
+    OuvertureIgnores,
+    RapportTitre,
+    RapportFichier, // %1 path
+    RapportGenre,   // %1 kind
+    RapportTraces,  // %1 number, likewise below
+    RapportPoints,
+    RapportPointsRetires,
+    RapportJoints,
+    RapportRetournes,
+    RapportNotes,
+    RapportLus,
+    RapportCouches,
+    RapportIgnores,
+    BoutonFermer,
+
     // Summary of a cut
     ResumeVitesse, // %1 speed, %2 duration
     ResumeChauffe, // %1 heat, %2 offset

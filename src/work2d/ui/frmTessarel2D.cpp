@@ -15,6 +15,7 @@
 #include "ui/icones.h"
 #include "ui/place_fenetre.h"
 #include "work2d/ui/libelles_2d.h"
+#include "work2d/ui/panneau_bibliotheque.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -53,6 +54,7 @@ frmTessarel2D::frmTessarel2D(QWidget* parent) : QMainWindow(parent) {
     pctDecoupe->FixerCadreComplet(CadreTable(TableINI));
     FermerDecoupe();
     MontrerTout();
+    m_bibliotheque->RemplirArbreBibliotheque("");
     statusBar()->showMessage(TexteAffiche(Texte(TexteProgramme::Fenetre2DEtatVide)));
     PlacerFenetre(*this);
 }
@@ -61,6 +63,7 @@ void frmTessarel2D::Relier() {
     RelierFichiers();
     RelierProjet();
     RelierDecoupe();
+    RelierBibliotheque();
     for (Canevas* canevas : {pctSequTS2D, pctDecoupe}) {
         connect(canevas, &Canevas::PointeurDeplace, this, [this](double x, double y) {
             lblCoordonnees->setText(TexteAffiche(
@@ -82,7 +85,7 @@ void frmTessarel2D::Relier() {
 void frmTessarel2D::RelierFichiers() {
     TimerAffichageTypeFichier.setObjectName(QStringLiteral("TimerAffichageTypeFichier"));
     TimerAffichageTypeFichier.setSingleShot(true);
-    connect(&TimerAffichageTypeFichier, &QTimer::timeout, lblTypeFichierTS2D, &QLabel::clear);
+    connect(&TimerAffichageTypeFichier, &QTimer::timeout, this, &frmTessarel2D::EffacerResume);
     connect(cmdNouveauProjetTS2D, &QToolButton::clicked, this, &frmTessarel2D::NouveauProjet);
     connect(cmdOuvrirFichierTS2D, &QToolButton::clicked, this, &frmTessarel2D::DemanderOuverture);
     connect(menuRecents, &QMenu::aboutToShow, this, &frmTessarel2D::PreparerMenuRecents);
@@ -164,6 +167,7 @@ void frmTessarel2D::MontrerEtat() {
 }
 
 void frmTessarel2D::MontrerTout() {
+    FermerApercu();
     MontrerBloc();
     TraceSequTS2D();
     ZoomAutoToutVoir();

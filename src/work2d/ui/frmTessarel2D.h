@@ -3,6 +3,7 @@
 #pragma once
 
 #include "machine/matieres.h"
+#include "work2d/apercu.h"
 #include "work2d/decoupe2d.h"
 #include "work2d/dessin_table.h"
 #include "work2d/espace2d.h"
@@ -10,11 +11,13 @@
 #include <QMainWindow>
 #include <QTimer>
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
 class QCheckBox;
 class QComboBox;
+class QFrame;
 class QLabel;
 class QMenu;
 class QPushButton;
@@ -27,6 +30,7 @@ namespace tessarel {
 
 class Canevas;
 class ChampNombre;
+class PanneauBibliotheque;
 
 // A thin skin over Espace2D: it reads controls, calls the engine on TableINI, the current material and the
 // general parameters, and shows the result. The start-up must have filled those.
@@ -71,7 +75,20 @@ private:
     // True when the work may be replaced: saved, or given up by the user.
     bool PeutRemplacerProjet();
     void PreparerMenuRecents();
-    void MontrerTypeFichier(const std::string& chemin, const OuvertureFichier& ouverture);
+    // Nothing when the user gave up.
+    std::optional<ContenuFichier> LireSansBloquer(const std::string& chemin, float tolerance);
+
+    // Library, previews, report (frmTessarel2D_bibliotheque.cpp)
+    void DisposerApercu();
+    void RelierBibliotheque();
+    void MontrerApercu(const std::string& chemin);
+    void CadrerApercu();
+    void TracerApercu();
+    void FermerApercu();
+    std::optional<ContenuFichier> PrendreApercu(const std::string& chemin, float tolerance);
+    void MontrerResume(const std::string& chemin, const OuvertureFichier& ouverture);
+    void EffacerResume();
+    void MontrerOuverture(const std::string& chemin, OuvertureFichier ouverture);
 
     // Block, placing, display (frmTessarel2D_bloc.cpp)
     void ChangerBloc(std::size_t cote, double valeur);
@@ -106,7 +123,10 @@ private:
     OptionsDecoupe2D m_options;
     ValeursDecoupe m_valeurs; // of the material, clamped to the machine
     CoteDecalage2D m_decalage = CoteDecalage2D::Aucun;
-    bool m_annoncerDepassement = true;           // cleared by the box
+    bool m_annoncerDepassement = true;     // cleared by the box
+    std::optional<ApercuFichier> m_apercu; // the file looked at, while the canvas shows it
+    std::string m_cheminOuvert;            // last file opened, and what it brought
+    OuvertureFichier m_ouverture;
     std::vector<std::string> m_fichiersImportes; // drawings of this project: no export replaces them
 
     Canevas* pctSequTS2D = nullptr;
@@ -121,6 +141,13 @@ private:
     QToolButton* cmdActualiserSauvegarde = nullptr;
     QToolButton* cmdSauverTS2D = nullptr;
     QToolButton* cmdExporterDXF = nullptr;
+    QToolButton* cmdBibliotheque = nullptr;
+    PanneauBibliotheque* m_bibliotheque = nullptr;
+    QFrame* bandeauApercu = nullptr;
+    QLabel* lblApercu = nullptr;
+    QToolButton* cmdOuvrirApercu = nullptr;
+    QToolButton* cmdFermerApercu = nullptr;
+    QShortcut* raccourciFermerApercu = nullptr; // while a preview is shown
     QToolButton* cmdZoomTout = nullptr;
     QToolButton* cmdZoomPlus = nullptr;
     QToolButton* cmdZoomMoins = nullptr;
@@ -128,6 +155,7 @@ private:
     QShortcut* raccourciEnregistrer = nullptr; // while cmdActualiserSauvegarde is hidden
 
     QLabel* lblTypeFichierTS2D = nullptr;
+    QLabel* lblCoeffNettoyage = nullptr;
     QTimer TimerAffichageTypeFichier{this};
     std::array<ChampNombre*, 2> txtBloc{};
     QToolButton* cmdBlocAuto = nullptr;
@@ -153,6 +181,7 @@ private:
     QLabel* lblCoordonnees = nullptr;
     QLabel* lblProjet = nullptr;
     QLabel* lblMachine = nullptr;
+    QToolButton* cmdRapportOuverture = nullptr;
 };
 
 } // namespace tessarel

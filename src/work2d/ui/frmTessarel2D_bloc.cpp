@@ -84,6 +84,10 @@ OptionsDessin frmTessarel2D::OptionsAffichage(const Canevas& canevas) const {
 }
 
 void frmTessarel2D::TraceSequTS2D() {
+    if (m_apercu) {
+        TracerApercu();
+        return;
+    }
     const OptionsDessin options = OptionsAffichage(*pctSequTS2D);
     Dessin table;
     DessinerTable(table, TableINI, m_espace.bloc, options);
@@ -94,7 +98,7 @@ void frmTessarel2D::TraceSequTS2D() {
 }
 
 void frmTessarel2D::ZoomAutoToutVoir() {
-    if (!chkZoomProjet->isChecked()) return;
+    if (!chkZoomProjet->isChecked() || m_apercu) return;
     CadreDessin cadre{0, static_cast<double>(TableINI.CourseX), 0, static_cast<double>(TableINI.CourseY)};
     if (!m_espace.TableauSequences.empty()) {
         // The framing of the paths, as far as the table reaches.

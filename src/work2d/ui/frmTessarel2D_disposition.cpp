@@ -2,6 +2,7 @@
 #include "ui/canevas.h"
 #include "ui/champ_nombre.h"
 #include "work2d/ui/frmTessarel2D.h"
+#include "work2d/ui/panneau_bibliotheque.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -14,6 +15,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QToolButton>
@@ -24,6 +26,7 @@ namespace tessarel {
 namespace {
 
 constexpr int LargeurOutils = 104; // pixels
+constexpr int LargeurBibliotheque = 210;
 constexpr int LargeurPage = 324;
 constexpr int CoteIconeOutil = 26;
 constexpr int CoteIconeOption = 30;
@@ -138,9 +141,17 @@ void frmTessarel2D::Disposer() {
     rangee->setContentsMargins(0, 0, 0, 0);
     rangee->setSpacing(0);
     rangee->addWidget(DisposerOutils());
-    rangee->addWidget(m_vues, 1);
+    m_bibliotheque = new PanneauBibliotheque;
+    auto* milieu = new QSplitter;
+    milieu->addWidget(m_bibliotheque);
+    milieu->addWidget(m_vues);
+    milieu->setStretchFactor(1, 1);
+    milieu->setChildrenCollapsible(false);
+    milieu->setSizes({LargeurBibliotheque, width() - LargeurBibliotheque});
+    rangee->addWidget(milieu, 1);
     rangee->addWidget(m_pages);
     setCentralWidget(centre);
+    DisposerApercu();
     DisposerBarreEtat();
 }
 
@@ -162,6 +173,9 @@ QWidget* frmTessarel2D::DisposerOutils() {
     ajouter(cmdSauverTS2D, "cmdSauverTS2D");
     ajouter(cmdExporterDXF, "cmdExporterDXF");
     colonne->addWidget(Filet());
+    ajouter(cmdBibliotheque, "cmdBibliotheque");
+    cmdBibliotheque->setCheckable(true);
+    cmdBibliotheque->setChecked(true);
     colonne->addStretch(1);
     ajouter(cmdZoomTout, "cmdZoomTout");
     auto* loupes = new QHBoxLayout;
@@ -192,6 +206,8 @@ QWidget* frmTessarel2D::DisposerPageProjet() {
     lblTypeFichierTS2D->setTextFormat(Qt::PlainText);
     ReserverLignes(lblTypeFichierTS2D, 3);
     fichier->addWidget(lblTypeFichierTS2D);
+    lblCoeffNettoyage = Nommer(new QLabel, QStringLiteral("lblCoeffNettoyage"));
+    fichier->addWidget(lblCoeffNettoyage);
 
     auto* bloc = new QGridLayout(Groupe(QStringLiteral("frameBloc"), page));
     for (std::size_t i = 0; i < txtBloc.size(); ++i) {
@@ -283,6 +299,10 @@ void frmTessarel2D::DisposerBarreEtat() {
     // Wide enough from the start, so that the bar does not dance under the pointer.
     lblCoordonnees->setMinimumWidth(
         lblCoordonnees->fontMetrics().horizontalAdvance(QStringLiteral("X -00000.00   Y -00000.00 mm")));
+    cmdRapportOuverture = Nommer(new QToolButton, QStringLiteral("cmdRapportOuverture"));
+    cmdRapportOuverture->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    cmdRapportOuverture->setAutoRaise(true);
+    statusBar()->addPermanentWidget(cmdRapportOuverture);
     for (QLabel* etiquette : {lblProjet, lblMachine, lblCoordonnees}) {
         etiquette->setContentsMargins(8, 0, 8, 0);
         statusBar()->addPermanentWidget(etiquette);

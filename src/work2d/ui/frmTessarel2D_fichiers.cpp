@@ -17,6 +17,7 @@
 #include "ui/fichiers_recents.h"
 #include "work2d/options_decoupe.h"
 #include "work2d/ui/frmTessarel2D.h"
+#include "work2d/ui/panneau_bibliotheque.h"
 
 #include <QCheckBox>
 #include <QDragEnterEvent>
@@ -43,14 +44,11 @@ constexpr int DoublesPasDeTraceDansLeBloc = 53;
 constexpr int DoublesExportImpossible = 54;
 constexpr int MessagesEnregistrerSous = 146;
 constexpr int MessagesProjetSansNom = 192;
-constexpr int MessagesProfil = 193;
-constexpr int MessagesProfils = 194;
 constexpr int MessagesProjetVide = 198;
 constexpr int MessagesExporterDxf = 201;
 constexpr int MessagesExtensionDxf = 202;
 
-constexpr int DureeTypeFichier = 30000; // ms: a report of several lines takes that long to read
-constexpr int DureeMessageEtat = 8000;  // ms
+constexpr int DureeMessageEtat = 8000; // ms
 
 std::string DernierRepertoire() {
     return LireIni(SectionFichiers, CleDernierRepertoire, DossiersProgramme.MesDecoupes);
@@ -72,23 +70,6 @@ std::string Souche(const std::string& chemin) {
     return point == std::string::npos || point == 0 ? nom : nom.substr(0, point);
 }
 
-// A drawing is read beside the window, which stays alive; the user may give up, and then nothing is returned.
-// A project is read at once: its reader may have to ask, and boxes belong to the window's own thread.
-std::optional<ContenuFichier> LireSansBloquer(QWidget& fenetre, const std::string& chemin, float tolerance) {
-    const std::string extension = ExtensionMinuscule(chemin);
-    if (extension == "tsr" || extension == "qnt") {
-        const Attente attente;
-        return LireContenuFichier(chemin, tolerance);
-    }
-    std::optional<ContenuFichier> contenu;
-    const auto resultat = std::make_shared<ContenuFichier>();
-    const bool fini =
-        FaireEnArriere(fenetre, TexteRempli(TexteProgramme::Fenetre2DLecture, {NomDuChemin(chemin)}),
-                       [resultat, chemin, tolerance] { *resultat = LireContenuFichier(chemin, tolerance); });
-    if (fini) contenu = std::move(*resultat);
-    return contenu;
-}
-
 std::vector<std::string> CheminsDeposes(const QMimeData& donnees) {
     std::vector<std::string> chemins;
     for (const QUrl& url : donnees.urls()) {
@@ -98,6 +79,24 @@ std::vector<std::string> CheminsDeposes(const QMimeData& donnees) {
 }
 
 } // namespace
+
+// A drawing is read beside the window, which stays alive; the user may give up, and then nothing is returned.
+// A project is read at once: its reader may have to ask, and boxes belong to the window's own thread.
+std::optional<ContenuFichier> frmTessarel2D::LireSansBloquer(const std::string& chemin, float tolerance) {
+    std::optional<ContenuFichier> contenu = PrendreApercu(chemin, tolerance);
+    if (contenu) return contenu;
+    const std::string extension = ExtensionMinuscule(chemin);
+    if (extension == "tsr" || extension == "qnt") {
+        const Attente attente;
+        return LireContenuFichier(chemin, tolerance);
+    }
+    const auto resultat = std::make_shared<ContenuFichier>();
+    const bool fini =
+        FaireEnArriere(*this, TexteRempli(TexteProgramme::Fenetre2DLecture, {NomDuChemin(chemin)}),
+                       [resultat, chemin, tolerance] { *resultat = LireContenuFichier(chemin, tolerance); });
+    if (fini) contenu = std::move(*resultat);
+    return contenu;
+}
 
 bool frmTessarel2D::PeutRemplacerProjet() {
     if (m_espace.TableauSequences.empty()) return true;
@@ -113,8 +112,8 @@ void frmTessarel2D::NouveauProjet() {
     FermerDecoupe();
     m_espace = NouvelEspace2D(TableINI);
     m_fichiersImportes.clear();
-    lblTypeFichierTS2D->clear();
-    lblTypeFichierTS2D->setToolTip({});
+    EffacerResume();
+    m_bibliotheque->RemplirArbreBibliotheque("");
     MontrerOptionsDecoupe();
     MontrerTout();
     pctSequTS2D->ZoomTout();
@@ -138,7 +137,7 @@ bool frmTessarel2D::OuvrirFichier(const std::string& chemin) {
     if (projet && m_espace.modifie && !PeutRemplacerProjet()) return false;
     bool renonce = false;
     const LecteurContenu lecteur = [&](const std::string& fichier, float tolerance) {
-        std::optional<ContenuFichier> contenu = LireSansBloquer(*this, fichier, tolerance);
+        std::optional<ContenuFichier> contenu = LireSansBloquer(fichier, tolerance);
         renonce = !contenu;
         return contenu;
     };
@@ -157,37 +156,11 @@ bool frmTessarel2D::OuvrirFichier(const std::string& chemin) {
         AjusterAuBloc(m_espace.TableauSequences, m_espace.bloc, Regles(), TableINI, m_espace.coeffTransf);
     }
     m_fichiersImportes.push_back(chemin);
-    MontrerTypeFichier(chemin, ouverture);
     MontrerOptionsDecoupe();
     MontrerTout();
+    MontrerOuverture(chemin, std::move(ouverture));
     if (!chkZoomProjet->isChecked()) pctSequTS2D->ZoomTout();
     return true;
-}
-
-// The kind of the file, and what was put right or passed over on its way in.
-void frmTessarel2D::MontrerTypeFichier(const std::string& chemin, const OuvertureFichier& ouverture) {
-    const std::string nom = NomDuChemin(chemin);
-    std::string texte = ouverture.typeFichier;
-    const bool dessin = !ouverture.estProjet2D && ouverture.typeFichier != "tsr4x";
-    if (dessin) {
-        texte = nom + " : " +
-                (ouverture.sequences > 1
-                     ? std::to_string(ouverture.sequences) + " " + TextesMessages(MessagesProfils)
-                     : TextesMessages(MessagesProfil));
-        for (const std::string& note : ouverture.rapport.notes) texte += "\n" + note;
-        std::string ignores;
-        for (const auto& [entite, nombre] : ouverture.rapport.ignores) {
-            ignores += (ignores.empty() ? "" : ", ") + entite + " " + std::to_string(nombre);
-        }
-        if (!ignores.empty()) texte += "\n" + TexteRempli(TexteProgramme::Fenetre2DIgnores, {ignores});
-    }
-    lblTypeFichierTS2D->setText(TexteAffiche(texte));
-    lblTypeFichierTS2D->setToolTip(QString::fromStdString(chemin));
-    TimerAffichageTypeFichier.start(DureeTypeFichier);
-    statusBar()->showMessage(TexteAffiche(TexteRempli(TexteProgramme::Fenetre2DEtatOuvert,
-                                                      {nom, std::to_string(ouverture.sequences),
-                                                       std::to_string(ouverture.points)})),
-                             DureeMessageEtat);
 }
 
 void frmTessarel2D::PreparerMenuRecents() {
@@ -226,6 +199,7 @@ bool frmTessarel2D::SauverSous() {
     if (choix.Annule() || !EnregistrerEspace2D(m_espace, choix.Premier())) return false;
     RetenirRepertoire(choix.Premier());
     RetenirProjet(choix.Premier());
+    m_bibliotheque->RemplirArbreBibliotheque(choix.Premier());
     MontrerEtat();
     statusBar()->showMessage(TexteAffiche(TexteRempli(TexteProgramme::Fenetre2DEtatSauve, {choix.Premier()})),
                              DureeMessageEtat);
@@ -239,6 +213,7 @@ bool frmTessarel2D::ActualiserSauvegarde() {
     }
     const Attente attente;
     if (!EnregistrerEspace2D(m_espace, m_espace.cheminProjet)) return false;
+    m_bibliotheque->RemplirArbreBibliotheque(m_espace.cheminProjet);
     MontrerEtat();
     statusBar()->showMessage(
         TexteAffiche(TexteRempli(TexteProgramme::Fenetre2DEtatSauve, {m_espace.cheminProjet})),

@@ -28,6 +28,8 @@ constexpr Libelle LIBELLES[] = {
     {"cmdExporterDXF", Texte, "Export DXF", "Export DXF", "Ctrl+E", "exporter-dxf"},
     {"cmdExporterDXF", Bulle, "Exporter en DXF le trajet complet du fil, entrée et sortie comprises",
      "Export the whole path of the wire as DXF, entry and exit included"},
+    {"cmdBibliotheque", Texte, "Bibliothèque", "Library", "Ctrl+L", "bibliotheque"},
+    {"cmdBibliotheque", Bulle, "Montrer ou masquer la bibliothèque", "Show or hide the library"},
     {"cmdZoomTout", Texte, "Tout voir", "Show all", "Ctrl+0", "zoom-tout"},
     {"cmdZoomTout", Bulle, "Montrer toute la table", "Show the whole table"},
     {"cmdZoomPlus", Bulle, "Agrandir", "Zoom in", "Ctrl++", "zoom-plus"},
@@ -35,9 +37,25 @@ constexpr Libelle LIBELLES[] = {
     {"cmdAide", Texte, "Aide", "Help", "F1", "aide"},
     {"cmdAide", Bulle, "Souris et clavier de cette fenêtre", "Mouse and keyboard in this window"},
 
+    // Library
+    {"lblBibliotheque", Texte, "Bibliothèque", "Library"},
+    {"cmdRafraichir", Bulle, "Relire la bibliothèque", "Read the library again", "F5", "rafraichir"},
+    {"cmdImporterProfil", Bulle, "Copier des fichiers dans la bibliothèque", "Copy files to the library", "",
+     "importer"},
+    {"cmdEffacerFichier", Bulle, "Mettre le fichier choisi dans la corbeille (Suppr)",
+     "Move the selected file to the recycle bin (Del)", "", "supprimer"},
+    {"TreeBibliothequeTS2D", Bulle, "Clic : aperçu. Double-clic ou Entrée : ouvrir",
+     "Click: preview. Double-click or Enter: open"},
+    {"lblFichierExterieur", Variable},
+    {"lblApercu", Variable},
+    {"cmdOuvrirApercu", Texte, "Ouvrir", "Open", "", "ouvrir"},
+    {"cmdOuvrirApercu", Bulle, "Prendre ce fichier dans le projet", "Take this file into the project"},
+    {"cmdFermerApercu", Bulle, "Revenir au projet (Échap)", "Go back to the project (Esc)", "", "fermer"},
+
     // Project page
     {"frameFichier", Texte, "Fichier", "File"},
     {"lblTypeFichierTS2D", Variable},
+    {"lblCoeffNettoyage", Variable},
     {"frameBloc", Texte, "Bloc", "Block"},
     {"lblBloc_0", Texte, "Largeur", "Width"},
     {"lblBloc_1", Texte, "Hauteur", "Height"},
@@ -138,6 +156,9 @@ constexpr Libelle LIBELLES[] = {
     {"lblCoordonnees", Variable},
     {"lblProjet", Variable},
     {"lblMachine", Variable},
+    {"cmdRapportOuverture", Texte, "Rapport d'ouverture…", "Opening report…", "Ctrl+I", "rapport"},
+    {"cmdRapportOuverture", Bulle, "Ce qui a été lu, joint, retourné, nettoyé et laissé de côté",
+     "What was read, joined, turned around, cleaned up and skipped"},
 };
 
 } // namespace
