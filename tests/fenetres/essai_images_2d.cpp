@@ -9,6 +9,9 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QToolButton>
+#include <QTreeWidget>
+
+#include <filesystem>
 
 using namespace tessarel;
 using essais::Poste2D;
@@ -40,6 +43,18 @@ QStringList MotsCoupes(const QWidget& fenetre) {
         }
     }
     return coupes;
+}
+
+// A library as a user has it after a while.
+void RemplirBibliotheque(const Poste2D& poste) {
+    DossiersProgramme.Bibliotheque = poste.dossier.Fichier("Bibliotheque");
+    namespace fs = std::filesystem;
+    const fs::path racine = DossiersProgramme.Bibliotheque;
+    fs::create_directories(racine / "Ailes" / "Profils");
+    fs::create_directories(racine / "Mes Decoupes");
+    fs::copy_file(Echantillon("naca2412.dat"), racine / "Ailes" / "Profils" / "naca2412.dat");
+    fs::copy_file(Echantillon("console.dxf"), racine / "console.dxf");
+    fs::copy_file(Echantillon("etoile.txt"), racine / "Mes Decoupes" / "etoile.txt");
 }
 
 // The pointer rests on nothing, and what the last click changed is laid out.
@@ -85,6 +100,29 @@ private slots:
         Reposer(poste);
         QVERIFY2(MotsCoupes(*poste.fenetre).isEmpty(), qPrintable(MotsCoupes(*poste.fenetre).join(u' ')));
         QVERIFY(essais::SauverImage(*poste.fenetre, QStringLiteral("frmTessarel2D-decoupe-") + suffixe));
+    }
+
+    void LaBibliothequeMontreUnApercu_data() { LaFenetreTientEn1280Sur800_data(); }
+    void LaBibliothequeMontreUnApercu() {
+        QFETCH(bool, anglais);
+        QFETCH(bool, sombre);
+        AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
+        Poste2D poste(anglais ? Langue::English : Langue::Francais);
+        RemplirBibliotheque(poste);
+        poste.OuvrirFenetre();
+        QVERIFY(poste.fenetre->OuvrirFichier(DossiersProgramme.Bibliotheque + "/console.dxf"));
+        auto& arbre = poste.Trouver<QTreeWidget>("TreeBibliothequeTS2D");
+        QTreeWidgetItem* profil =
+            arbre.findItems(QStringLiteral("naca2412.dat"), Qt::MatchRecursive).value(0);
+        QVERIFY(profil != nullptr);
+        arbre.expandAll();
+        QTest::mouseClick(arbre.viewport(), Qt::LeftButton, Qt::NoModifier,
+                          arbre.visualItemRect(profil).center());
+        QTRY_VERIFY(poste.Trouver<QWidget>("bandeauApercu").isVisible());
+        Reposer(poste);
+        QVERIFY2(MotsCoupes(*poste.fenetre).isEmpty(), qPrintable(MotsCoupes(*poste.fenetre).join(u' ')));
+        QVERIFY(essais::SauverImage(*poste.fenetre, QStringLiteral("frmTessarel2D-bibliotheque-") +
+                                                        QString::fromLatin1(QTest::currentDataTag())));
     }
 };
 

@@ -106,8 +106,6 @@ void frmTessarel2D::MontrerApercu(const std::string& chemin) {
     try {
         std::optional<ContenuFichier> contenu = LireSansBloquer(chemin, Parametres.DistNettoyage);
         if (!contenu) return;
-        if (contenu->ouverture.points == 0)
-            throw FauteLecture(chemin, 0, Texte(TexteProgramme::LectureSansTrace));
         apercu.contenu = std::move(*contenu);
     } catch (const Faute& faute) {
         DireErreurLecture(faute);
