@@ -2,7 +2,6 @@
 #include "work2d/espace2d.h"
 
 #include "app/texts/textes.h"
-#include "app/texts/textes_programme.h"
 #include "paths/fichier_projet.h"
 #include "platform/dialogue.h"
 #include "platform/fichiers.h"
@@ -92,8 +91,6 @@ ContenuFichier LireContenuFichier(const std::string& chemin, float distNettoyage
     ContenuFichier contenu = LireSelonExtension(chemin, distNettoyage);
     contenu.ouverture.sequences = contenu.sequences.size();
     for (const Sequence& sequence : contenu.sequences) contenu.ouverture.points += sequence.Points.size();
-    // No project without a path can be saved: such a file is damaged, or none of ours.
-    if (contenu.ouverture.points == 0) throw FauteLecture(chemin, 0, Texte(TexteProgramme::LectureSansTrace));
     return contenu;
 }
 

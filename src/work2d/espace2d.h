@@ -46,7 +46,7 @@ struct ContenuFichier {
     std::optional<Projet4axes> projet4axes;
 };
 
-// Reads a file of any kind that the program opens; one without any point is refused. FauteFichier, FauteLecture, FauteConversion.
+// Reads a file of any kind that the program opens. FauteFichier, FauteLecture, FauteConversion.
 ContenuFichier LireContenuFichier(const std::string& chemin, float distNettoyage);
 
 // The same, from whoever reads in a way of its own: nothing when the user gave up.

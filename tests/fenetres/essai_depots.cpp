@@ -73,10 +73,8 @@ private slots:
         QCOMPARE(Espace().TableauSequences.size(), std::size_t{1});
         QCOMPARE(Espace().cheminProjet, chemin);
         QCOMPARE(Espace().bloc.BlocX, 120.0F);
-        // The sibling program's projects are told apart by their name alone.
-        const std::string ancien = m_poste->dossier.Fichier("projet.qnt");
-        EcrireFichierAtomique(ancien, LireFichierEntier(chemin));
-        m_poste->Deposer({ancien});
+        m_poste->Deposer({std::string(TESSAREL_RACINE) + "/tests/paths/donnees/carre.qnt"});
+        QCOMPARE(Espace().bloc.BlocX, 100.0F);
         QCOMPARE(m_poste->Trouver<QLabel>("lblTypeFichierTS2D").text(), QStringLiteral("qnt"));
         QCOMPARE(Espace().cheminProjet, std::string());
     }

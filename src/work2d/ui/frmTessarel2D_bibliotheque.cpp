@@ -47,13 +47,10 @@ void frmTessarel2D::DisposerApercu() {
     bandeauApercu->setObjectName(QStringLiteral("bandeauApercu"));
     bandeauApercu->setFrameShape(QFrame::StyledPanel);
     bandeauApercu->setAutoFillBackground(true);
-    bandeauApercu->setBackgroundRole(QPalette::ToolTipBase);
-    bandeauApercu->setForegroundRole(QPalette::ToolTipText);
     auto* rangee = new QHBoxLayout(bandeauApercu);
     rangee->setContentsMargins(10, 3, 4, 3);
     lblApercu = new QLabel;
     lblApercu->setObjectName(QStringLiteral("lblApercu"));
-    lblApercu->setForegroundRole(QPalette::ToolTipText);
     rangee->addWidget(lblApercu);
     cmdOuvrirApercu = BoutonBandeau("cmdOuvrirApercu", rangee);
     cmdFermerApercu = BoutonBandeau("cmdFermerApercu", rangee);

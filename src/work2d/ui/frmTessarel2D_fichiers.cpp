@@ -81,20 +81,26 @@ std::vector<std::string> CheminsDeposes(const QMimeData& donnees) {
 } // namespace
 
 // A drawing is read beside the window, which stays alive; the user may give up, and then nothing is returned.
-// A project is read at once: its reader may have to ask, and boxes belong to the window's own thread.
+// A project is read at once: its reader may have to ask, and boxes belong to the window's own thread. A file
+// without a point is refused: there is nothing to show, and no work is given up for it.
 std::optional<ContenuFichier> frmTessarel2D::LireSansBloquer(const std::string& chemin, float tolerance) {
     std::optional<ContenuFichier> contenu = PrendreApercu(chemin, tolerance);
     if (contenu) return contenu;
     const std::string extension = ExtensionMinuscule(chemin);
     if (extension == "tsr" || extension == "qnt") {
         const Attente attente;
-        return LireContenuFichier(chemin, tolerance);
+        contenu = LireContenuFichier(chemin, tolerance);
+    } else {
+        const auto resultat = std::make_shared<ContenuFichier>();
+        const std::string quoi = TexteRempli(TexteProgramme::Fenetre2DLecture, {NomDuChemin(chemin)});
+        const bool fini = FaireEnArriere(*this, quoi, [resultat, chemin, tolerance] {
+            *resultat = LireContenuFichier(chemin, tolerance);
+        });
+        if (!fini) return std::nullopt;
+        contenu = std::move(*resultat);
     }
-    const auto resultat = std::make_shared<ContenuFichier>();
-    const bool fini =
-        FaireEnArriere(*this, TexteRempli(TexteProgramme::Fenetre2DLecture, {NomDuChemin(chemin)}),
-                       [resultat, chemin, tolerance] { *resultat = LireContenuFichier(chemin, tolerance); });
-    if (fini) contenu = std::move(*resultat);
+    if (contenu->ouverture.points == 0)
+        throw FauteLecture(chemin, 0, Texte(TexteProgramme::LectureSansTrace));
     return contenu;
 }
 
