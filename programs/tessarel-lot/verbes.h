@@ -34,8 +34,8 @@ using MotsChoix = std::vector<std::vector<std::string>>;
 CLI::Option* AjouterChoix(CLI::App& verbe, const std::string& option, int& valeur, const MotsChoix& mots,
                           const std::string& description);
 
-// Prints what a verb has to say; returns the exit status of it. A reader that has gone away is no failure, a full
-// disk is one, told on standard error.
+// Prints what a verb has to say; returns the exit status of it. A reader that has gone away is no failure, a
+// full disk is one, told on standard error.
 int Imprimer(std::string_view texte);
 
 // A refusal of the command line itself that the parser can't see: words that don't go together.
