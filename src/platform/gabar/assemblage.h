@@ -13,8 +13,8 @@ namespace tessarel {
 
 // Ends closer than this touch, mm.
 inline constexpr double ToleranceJonction = 0.001;
-// Coordinates beyond this are no drawing for a foam cutter but a damaged file, mm.
-inline constexpr double CoordonneeMax = 1e7;
+// Coordinates beyond this come from a damaged file, mm. Maps in world coordinates, in metres, stay within.
+inline constexpr double CoordonneeMax = 1e11;
 // A drawing of more points is refused: at 64 bytes a point along the way it would not fit in the memory
 // allowed.
 inline constexpr std::size_t PointsMaxDessin = 5'000'000;
