@@ -2,11 +2,9 @@
 #include "fenetres/poste_2d.h"
 #include "paths/fichier_projet.h"
 #include "paths/import.h"
-#include "platform/erreurs.h"
 
 #include <QLabel>
-
-#include <algorithm>
+#include <QStandardPaths>
 
 using namespace tessarel;
 using essais::Poste2D;
@@ -23,6 +21,10 @@ constexpr const char* Plt = "IN;SP1;PA0,0;PD400,0,400,400,0,400,0,0;PU;";
 constexpr const char* Eps = "%!PS-Adobe-3.0 EPSF-3.0\n%%BoundingBox: 0 0 30 30\n"
                             "0 0 moveto 28 0 lineto 28 28 lineto 0 28 lineto closepath stroke\nshowpage\n";
 
+constexpr const char* Cpx = "[Emplanture]\n0;0\n100;10\n60;-4\n0;0\n[Saumon]\n0;0\n50;5\n30;-2\n0;0\n";
+constexpr const char* Fc = "[Emplanture]\nCommentaire=aile\n0;0\n100;10\n60;-4\n0;0\n"
+                           "[Saumon]\n0;0\n50;5\n30;-2\n0;0\n";
+
 } // namespace
 
 class EssaiDepots : public QObject {
@@ -37,8 +39,9 @@ private slots:
     void UnDessinDeposeEntreDansLeProjet_data() {
         QTest::addColumn<QString>("nom");
         QTest::addColumn<QString>("contenu");
-        const auto ajouter = [](const char* nom, const char* contenu) {
-            QTest::addRow("%s", nom) << QString::fromLatin1(nom) << QString::fromLatin1(contenu);
+        QTest::addColumn<int>("traces");
+        const auto ajouter = [](const char* nom, const char* contenu, int traces = 1) {
+            QTest::addRow("%s", nom) << QString::fromLatin1(nom) << QString::fromLatin1(contenu) << traces;
         };
         ajouter("carre.dxf", Dxf);
         ajouter("CARRE.DXF", Dxf);
@@ -46,16 +49,21 @@ private slots:
         ajouter("PROFIL.DAT", Dat);
         ajouter("carre.plt", Plt);
         ajouter("carre.eps", Eps);
+        ajouter("aile.cpx", Cpx, 2);
+        ajouter("aile.fc", Fc, 2);
         ajouter("rectangle.txt", RectangleTexte);
         ajouter("rectangle.TXT", RectangleTexte);
     }
     void UnDessinDeposeEntreDansLeProjet() {
         QFETCH(QString, nom);
         QFETCH(QString, contenu);
+        QFETCH(int, traces);
         const std::string chemin = m_poste->Fichier(nom.toStdString(), contenu.toStdString());
-        if (!Lisible(chemin)) QSKIP("no reader for this kind");
+        const bool lisible = !nom.endsWith(QStringLiteral(".eps")) ||
+                             !QStandardPaths::findExecutable(QStringLiteral("gs")).isEmpty();
+        if (!lisible) QSKIP("Ghostscript is not installed");
         m_poste->Deposer({chemin});
-        QTRY_COMPARE(Espace().TableauSequences.size(), std::size_t{1});
+        QTRY_COMPARE(Espace().TableauSequences.size(), static_cast<std::size_t>(traces));
         QVERIFY(Espace().TableauSequences[0].Points.size() >= 4);
         QVERIFY(Espace().modifie);
         QVERIFY(m_poste->boites.boites.empty());
@@ -95,16 +103,6 @@ private slots:
 
 private:
     [[nodiscard]] const Espace2D& Espace() const { return m_poste->fenetre->Espace(); }
-    // False only where the program has no reader for the kind, or what reads it is not installed.
-    [[nodiscard]] static bool Lisible(const std::string& chemin) {
-        try {
-            return !LireDessin(chemin, 0.02F).sequences.empty();
-        } catch (const Faute&) {
-            const std::string genre = ExtensionMinuscule(chemin);
-            return genre != "plt" && genre != "eps";
-        }
-    }
-
     std::unique_ptr<Poste2D> m_poste;
 };
 

@@ -81,9 +81,9 @@ QTreeWidgetItem* Noeud(const std::string& nom, const std::string& chemin, bool f
     return noeud;
 }
 
-QSet<QByteArray> CheminsOuverts(const QTreeWidget& arbre) {
+QSet<QByteArray> CheminsOuverts(QTreeWidget& arbre) {
     QSet<QByteArray> ouverts;
-    for (QTreeWidgetItemIterator i(const_cast<QTreeWidget*>(&arbre)); *i != nullptr; ++i) {
+    for (QTreeWidgetItemIterator i(&arbre); *i != nullptr; ++i) {
         if ((*i)->isExpanded()) ouverts.insert(CheminDe(*i));
     }
     return ouverts;
@@ -99,6 +99,9 @@ void ListerDossiers(const DossierBibliotheque& dossier, QStringList& chemins) {
 
 PanneauBibliotheque::PanneauBibliotheque(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("frameBibliotheque"));
+    m_iconeDossier = Icone(QStringLiteral("dossier"));
+    m_iconeProjet = Icone(QStringLiteral("projet"));
+    m_iconeDessin = Icone(QStringLiteral("dessin"));
     Disposer();
     Relier();
 }
@@ -217,19 +220,17 @@ void PanneauBibliotheque::RemplirArbreBibliotheque(const std::string& nomFichier
 }
 
 void PanneauBibliotheque::AjouterDossierArbre(const DossierBibliotheque& dossier, QTreeWidgetItem& noeud) {
-    static const QIcon iconeDossier = Icone(QStringLiteral("dossier"));
-    static const QIcon iconeProjet = Icone(QStringLiteral("projet"));
-    static const QIcon iconeDessin = Icone(QStringLiteral("dessin"));
     QList<QTreeWidgetItem*> enfants;
     enfants.reserve(static_cast<qsizetype>(dossier.dossiers.size() + dossier.fichiers.size()));
     for (const DossierBibliotheque& suivant : dossier.dossiers) {
-        enfants << Noeud(suivant.nom, suivant.chemin, false, iconeDossier);
+        enfants << Noeud(suivant.nom, suivant.chemin, false, m_iconeDossier);
         AjouterDossierArbre(suivant, *enfants.back());
     }
     for (const std::string& nom : dossier.fichiers) {
         const std::string extension = ExtensionMinuscule(nom);
         const bool projet = extension == "tsr" || extension == "qnt";
-        enfants << Noeud(nom, JoindreChemin(dossier.chemin, nom), true, projet ? iconeProjet : iconeDessin);
+        enfants << Noeud(nom, JoindreChemin(dossier.chemin, nom), true,
+                         projet ? m_iconeProjet : m_iconeDessin);
     }
     noeud.addChildren(enfants);
 }

@@ -2,12 +2,12 @@
 #pragma once
 
 #include <QFileSystemWatcher>
+#include <QIcon>
 #include <QTimer>
 #include <QWidget>
 #include <string>
 
 class QByteArray;
-class QIcon;
 class QLabel;
 class QToolButton;
 class QTreeWidget;
@@ -57,6 +57,9 @@ private:
     QToolButton* cmdImporterProfil = nullptr;
     QToolButton* cmdEffacerFichier = nullptr;
     QLabel* lblFichierExterieur = nullptr;
+    QIcon m_iconeDossier;
+    QIcon m_iconeProjet;
+    QIcon m_iconeDessin;
     QFileSystemWatcher m_surveillance;
     QTimer m_attenteChangement; // a burst of changes is one
     std::string m_fichierCourant;
