@@ -16,8 +16,8 @@ struct DureeDecomposee {
 };
 DureeDecomposee DecomposerDuree(int secondes);
 
-// "<d>j<h>h<m>min<s>s" with leading fields left out when zero, each number after a blank: " 1min 5s". The words
-// come from the text tables.
+// "<d>j<h>h<m>min<s>s" with leading fields left out when zero, each number after a blank: " 1min 5s". The
+// words come from the text tables.
 std::string TexteDureeGcode(int secondes);
 
 } // namespace tessarel

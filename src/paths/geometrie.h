@@ -15,7 +15,8 @@ std::int32_t ReductionPointsAlignes(std::vector<PointSimple>& points, float dist
 // Scratch bit of `Drapeaux` that marks a kept point.
 inline constexpr std::uint16_t DrapeauConserve = 128;
 
-// The same walk on 64-bit coordinates: sets the scratch bit on the points that would be kept, removes nothing.
+// The same walk on 64-bit coordinates: sets the scratch bit on the points that would be kept, removes
+// nothing.
 void MarquerPointsConserves(std::vector<PointProfil>& points, float tolerance);
 
 // Results of IntersectionSegments. A is (x0,y0)-(x1,y1), B is (x2,y2)-(x3,y3).
@@ -29,7 +30,7 @@ enum class Croisement : std::int16_t {
     FinB = 6,
 };
 
-Croisement IntersectionSegments(float x0, float y0, float x1, float y1, float x2, float y2, float x3, float y3,
-                                float& x, float& y);
+Croisement IntersectionSegments(float x0, float y0, float x1, float y1, float x2, float y2, float x3,
+                                float y3, float& x, float& y);
 
 } // namespace tessarel

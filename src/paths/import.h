@@ -15,7 +15,7 @@ struct DessinImporte {
     std::vector<Sequence> sequences; // with bounds; thinned
     std::string extension;           // lower case
     RapportLecture rapport;
-    std::size_t pointsRetires = 0;   // by the thinning
+    std::size_t pointsRetires = 0; // by the thinning
 };
 
 // The nine extensions that the program opens, lower case, in the order of its filters.
@@ -25,8 +25,8 @@ const std::vector<std::string>& ExtensionsConnues();
 // `distNettoyage` (mm). FauteFichier, FauteLecture; FauteLecture also for an extension that is not known.
 DessinImporte LireDessin(const std::string& chemin, float distNettoyage);
 
-// The array of the file library as sequences: split where the code changes; a DAT table is put in order by its
-// leading edge; doubles of two points shrink; each is thinned unless it comes from a project.
+// The array of the file library as sequences: split where the code changes; a DAT table is put in order by
+// its leading edge; doubles of two points shrink; each is thinned unless it comes from a project.
 std::vector<Sequence> CreerSequencesDepuisPoints(const std::vector<PointSimple>& points,
                                                  const std::string& extension, float distNettoyage,
                                                  std::size_t* pointsRetires = nullptr);

@@ -26,9 +26,9 @@ struct Projet2D {
     std::vector<Sequence> TableauSequences; // the paths as placed on the table
     float BlocX = 0;                        // mm
     float BlocY = 0;
-    std::optional<int> TypeEntree;          // 0 origin side, 1 from above, 2 far side
+    std::optional<int> TypeEntree; // 0 origin side, 1 from above, 2 far side
     std::optional<int> TypeSortie;
-    std::optional<int> VitesseApproche;     // 0 cutting speed, 1 rapid; written, never read back: deliberate
+    std::optional<int> VitesseApproche; // 0 cutting speed, 1 rapid; written, never read back: deliberate
     std::optional<int> VitesseRetour;
 };
 
@@ -48,8 +48,8 @@ struct Projet4axes {
     double MargeBaE = 0, MargeBaS = 0; // leading edge margins, root and tip
     double MargeBfE = 0, MargeBfS = 0; // trailing edge
     double DistProfilDessousE = 0;
-    int Omega = 0, Alpha = 0;  // view angles
-    std::string Commentaire;   // lines joined by CR LF, at most 256 characters
+    int Omega = 0, Alpha = 0; // view angles
+    std::string Commentaire;  // lines joined by CR LF, at most 256 characters
     int TypeEntree = 0, TypeApprocheBF = 0, TypeSortie = 0, TypeRetourBF = 0;
     int SortieIntermediaire = 0;
     int CurseurSortieIntermediaire = 0, CurseurSortieIntermediaire2 = 0;

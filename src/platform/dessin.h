@@ -1,5 +1,5 @@
-// A picture as a flat list of strokes, areas and labels in millimetres, Y upwards: made by an engine, painted by a
-// canvas or into an image file. It knows nothing of windows.
+// A picture as a flat list of strokes, areas and labels in millimetres, Y upwards: made by an engine, painted
+// by a canvas or into an image file. It knows nothing of windows.
 #pragma once
 
 #include <cstdint>

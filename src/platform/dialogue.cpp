@@ -12,10 +12,13 @@ ReponseBoite RepondreSurErreurStandard(const Boite& boite) {
     const std::string ligne = BoiteEnUneLigne(boite) + "\n";
     std::fputs(ligne.c_str(), stderr);
     switch (boite.boutons) {
-    case BoutonsBoite::Ok: return ReponseBoite::Ok;
-    case BoutonsBoite::OuiNon: return ReponseBoite::Non;
+    case BoutonsBoite::Ok:
+        return ReponseBoite::Ok;
+    case BoutonsBoite::OuiNon:
+        return ReponseBoite::Non;
     case BoutonsBoite::OkAnnuler:
-    case BoutonsBoite::OuiNonAnnuler: break;
+    case BoutonsBoite::OuiNonAnnuler:
+        break;
     }
     return ReponseBoite::Annuler;
 }
@@ -32,7 +35,9 @@ AfficheurBoite InstallerAfficheurBoite(AfficheurBoite afficheur) {
     return std::exchange(AfficheurCourant(), std::move(afficheur));
 }
 
-ReponseBoite AfficherBoite(const Boite& boite) { return AfficheurCourant()(boite); }
+ReponseBoite AfficherBoite(const Boite& boite) {
+    return AfficheurCourant()(boite);
+}
 
 void AfficherInformation(const std::string& texte, const std::string& titre) {
     AfficherBoite({texte, titre, IconeBoite::Information, BoutonsBoite::Ok});

@@ -1,5 +1,6 @@
-// Message boxes as seen from below: a text, a title, an icon, buttons, and an answer. Who shows them is chosen by
-// the program: a window in the desktop program, a line on standard error in the batch one, a list in tests.
+// Message boxes as seen from below: a text, a title, an icon, buttons, and an answer. Who shows them is
+// chosen by the program: a window in the desktop program, a line on standard error in the batch one, a list
+// in tests.
 #pragma once
 
 #include <functional>
@@ -36,7 +37,8 @@ void AfficherCritique(const std::string& texte, const std::string& titre);
 bool DemanderOuiNon(const std::string& texte, const std::string& titre,
                     IconeBoite icone = IconeBoite::Question);
 
-// One line "title: text" for a stream or a log: line ends become single blanks, an empty title drops the colon.
+// One line "title: text" for a stream or a log: line ends become single blanks, an empty title drops the
+// colon.
 std::string BoiteEnUneLigne(const Boite& boite);
 
 } // namespace tessarel

@@ -7,7 +7,9 @@ namespace tessarel {
 
 namespace {
 
-Instant HorlogeSysteme() { return std::chrono::steady_clock::now().time_since_epoch(); }
+Instant HorlogeSysteme() {
+    return std::chrono::steady_clock::now().time_since_epoch();
+}
 
 SourceTemps& SourceCourante() {
     static SourceTemps source = HorlogeSysteme;
@@ -16,7 +18,9 @@ SourceTemps& SourceCourante() {
 
 } // namespace
 
-Instant Maintenant() { return SourceCourante()(); }
+Instant Maintenant() {
+    return SourceCourante()();
+}
 
 SourceTemps InstallerHorloge(SourceTemps source) {
     if (!source) source = HorlogeSysteme;

@@ -18,6 +18,8 @@ void LaisserPasserEvenements() {
     if (PompeCourante()) PompeCourante()();
 }
 
-Pompe InstallerPompe(Pompe pompe) { return std::exchange(PompeCourante(), std::move(pompe)); }
+Pompe InstallerPompe(Pompe pompe) {
+    return std::exchange(PompeCourante(), std::move(pompe));
+}
 
 } // namespace tessarel

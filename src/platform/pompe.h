@@ -1,4 +1,5 @@
-// The event pump: long loops of an engine let the user's events run between two steps without knowing windows.
+// The event pump: long loops of an engine let the user's events run between two steps without knowing
+// windows.
 #pragma once
 
 #include <functional>

@@ -40,7 +40,8 @@ bool SurUnEcran(const QRect& place) {
 } // namespace
 
 void PlacerFenetre(QWidget& fenetre) {
-    const int etat = static_cast<int>(std::clamp(LireNombreIni(SectionParametres, "WindowState", "2"), 0.0, 2.0));
+    const int etat =
+        static_cast<int>(std::clamp(LireNombreIni(SectionParametres, "WindowState", "2"), 0.0, 2.0));
     if (etat == EtatNormal) {
         const QRect place(LirePixels("FenetreLeft"), LirePixels("FenetreTop"), LirePixels("FenetreWidth"),
                           LirePixels("FenetreHeight"));

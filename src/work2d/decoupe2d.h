@@ -16,7 +16,7 @@ enum class CoteDecalage2D : int { Aucun = 0, Gauche = 1, Droite = 2 };
 struct OptionsDecoupe2D {
     float BlocX = 0; // mm
     float BlocY = 0;
-    int TypeEntree = 0;          // 0 origin side, 1 from above, 2 far side
+    int TypeEntree = 0; // 0 origin side, 1 from above, 2 far side
     int TypeSortie = 0;
     bool approcheRapide = false;
     bool retourRapide = false;

@@ -64,8 +64,8 @@ void PasserBord(const std::vector<Sommet>& source, std::vector<Sommet>& resultat
         const PointProfil& q = source[i + 1].point;
         float x = 0;
         float y = 0;
-        const Croisement code = IntersectionSegments(EnSimple(p.X), EnSimple(p.Y), EnSimple(q.X), EnSimple(q.Y),
-                                                     bord.x0, bord.y0, bord.x1, bord.y1, x, y);
+        const Croisement code = IntersectionSegments(EnSimple(p.X), EnSimple(p.Y), EnSimple(q.X),
+                                                     EnSimple(q.Y), bord.x0, bord.y0, bord.x1, bord.y1, x, y);
         if (code == Croisement::Propre) {
             Sommet croisement;
             croisement.point.X = bord.vertical ? bord.x0 : x;

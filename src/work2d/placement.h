@@ -10,7 +10,7 @@ namespace tessarel {
 
 // The three rules of the placing, and the inner margins of the block (mm).
 struct ReglesPlacement {
-    bool ajuster = false;  // scale the paths to the block
+    bool ajuster = false; // scale the paths to the block
     bool centrerX = false;
     bool centrerY = false;
     float margeX = 5;
@@ -28,8 +28,8 @@ Bloc BlocParDefaut(const TableMachine& table);
 Bloc LimiterBlocSaisi(Bloc bloc, const TableMachine& table);
 Bloc LimiterBlocOuvert(Bloc bloc, const TableMachine& table);
 
-// Applies the rules in their order; `coeffTransf` is the running product of the factors, 1 again when the paths are
-// not scaled. Two sizes of zero show the told box and leave the paths.
+// Applies the rules in their order; `coeffTransf` is the running product of the factors, 1 again when the
+// paths are not scaled. Two sizes of zero show the told box and leave the paths.
 void AjusterAuBloc(std::vector<Sequence>& sequences, const Bloc& bloc, const ReglesPlacement& regles,
                    const TableMachine& table, float& coeffTransf);
 // Sizes the block on the paths (at least 10 mm each way), then places them by the rules.

@@ -14,15 +14,20 @@ BoitesEnregistrees::BoitesEnregistrees() {
             return reponse;
         }
         switch (boite.boutons) {
-        case BoutonsBoite::Ok: return ReponseBoite::Ok;
-        case BoutonsBoite::OuiNon: return ReponseBoite::Non;
+        case BoutonsBoite::Ok:
+            return ReponseBoite::Ok;
+        case BoutonsBoite::OuiNon:
+            return ReponseBoite::Non;
         case BoutonsBoite::OkAnnuler:
-        case BoutonsBoite::OuiNonAnnuler: break;
+        case BoutonsBoite::OuiNonAnnuler:
+            break;
         }
         return ReponseBoite::Annuler;
     });
 }
 
-BoitesEnregistrees::~BoitesEnregistrees() { InstallerAfficheurBoite(std::move(m_ancien)); }
+BoitesEnregistrees::~BoitesEnregistrees() {
+    InstallerAfficheurBoite(std::move(m_ancien));
+}
 
 } // namespace tessarel::essais

@@ -160,7 +160,7 @@ TEST(Aile, LaListeAEgauxSeLitDeMeme) {
 TEST(Aile, CeQuiNeSeLitPasNommeSaLigne) {
     EXPECT_EQ(LigneFautive("[Emplanture]\n0;0\n1;x\n"), 3);
     EXPECT_EQ(LigneFautive("[Emplanture]\n0;0\n12\n"), 3);
-    EXPECT_EQ(LigneFautive("1;2\n"), 1);             // in no section
+    EXPECT_EQ(LigneFautive("1;2\n"), 1);              // in no section
     EXPECT_EQ(LigneFautive("[Saumon]\n1e12;2\n"), 2); // a million km
     EXPECT_EQ(LigneFautive("Envergure;large\n"), 1);
     EXPECT_EQ(LigneFautive("[Saumon]\nVrillage;1e308\n"), 2);
