@@ -1,6 +1,8 @@
 // Any bytes as a DXF: read, or refused with a sentence; what is read keeps the promises of the reader.
 #include "platform/erreurs.h"
+#include "platform/gabar/assemblage.h"
 #include "platform/gabar/lecture.h"
+#include "platform/nombres.h"
 
 #include <cmath>
 #include <cstddef>
@@ -20,7 +22,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     }
     if (points.empty() || rapport.lus.empty()) std::abort();
     for (const PointSimple& p : points)
-        if (!(std::abs(p.X) <= 1e7F && std::abs(p.Y) <= 1e7F)) std::abort();
+        if (!(std::abs(p.X) <= EnSimple(CoordonneeMax) && std::abs(p.Y) <= EnSimple(CoordonneeMax)))
+            std::abort();
     const bool plusieurs = points.front().CodeSequence != points.back().CodeSequence;
     if (plusieurs && points.front().CodeSequence < points.back().CodeSequence) std::abort();
     // What was read can be written and read again.

@@ -1,7 +1,9 @@
 // Any bytes as a plotter file: read, or refused with a sentence; what is read keeps the promises of the
 // reader.
 #include "platform/erreurs.h"
+#include "platform/gabar/assemblage.h"
 #include "platform/gabar/lecture.h"
+#include "platform/nombres.h"
 
 #include <cmath>
 #include <cstddef>
@@ -21,7 +23,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     }
     if (points.empty() || rapport.lus.empty()) std::abort();
     for (const PointSimple& p : points)
-        if (!(std::abs(p.X) <= 1e7F && std::abs(p.Y) <= 1e7F)) std::abort();
+        if (!(std::abs(p.X) <= EnSimple(CoordonneeMax) && std::abs(p.Y) <= EnSimple(CoordonneeMax)))
+            std::abort();
     // No polyline of a single point, and the codes in their order.
     for (std::size_t i = 0; i < points.size(); ++i) {
         const bool debut = i == 0 || points[i - 1].CodeSequence != points[i].CodeSequence;
