@@ -9,6 +9,7 @@
 #include "dossiers_programme.h"
 #include "link/etat_interface.h"
 #include "machine/matieres.h"
+#include "paths/tables_degres.h"
 #include "platform/dialogue.h"
 #include "platform/dossiers.h"
 #include "platform/erreurs.h"
@@ -137,6 +138,7 @@ EtatDemarrage Demarrer(const OptionsDemarrage& options) {
     Etape("AffichageSplashEtTestsZelko",
           [&] { etat.Splash = AffichageSplashEtTestsZelko(options.Memoires); });
     MouvementsActifs = etat.Splash.Mouvements;
+    TablesTrigonometriques();
     etat.FocusSur2D = Parametres.OngletActif == OngletTS2D;
     return etat;
 }

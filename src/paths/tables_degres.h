@@ -1,0 +1,17 @@
+// Sines and cosines of whole degrees, computed once.
+#pragma once
+
+#include <array>
+
+namespace tessarel {
+
+// Entry d, 0 to 360, holds the value for (d - 180) degrees.
+struct TablesDegres {
+    std::array<double, 361> sinus = {};
+    std::array<double, 361> cosinus = {};
+};
+
+// The tables; the first call, made at start-up, fills them.
+const TablesDegres& TablesTrigonometriques();
+
+} // namespace tessarel
