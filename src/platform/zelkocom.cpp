@@ -22,6 +22,7 @@ struct Bibliotheque {
     FonctionEnvoi envoyer = nullptr;
     std::int32_t versionLue = 0;
     std::string origine;
+    FonctionsZelkoCom remplacante; // in place of a file, where it has an Envoyer
 };
 
 Bibliotheque& Courante() {
@@ -81,9 +82,16 @@ void LibererZelkoCom() {
     b = Bibliotheque{};
 }
 
+void RemplacerZelkoCom(FonctionsZelkoCom fonctions) {
+    LibererZelkoCom();
+    Bibliotheque& b = Courante();
+    b.versionLue = fonctions.Version;
+    b.remplacante = std::move(fonctions);
+}
+
 EtatBibliotheque EtatZelkoCom() {
     const Bibliotheque& b = Courante();
-    if (b.poignee == nullptr) return EtatBibliotheque::Absente;
+    if (b.poignee == nullptr && !b.remplacante.Envoyer) return EtatBibliotheque::Absente;
     return b.versionLue < VersionMinimaleZelko ? EtatBibliotheque::TropVieille : EtatBibliotheque::Presente;
 }
 
@@ -96,19 +104,23 @@ std::int32_t Zelko_Dll_Version() {
 }
 
 std::int32_t Zelko_Open() {
+    if (Courante().remplacante.Envoyer) return ResultatZelkoSucces;
     return Utilisable() ? Courante().ouvrir() : ResultatZelkoBibliothequeAbsente;
 }
 
 std::int32_t Zelko_Close() {
+    if (Courante().remplacante.Envoyer) return ResultatZelkoSucces;
     return Utilisable() ? Courante().fermer() : ResultatZelkoBibliothequeAbsente;
 }
 
 std::int32_t Zelko_IsConnected() {
+    if (Courante().remplacante.Envoyer) return Utilisable() ? Courante().remplacante.EstBranchee() : 0;
     return Utilisable() ? Courante().branchee() : 0;
 }
 
 std::int32_t Zelko_Send(Tampon& tampon) {
     if (!Utilisable()) return ResultatZelkoBibliothequeAbsente;
+    if (Courante().remplacante.Envoyer) return Courante().remplacante.Envoyer(tampon);
     std::int32_t reserve = 0; // asked for by the library, never read
     return Courante().envoyer(tampon.data(), &reserve);
 }

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -34,6 +35,14 @@ std::vector<std::string> DossiersZelkoCom();
 // library loaded before is let go.
 EtatBibliotheque ChargerZelkoCom(const std::vector<std::string>& dossiers);
 void LibererZelkoCom();
+// A box in place of the library, reached through these three: tests and a demonstration put the virtual one
+// here. It stands, in state Presente, until LibererZelkoCom or the next load; all three must be callable.
+struct FonctionsZelkoCom {
+    std::int32_t Version = VersionMinimaleZelko;
+    std::function<std::int32_t()> EstBranchee;
+    std::function<std::int32_t(Tampon&)> Envoyer;
+};
+void RemplacerZelkoCom(FonctionsZelkoCom fonctions);
 EtatBibliotheque EtatZelkoCom();
 // The file that was loaded, or why none was: for the information window and for bug reports.
 const std::string& OrigineZelkoCom();
