@@ -7,10 +7,6 @@ namespace tessarel {
 
 namespace {
 
-// Deliberate: the fifteen digits that every angle of the program is computed with; the nearest double to pi
-// would move the last digits of what is drawn from these tables.
-constexpr double Pi = 3.14159265358979;
-
 TablesDegres Remplir() {
     TablesDegres tables;
     for (std::size_t d = 0; d < tables.sinus.size(); ++d) {

@@ -5,6 +5,10 @@
 
 namespace tessarel {
 
+// Deliberate: the fifteen digits that every angle of the program is computed with; the nearest double to pi
+// would move the last digits of what is drawn and measured with it.
+inline constexpr double Pi = 3.14159265358979;
+
 // Entry d, 0 to 360, holds the value for (d - 180) degrees.
 struct TablesDegres {
     std::array<double, 361> sinus = {};

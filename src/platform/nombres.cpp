@@ -298,6 +298,17 @@ double PartieEntiere(double valeur) {
     return std::floor(valeur);
 }
 
+double DecimalSimple(float valeur) {
+    constexpr int chiffres = 7;
+    std::array<char, 32> tampon;
+    const auto ecrit =
+        std::to_chars(tampon.data(), tampon.data() + tampon.size(), static_cast<double>(valeur),
+                      std::chars_format::scientific, chiffres - 1);
+    double decimal = 0;
+    std::from_chars(tampon.data(), ecrit.ptr, decimal);
+    return decimal;
+}
+
 std::int16_t CompteurInteger(std::size_t compte, const std::string& message) {
     if (compte > 32767) throw FauteDepassement(message);
     return static_cast<std::int16_t>(compte);

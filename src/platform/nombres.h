@@ -74,6 +74,8 @@ double PartieEntiere(double valeur);
 inline float EnSimple(double valeur) {
     return static_cast<float>(valeur);
 }
+// The decimal value of seven significant digits that a value held in 32 bits stands for: 40.1F gives 40.1.
+double DecimalSimple(float valeur);
 // A count through a 16-bit signed counter; FauteDepassement with `message` above 32767.
 std::int16_t CompteurInteger(std::size_t compte, const std::string& message);
 

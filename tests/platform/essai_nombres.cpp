@@ -155,6 +155,14 @@ TEST(LireTeteNumerique, CaracteresPris) {
         EXPECT_EQ(prend(rien), 0U) << rien;
 }
 
+TEST(DecimalSimple, LesSeptChiffresQueLaValeurMontre) {
+    EXPECT_EQ(DecimalSimple(40.1F), 40.1);
+    EXPECT_EQ(DecimalSimple(-0.05F), -0.05);
+    EXPECT_EQ(DecimalSimple(123456.789F), 123456.8);
+    EXPECT_EQ(DecimalSimple(16777216.0F), 16777220.0);
+    EXPECT_EQ(DecimalSimple(0.0F), 0.0);
+}
+
 TEST(Arrondis, DemisVersLePair) {
     EXPECT_EQ(Arrondi(0.5), 0);
     EXPECT_EQ(Arrondi(1.5), 2);
