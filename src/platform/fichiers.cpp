@@ -137,11 +137,36 @@ std::string EnUtf8(std::string octets) {
         if (octets.starts_with("\xEF\xBB\xBF")) octets.erase(0, 3);
         return octets;
     }
+    return Windows1252EnUtf8(octets);
+}
+
+std::string Windows1252EnUtf8(std::string_view octets) {
     std::string sortie;
     sortie.reserve(octets.size() + octets.size() / 8);
     for (const char c : octets) {
         const auto octet = static_cast<unsigned char>(c);
         AjouterUtf8(sortie, octet >= 0x80 && octet < 0xA0 ? Cp1252[octet - 0x80U] : octet);
+    }
+    return sortie;
+}
+
+std::string EnWindows1252(std::string_view utf8) {
+    std::string sortie;
+    for (std::size_t i = 0; i < utf8.size();) {
+        const std::size_t n = LongueurUtf8(utf8, i);
+        unsigned code = n == 1 ? static_cast<unsigned char>(utf8[i]) : 0;
+        if (n >= 2) {
+            code = static_cast<unsigned char>(utf8[i]) & (0xFFU >> (n + 1));
+            for (std::size_t j = 1; j < n; ++j)
+                code = (code << 6U) | (static_cast<unsigned char>(utf8[i + j]) & 0x3FU);
+        }
+        const auto haut = std::ranges::find(Cp1252, code);
+        if (haut != Cp1252.end())
+            sortie += static_cast<char>(0x80 + (haut - Cp1252.begin()));
+        else
+            sortie +=
+                n != 0 && (code < 0x80 || (code >= 0xA0 && code <= 0xFF)) ? static_cast<char>(code) : '?';
+        i += n != 0 ? n : 1;
     }
     return sortie;
 }

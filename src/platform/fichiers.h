@@ -22,6 +22,10 @@ std::string LireDebutFichier(const std::string& chemin, std::size_t nombre);
 // The same text as UTF-8: taken as it is when the bytes are valid UTF-8 (a byte-order mark is dropped), else
 // read as Windows-1252. Moves when nothing has to change.
 std::string EnUtf8(std::string octets);
+// Characters of one byte each, where the bytes are known to be such: Windows-1252 to UTF-8 and back; what has
+// no place there becomes '?'.
+std::string Windows1252EnUtf8(std::string_view octets);
+std::string EnWindows1252(std::string_view utf8);
 
 // Puts `octets` in the place of the file in one step: written beside it, flushed to the disk, then moved over
 // it. FauteFichier on any failure, with the old file untouched and nothing left beside it.

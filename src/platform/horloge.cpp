@@ -1,6 +1,7 @@
 // The clock as the program reads it.
 #include "horloge.h"
 
+#include <thread>
 #include <utility>
 
 namespace tessarel {
@@ -25,6 +26,11 @@ Instant Maintenant() {
 SourceTemps InstallerHorloge(SourceTemps source) {
     if (!source) source = HorlogeSysteme;
     return std::exchange(SourceCourante(), std::move(source));
+}
+
+void Patienter(Instant duree) {
+    const auto* deLaMaison = SourceCourante().target<Instant (*)()>();
+    if (deLaMaison != nullptr && *deLaMaison == &HorlogeSysteme) std::this_thread::sleep_for(duree);
 }
 
 } // namespace tessarel

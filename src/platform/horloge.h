@@ -13,5 +13,7 @@ using SourceTemps = std::function<Instant()>;
 Instant Maintenant();
 // Replaces the clock; returns the one replaced. An empty function restores the system's monotonic clock.
 SourceTemps InstallerHorloge(SourceTemps source);
+// Sleeps for that long. Does not while another clock is installed: its owner decides how time goes by.
+void Patienter(Instant duree);
 
 } // namespace tessarel

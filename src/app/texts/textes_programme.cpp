@@ -106,6 +106,16 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
      "The default machine will be loaded."},
     {TexteProgramme::MachineParDefautChargeeTitre, "Machine par défaut", "Default machine"},
 
+    // The interface box
+    {TexteProgramme::FilPeutEtreChaud,
+     "L'interface n'a pas confirmé l'arrêt de la chauffe : le fil est peut-être encore chaud.\r\n"
+     "Coupez l'alimentation de la chauffe à la main avant d'approcher du fil.",
+     "The interface has not confirmed that the heating is off: the wire may still be hot.\r\n"
+     "Switch the power of the heating off by hand before you go near the wire."},
+    {TexteProgramme::TableHorsFormatTitre, "La table %1 n'est pas envoyée", "Table %1 is not sent"},
+    {TexteProgramme::TableHorsFormat, "La valeur de %1 ne tient pas dans une mémoire de l'interface.",
+     "The value of %1 does not fit a memory of the interface."},
+
     // Projects
     {TexteProgramme::FiltreProjet, "Projet Tessarel(*.tsr)|*.tsr|Tous les fichiers (*.*)|*.*",
      "Tessarel project (*.tsr)|*.tsr|All files (*.*)|*.*"},

@@ -42,6 +42,11 @@ enum class TexteProgramme {
     MachineParDefautChargee,
     MachineParDefautChargeeTitre,
 
+    // The interface box
+    FilPeutEtreChaud,
+    TableHorsFormatTitre, // %1 machine
+    TableHorsFormat,      // %1 key
+
     // Projects
     FiltreProjet,
     CommentaireTropLong,

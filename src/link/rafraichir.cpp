@@ -1,0 +1,58 @@
+// The refresh of the connection, step by step.
+#include "rafraichir.h"
+
+#include "app/settings/gestion_ini.h"
+#include "app/texts/textes_programme.h"
+#include "echange.h"
+#include "memoires.h"
+#include "platform/dialogue.h"
+
+namespace tessarel {
+
+namespace {
+
+void RechargerMachine() {
+    constexpr const char* parDefaut = "(Defaut)";
+    // A copy: the load replaces the record that holds the name.
+    const std::string nom = TableINI.Nom.empty() ? parDefaut : TableINI.Nom;
+    if (ChargerMachine(nom) == StatutSucces) return;
+    AfficherInformation(Texte(TexteProgramme::MachineParDefautChargee),
+                        Texte(TexteProgramme::MachineParDefautChargeeTitre));
+    EcrireMachineUtilisee(parDefaut);
+    ChargerMachine(parDefaut);
+}
+
+// The number of the memory that was made active, -1 for none.
+int ChargerMemoireQuiCorrespond() {
+    for (int i = 0; i < NombreMemoires; ++i) {
+        const TableMachine& memoire = MemoiresZelko[static_cast<std::size_t>(i)];
+        if (memoire.Nom != TableINI.Nom || !ComparerMachineEtZelko(TableINI, memoire)) continue;
+        TableINI.NumeroMemoire = static_cast<std::uint8_t>(i);
+        if (ChargerMemoireEnRam(i)) return i;
+        SignalerErreurInterface("RafraichirUsb");
+        InterfaceConnectee = false;
+        return -1;
+    }
+    return -1;
+}
+
+} // namespace
+
+EtatLiaison RafraichirUsb(const std::string& mode) {
+    RechargerMachine();
+    EtatLiaison etat;
+    etat.Mode = mode;
+    etat.NomMachine = TableINI.Nom;
+    MouvementsActifs = false;
+    if (!TesterInterface()) return etat;
+    for (int i = 0; i < NombreMemoires; ++i) LireMemoireZelko(MemoiresZelko[static_cast<std::size_t>(i)], i);
+    etat.Memoire = ChargerMemoireQuiCorrespond();
+    MouvementsActifs = etat.Memoire >= 0;
+    if (MouvementsActifs)
+        etat.Liaison = LiaisonZelko::MouvementsActifs;
+    else if (InterfaceConnectee)
+        etat.Liaison = LiaisonZelko::SansCorrespondance;
+    return etat;
+}
+
+} // namespace tessarel
