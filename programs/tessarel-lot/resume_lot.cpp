@@ -39,6 +39,14 @@ std::string TexteLecture(const LectureLot& lecture) {
     return texte;
 }
 
+std::string LignesLecture(const LectureLot& lecture) {
+    std::string texte = LigneResume(Dire("Lu", "Read"), TexteLecture(lecture));
+    if (!lecture.ignores.empty())
+        texte += LigneResume(Dire("Ignoré", "Skipped"), TexteComptes(lecture.ignores));
+    for (const std::string& note : lecture.notes) texte += LigneResume("Note", note);
+    return texte;
+}
+
 std::string TexteDecalage(const OptionsDecoupe2D& options) {
     const float distance = DistanceDecalage(options, TableINI);
     const std::string valeur = Millimetres(std::fabs(distance), "##0.0##");
@@ -67,6 +75,7 @@ void LectureLot::Ajouter(const OuvertureFichier& ouverture) {
     points += ouverture.points;
     pointsRetires += ouverture.pointsRetires;
     for (const auto& [genre, nombre] : ouverture.rapport.ignores) ignores[genre] += nombre;
+    notes.insert(notes.end(), ouverture.rapport.notes.begin(), ouverture.rapport.notes.end());
 }
 
 std::string TexteComptes(const std::map<std::string, int>& comptes) {
@@ -84,10 +93,7 @@ std::string LigneResume(const std::string& libelle, const std::string& valeur) {
 
 std::string TexteConversion(const std::string& entree, const LectureLot& lecture, const std::string& sortie) {
     std::string texte = LigneResume(Dire("Fichier", "File"), entree);
-    texte += LigneResume(Dire("Lu", "Read"), TexteLecture(lecture));
-    if (!lecture.ignores.empty())
-        texte += LigneResume(Dire("Ignoré", "Skipped"), TexteComptes(lecture.ignores));
-    return texte + LigneResume(Dire("Écrit", "Written"), sortie);
+    return texte + LignesLecture(lecture) + LigneResume(Dire("Écrit", "Written"), sortie);
 }
 
 int ImprimerResume(const std::vector<std::string>& fichiers, const LectureLot& lecture,
@@ -95,9 +101,7 @@ int ImprimerResume(const std::vector<std::string>& fichiers, const LectureLot& l
                    const ExportGcode2D& gcode, const std::vector<std::string>& ecrits) {
     std::string texte;
     for (const std::string& fichier : fichiers) texte += LigneResume(Dire("Fichier", "File"), fichier);
-    texte += LigneResume(Dire("Lu", "Read"), TexteLecture(lecture));
-    if (!lecture.ignores.empty())
-        texte += LigneResume(Dire("Ignoré", "Skipped"), TexteComptes(lecture.ignores));
+    texte += LignesLecture(lecture);
     texte += LigneResume("Machine", TableINI.Nom);
     texte += LigneResume(Dire("Matière", "Material"), NomAffiche(MatiereCourante));
     texte += LigneResume(Dire("Bloc", "Block"), FormaterNombre(espace.bloc.BlocX, "#####0.##") + " x " +

@@ -16,6 +16,7 @@ struct LectureLot {
     std::size_t points = 0;
     std::size_t pointsRetires = 0;
     std::map<std::string, int> ignores;
+    std::vector<std::string> notes; // what the readers put right or warn of
 
     void Ajouter(const OuvertureFichier& ouverture);
 };

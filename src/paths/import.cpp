@@ -4,6 +4,7 @@
 #include "app/texts/textes_programme.h"
 #include "geometrie.h"
 #include "paths/aile_importee.h"
+#include "paths/doublons.h"
 #include "platform/erreurs.h"
 #include "platform/fichiers.h"
 #include "platform/gabar/assemblage.h"
@@ -217,6 +218,8 @@ DessinImporte LireDessin(const std::string& chemin, float distNettoyage) {
     }
     dessin.sequences =
         CreerSequencesDepuisPoints(points, dessin.extension, distNettoyage, &dessin.pointsRetires);
+    if (const std::size_t doublons = CompterDoublons(dessin.sequences); doublons > 0)
+        dessin.rapport.notes.push_back(TexteRempli(TexteProgramme::NoteDoublons, {std::to_string(doublons)}));
     return dessin;
 }
 

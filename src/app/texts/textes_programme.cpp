@@ -186,6 +186,8 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
      "a point X;Y was expected in place of \"%1\""},
     {TexteProgramme::LectureNombreCleAttendu, "%1 : un nombre était attendu au lieu de « %2 »",
      "%1: a number was expected in place of \"%2\""},
+    {TexteProgramme::NoteDoublons, "tracés présents deux fois, que le fil couperait deux fois : %1",
+     "paths that are there twice and that the wire would cut twice: %1"},
     {TexteProgramme::NoteAilePouces, "cotes en pouces mises en millimètres",
      "lengths in inches brought to millimeters"},
     {TexteProgramme::NoteAileProfilAbsent, "section %1 sans point", "section %1 without points"},

@@ -78,6 +78,7 @@ enum class TexteProgramme {
     LectureAileAttendue,     // %1, %2 sections
     LecturePointAileAttendu, // %1 what stands there
     LectureNombreCleAttendu, // %1 key, %2 what stands there
+    NoteDoublons, // %1 number of paths
     NoteAilePouces,
     NoteAileProfilAbsent, // %1 section
     NoteAileProfilLu,     // %1 section, %2 file

@@ -13,6 +13,11 @@ namespace tessarel {
 
 namespace {
 
+std::string RaisonFormatNonEcrit(const std::string& genre) {
+    return Bilingue(fmt::format("le format .{} ne s'écrit pas", Citation(genre)),
+                    fmt::format(".{} files cannot be written", Citation(genre)));
+}
+
 // Characters of the codes, in ascending order of their bytes.
 constexpr std::string_view Chiffres = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ";
 constexpr std::size_t NombreCodes = Chiffres.size() * Chiffres.size();
@@ -78,10 +83,20 @@ void EcrireFichier(const std::string& chemin, const std::string& extension,
     } else if (genre == "dat") {
         EcrireFichierAtomique(chemin, TexteDat(chemin, points));
     } else {
-        throw FauteFichier(NumeroErreur::EcritureImpossible, chemin,
-                           Bilingue(fmt::format("le format .{} ne s'écrit pas", Citation(genre)),
-                                    fmt::format(".{} files cannot be written", Citation(genre))));
+        throw FauteFichier(NumeroErreur::EcritureImpossible, chemin, RaisonFormatNonEcrit(genre));
     }
+}
+
+void EcrireFichier3D(const std::string& chemin, const std::string& extension,
+                     const std::vector<PointSimple>& emplanture, const std::vector<PointSimple>& saumon,
+                     float ecartement) {
+    if (emplanture.empty() || emplanture.size() != saumon.size())
+        throw FauteInterne(Bilingue("les deux profils n'ont pas le même nombre de points",
+                                    "the two profiles have not the same number of points"));
+    const std::string genre = EnMinuscules(extension);
+    if (genre != "dxf")
+        throw FauteFichier(NumeroErreur::EcritureImpossible, chemin, RaisonFormatNonEcrit(genre));
+    EcrireFichierAtomique(chemin, TexteDxf3D(emplanture, saumon, ecartement));
 }
 
 } // namespace tessarel

@@ -55,4 +55,11 @@ void LireFichier(std::vector<PointSimple>& points, const std::string& chemin, Et
 void EcrireFichier(const std::string& chemin, const std::string& extension,
                    const std::vector<PointSimple>& points);
 
+// Writes two profiles that face each other, and the ruled surface that the wire cuts between them, as a 3D
+// ".dxf" in mm: the root at Z = 0, the tip at Z = `ecartement`. Both must have the same number of points, one
+// at least; a FauteInterne when they have not, a FauteFichier when the file can't be written.
+void EcrireFichier3D(const std::string& chemin, const std::string& extension,
+                     const std::vector<PointSimple>& emplanture, const std::vector<PointSimple>& saumon,
+                     float ecartement);
+
 } // namespace tessarel

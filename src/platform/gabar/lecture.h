@@ -22,5 +22,8 @@ void LireEps(std::vector<PointSimple>& points, const std::string& texte, const s
 // Text of a file with these polylines, which are one or more.
 std::string TexteDxf(const std::vector<PointSimple>& points);
 std::string TexteDat(const std::string& chemin, const std::vector<PointSimple>& points);
+// Two outlines of as many points each, at Z = 0 and at Z = `ecartement`, and the surface between them.
+std::string TexteDxf3D(const std::vector<PointSimple>& emplanture, const std::vector<PointSimple>& saumon,
+                       float ecartement);
 
 } // namespace tessarel
