@@ -22,6 +22,14 @@ struct PointDessin {
     double Y = 0;
 };
 
+// A place after a change of the plane: (xx X + xy Y + dx, yx X + yy Y + dy).
+struct MatriceDessin {
+    double xx = 1, xy = 0;
+    double yx = 0, yy = 1;
+    double dx = 0, dy = 0; // mm
+    friend bool operator==(const MatriceDessin&, const MatriceDessin&) = default;
+};
+
 enum class GenreTrait : std::uint8_t {
     Ligne,  // open polyline
     Surface // closed polygon, filled
