@@ -5,6 +5,7 @@
 // indices count from 0 here and from 1 where they are shown.
 #pragma once
 
+#include "paths/geometrie.h"
 #include "paths/points.h"
 
 #include <array>
@@ -22,7 +23,7 @@ inline constexpr std::uint16_t DrapeauArret = 8;      // the cut stops here
 inline constexpr std::uint16_t DrapeauSansDecalage =
     16;                                               // no kerf offset on the segment between two such points
 inline constexpr std::uint16_t DrapeauCorde = 32;     // defines the chord or the height
-inline constexpr std::uint16_t DrapeauConserve = 128; // scratch of the cleaning tools
+// DrapeauConserve, 128, the scratch bit of the cleaning tools, is that of paths/geometrie.h.
 
 struct PointEspace {
     double X = 0;

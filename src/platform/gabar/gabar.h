@@ -62,4 +62,14 @@ void EcrireFichier3D(const std::string& chemin, const std::string& extension,
                      const std::vector<PointSimple>& emplanture, const std::vector<PointSimple>& saumon,
                      float ecartement);
 
+// Rounds the stretch between two points. Given four points p0 to p3, replaces them by p0, p1, the points of a
+// curve from p1 to p2, p2, p3. The curve is the centripetal Catmull-Rom cubic (C. Yuksel, S. Schaefer,
+// J. Keyser, "Parameterization and applications of Catmull-Rom curves", 2011): with knots t0 = 0 and
+// t(k+1) = t(k) + sqrt(|p(k+1) - p(k)|), its speed at p1 is
+//   (p1 - p0)/(t1 - t0) - (p2 - p0)/(t2 - t0) + (p2 - p1)/(t2 - t1),
+// likewise at p2; this choice of knots neither loops nor makes a cusp within a stretch. A neighbour that
+// coincides with its end counts as standing as far off in t as the other end. The points stand at equal steps
+// of t, so many that no chord is further than 0.01 mm from the curve. FauteInterne unless four are given.
+void LissageSequence(std::vector<PointSimple>& points);
+
 } // namespace tessarel

@@ -1,0 +1,15 @@
+// The crossing of two selected segments as a new point of the profile.
+#pragma once
+
+#include "design4x/projet_cpx.h"
+
+namespace tessarel {
+
+// On each profile with selected points: the four of them, consecutive in pairs, make two segments, and their
+// crossing is put into the second, or into the first where it falls on an end of the second. Nothing is moved
+// or removed. A refusal on one side is told in a box and leaves that side as it was; the other is treated all
+// the same. True when a point was put in. Refreshes the measures; the caller takes the undo snapshots, one
+// before and one after.
+bool cmdIntersection(ProjetCPX& projet);
+
+} // namespace tessarel
