@@ -8,7 +8,6 @@
 #include "paths/durees.h"
 
 #include <array>
-#include <charconv>
 
 namespace tessarel {
 
@@ -22,8 +21,6 @@ constexpr Masque MasqueVitesse = "##0.0";
 constexpr Masque MasqueChauffe = "##0.0";
 constexpr const char* FinLigne = "\r\n";
 constexpr double SParPourcent = 10;
-// Significant digits of a single written without a mask.
-constexpr int ChiffresSimple = 7;
 
 // Room of a move line with coordinates of up to six digits and a sign, letters not counted.
 constexpr std::size_t TailleMouvement = 80;
@@ -38,15 +35,8 @@ std::string Commentaire(std::string_view texte) {
     return ligne;
 }
 
-std::string NombreNu(float valeur) {
-    std::array<char, 32> tampon;
-    const auto fin = std::to_chars(tampon.data(), tampon.data() + tampon.size(), static_cast<double>(valeur),
-                                   std::chars_format::general, ChiffresSimple);
-    return {tampon.data(), fin.ptr};
-}
-
 std::string TexteCorde(const std::string& titre, float corde, const std::optional<Masque>& masque) {
-    return Commentaire(titre + (masque ? FormaterNombre(corde, *masque) : NombreNu(corde)) + "mm");
+    return Commentaire(titre + (masque ? FormaterNombre(corde, *masque) : FormaterSimple(corde)) + "mm");
 }
 
 std::string VersionProgramme() {

@@ -13,6 +13,7 @@ namespace tessarel {
 enum class NumeroErreur : int {
     Depassement = 6,
     IndiceHorsBornes = 9,
+    DivisionParZero = 11,
     ConversionImpossible = 13,
     ErreurInterne = 51,
     FichierIntrouvable = 53,

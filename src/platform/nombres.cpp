@@ -167,6 +167,16 @@ std::string FormaterNombre(float valeur, Masque masque) {
     return {tampon.data(), EcrireNombre(tampon.data(), valeur, masque)};
 }
 
+std::string FormaterSimple(float valeur) {
+    constexpr int chiffres = 7;
+    std::array<char, 32> tampon;
+    const auto ecrit =
+        std::to_chars(tampon.data(), tampon.data() + tampon.size(), static_cast<double>(valeur),
+                      std::chars_format::general, chiffres);
+    std::replace(tampon.data(), ecrit.ptr, 'e', 'E');
+    return {tampon.data(), ecrit.ptr};
+}
+
 namespace {
 
 // Digits and a point, fifteen digits at most, no exponent: the whole number of the digits and the power of

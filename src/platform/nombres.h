@@ -45,6 +45,9 @@ char* EcrireNombre(char* sortie, float valeur, Masque masque);
 std::string FormaterNombre(double valeur, Masque masque);
 std::string FormaterNombre(float valeur, Masque masque);
 
+// A single written without a mask: at most seven significant digits, "12", "0.5", "1.5E+07".
+std::string FormaterSimple(float valeur);
+
 // Number parser of every numeric setting. Digits, '-' and '+' are kept; ',' and '.' both become the mark;
 // blanks and no-break spaces (also as UTF-8) are skipped; anything else ends the scan. The value is that of
 // the longest numeric head of what was kept: "" gives 0, "1,5" 1.5, "12 mm" 12, "-" 0.

@@ -113,7 +113,7 @@ const Fleches& FlechesDeLaMaison() {
         {"work2d", {"link"}},
         {"design4x", {"machine"}},
         {"cut4x", {"design4x", "link"}},
-        {"app/demarrage", {"link"}},
+        {"app/demarrage", {"cut4x"}},
         {"ui", {"app/settings", "app/texts", "platform/images"}},
         {"link/simulateur/ui", {"ui", "link/simulateur"}},
         {"machine/ui", {"ui", "link", "app/demarrage"}},

@@ -6,6 +6,7 @@
 #include "app/settings/parametres.h"
 #include "app/settings/verification_ini.h"
 #include "app/texts/textes_programme.h"
+#include "cut4x/parametres_decoupe4x.h"
 #include "dossiers_programme.h"
 #include "link/etat_interface.h"
 #include "machine/matieres.h"
@@ -122,8 +123,8 @@ void ChoisirLangue(const OptionsDemarrage& options) {
 
 } // namespace
 
-// The tables of ramps and the record of the 4-axis cut belong to the pieces that use them; the default block
-// is asked for by the window that shows it; margins are among the parameters.
+// The tables of ramps belong to the piece that uses them; the default block is asked for by the window that
+// shows it; margins are among the parameters.
 EtatDemarrage Demarrer(const OptionsDemarrage& options) {
     EtatDemarrage etat;
     ChargerMessages(options.LangueImposee.value_or(Langue::Francais));
@@ -139,6 +140,7 @@ EtatDemarrage Demarrer(const OptionsDemarrage& options) {
           [&] { etat.Splash = AffichageSplashEtTestsZelko(options.Memoires); });
     MouvementsActifs = etat.Splash.Mouvements;
     TablesTrigonometriques();
+    Etape("InitialiserParametresDecoupe4axes", InitialiserParametresDecoupe4axes);
     etat.FocusSur2D = Parametres.OngletActif == OngletTS2D;
     return etat;
 }

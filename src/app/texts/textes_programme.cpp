@@ -220,6 +220,22 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
     {TexteProgramme::VitesseTropBasse, "ATTENTION, vitesse < 0.05mm/s, découpe impossible",
      "WARNING: speed < 0.05mm/s, cutting is impossible"},
 
+    // 4-axis cut
+    {TexteProgramme::Decoupe4axesSansEcartement,
+     "Découpe impossible, l'écartement est nul.\r\n"
+     "Retournez dans l'onglet Conception 4 axes pour le corriger.",
+     "Cutting is not possible: the spacing is zero.\r\n"
+     "Go back to the 4-axis design tab to correct it."},
+    {TexteProgramme::Decoupe4axesSansSegment,
+     "Découpe impossible, il faut au moins deux points de chaque côté.\r\n"
+     "Retournez dans l'onglet Conception 4 axes pour corriger cela.",
+     "Cutting is not possible: each side needs at least two points.\r\n"
+     "Go back to the 4-axis design tab to correct this."},
+    {TexteProgramme::Decoupe4axesSansVitesse, "La vitesse de découpe est nulle, division impossible",
+     "The cutting speed is zero, division impossible"},
+    {TexteProgramme::IndiceHorsBornes, "L'indice %1 dépasse le nombre de points, %2",
+     "Index %1 is beyond the number of points, %2"},
+
     // Library and report of an opening
     {TexteProgramme::BibliothequeFichierExterieur, "Fichier extérieur à la bibliothèque",
      "File outside the library"},

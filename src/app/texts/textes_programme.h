@@ -95,6 +95,12 @@ enum class TexteProgramme {
     FiltreGcode,
     VitesseTropBasse,
 
+    // 4-axis cut
+    Decoupe4axesSansEcartement,
+    Decoupe4axesSansSegment,
+    Decoupe4axesSansVitesse,
+    IndiceHorsBornes, // %1 index, %2 count
+
     // Library and report of an opening
     BibliothequeFichierExterieur,
     BibliothequeTropGrande,
