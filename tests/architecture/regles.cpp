@@ -50,6 +50,7 @@ std::string RefusEtranger(const std::string& chemin, std::string_view entete) {
         (CommencePar(entete, "CLI/") || CommencePar(entete, "nlohmann/"))) {
         return "";
     }
+    if (CommencePar(chemin, "programs/zelko-simulateur/") && CommencePar(entete, "CLI/")) return "";
     if (CommencePar(chemin, "tests/") && (CommencePar(entete, "gtest/") || EstSysteme(entete))) return "";
     // What is known of foreign files is kept as JSON.
     if (CommencePar(chemin, "tests/corpus/") && CommencePar(entete, "nlohmann/")) return "";

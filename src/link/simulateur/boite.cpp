@@ -126,6 +126,7 @@ void BoiteZelko::ChargerEnRam(std::size_t memoire) {
     CalculerBornes();
     if (!m_dejaBouge) m_base = PositionOrigine();
     RefaireChauffe(NoteChauffe::Cause::Commande); // the maximum may have changed
+    if (SurTable) SurTable();
 }
 
 void BoiteZelko::PoserChariots(const PositionPas& position) {

@@ -114,7 +114,8 @@ public:
     void FixerMecanique(const Mecanique& mecanique);
     [[nodiscard]] const Mecanique& MecaniqueEnPlace() const { return m_mecanique; }
 
-    // The memories as stored; writing does not touch the RAM. SurMemoires hears of each write by the wire.
+    // The memories as stored; writing does not touch the RAM. SurMemoires hears of each write by the
+    // wire.
     [[nodiscard]] const MemoiresBoite& Memoires() const { return m_memoires; }
     void EcrireMemoires(const MemoiresBoite& memoires) { m_memoires = memoires; }
     void ChargerEnRam(std::size_t memoire);
@@ -152,6 +153,7 @@ public:
 
     std::function<void(const NoteJournal&)> SurNote; // every exchange, every event
     std::function<void()> SurMemoires;
+    std::function<void()> SurTable; // another table runs
     std::function<void(Instant)> SurAttente;
 
 private:

@@ -1,0 +1,27 @@
+// The virtual box as a program: on its socket, with a window or without.
+#include "arguments.h"
+#include "reglages_utilisateur.h"
+#include "sans_fenetre.h"
+
+#include "platform/flux_standards.h"
+#include "platform/signaux_fin.h"
+
+#include <cstdio>
+#include <exception>
+
+int main(int argc, char** argv) {
+    using namespace tessarel;
+    using namespace tessarel::simulateur;
+    PreparerFlux();
+    Arguments arguments = LireArguments(argc, argv);
+    if (!arguments.lancer) return arguments.statut;
+    OuvrirReglages(arguments.documents);
+    arguments.poste.chercherMachine = MachineConnue;
+    EcouterSignauxDeFin();
+    try {
+        return ServirSansFenetre(arguments);
+    } catch (const std::exception& erreur) {
+        std::fputs((std::string("zelko-simulateur: ") + erreur.what() + "\n").c_str(), stderr);
+        return StatutRefuse;
+    }
+}
