@@ -105,6 +105,7 @@ const Fleches& FlechesDeLaMaison() {
         {"platform", {}},
         {"platform/gabar", {"platform"}},
         {"platform/images", {"platform"}},
+        {"platform/bibliotheque_zelko", {"platform"}},
         {"app/texts", {"platform"}},
         {"app/settings", {"platform"}},
         {"paths", {"app/settings", "app/texts", "platform/gabar"}},

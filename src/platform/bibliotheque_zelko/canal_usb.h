@@ -1,0 +1,32 @@
+// A real box on USB, spoken to by HID reports.
+#pragma once
+
+#include "canal.h"
+
+namespace tessarel {
+
+class CanalUsb {
+public:
+    CanalUsb() = default;
+    ~CanalUsb();
+    CanalUsb(const CanalUsb&) = delete;
+    CanalUsb& operator=(const CanalUsb&) = delete;
+
+    // True when a box is plugged in.
+    bool Presente();
+    std::int32_t Ouvrir();
+    void Fermer();
+    [[nodiscard]] bool EstOuvert() const { return m_appareil != nullptr; }
+    // The report goes out and the reply takes its place; untouched after a failure. A box that was plugged
+    // out and in again since the last exchange is found again.
+    std::int32_t Echanger(Rapport& rapport);
+
+private:
+    bool Vider(std::chrono::milliseconds silence);
+    std::int32_t Recevoir(Rapport& rapport);
+
+    void* m_appareil = nullptr; // hid_device of the library, which only the source knows
+    bool m_reponseDue = false;  // the last exchange got no reply: it may still come
+};
+
+} // namespace tessarel
