@@ -82,8 +82,8 @@ std::string RaisonUsage(const CLI::App& programme, const CLI::ParseError& erreur
         return Dire("inattendu : ", "unexpected: ") + phrase.substr(phrase.find(": ") + 2);
     if (dynamic_cast<const CLI::RequiredError*>(&erreur) != nullptr) {
         if (programme.get_subcommands().empty())
-            return Dire("un verbe est attendu : decouper, convertir, info ou machines",
-                        "a verb is expected: decouper, convertir, info or machines");
+            return Dire("un verbe est attendu : decouper, convertir, info, machines ou interface",
+                        "a verb is expected: decouper, convertir, info, machines or interface");
         return Avant(phrase, " is required") + Dire(" est attendu", " is expected");
     }
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&erreur) != nullptr)
@@ -155,6 +155,7 @@ Commande LireCommande(int argc, char** argv) {
     DeclarerConvertir(programme, choisir);
     DeclarerInfo(programme, choisir);
     DeclarerMachines(programme, choisir);
+    DeclarerInterface(programme, choisir);
     programme.require_subcommand(1);
     try {
         programme.parse(argc, argv);

@@ -1,4 +1,5 @@
 // `info`: what a file holds, for a reader or, with --json, for a program.
+#include "json_lot.h"
 #include "langue_lot.h"
 #include "resume_lot.h"
 #include "verbes.h"
@@ -10,7 +11,6 @@
 
 #include <cmath>
 #include <memory>
-#include <nlohmann/json.hpp>
 
 namespace tessarel::lot {
 
@@ -55,10 +55,6 @@ double CommeEcrit(float valeur) {
     return std::stod(FormaterNombre(valeur, "0.0#####"));
 }
 
-std::string Json(const nlohmann::ordered_json& objet) {
-    return objet.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + "\n";
-}
-
 nlohmann::ordered_json ObjetJson(const Constat& constat) {
     nlohmann::ordered_json objet;
     objet["type"] = constat.type;
@@ -100,11 +96,11 @@ int Informer(const std::string& fichier, bool json) {
     try {
         constat = Examiner(fichier);
     } catch (const Faute& faute) {
-        if (json) (void)Imprimer(Json({{"erreur", faute.what()}}));
+        if (json) (void)Imprimer(TexteJson({{"erreur", faute.what()}}));
         DireErreurLecture(faute);
         return StatutRefuse;
     }
-    const std::string texte = json ? Json(ObjetJson(constat)) : TexteConstat(fichier, constat);
+    const std::string texte = json ? TexteJson(ObjetJson(constat)) : TexteConstat(fichier, constat);
     return Imprimer(texte);
 }
 

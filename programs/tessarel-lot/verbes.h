@@ -24,6 +24,7 @@ void DeclarerDecouper(CLI::App& programme, const ChoisirAction& choisir);
 void DeclarerConvertir(CLI::App& programme, const ChoisirAction& choisir);
 void DeclarerInfo(CLI::App& programme, const ChoisirAction& choisir);
 void DeclarerMachines(CLI::App& programme, const ChoisirAction& choisir);
+void DeclarerInterface(CLI::App& programme, const ChoisirAction& choisir);
 
 // A verb with its help flag, accepting the program's own options after it as well.
 CLI::App* AjouterVerbe(CLI::App& programme, const std::string& nom, const std::string& description);

@@ -35,7 +35,9 @@ void Entrer2D(Fenetres& fenetres) {
 // Everything up to the splash; false when the start-up ends the program, which has then told why.
 bool MontrerSplash(ApplicationTessarel& application, Fenetres& fenetres) {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const EtatDemarrage etat = Demarrer({});
+    OptionsDemarrage options;
+    options.Memoires = MemoiresDuLien();
+    const EtatDemarrage etat = Demarrer(options);
     QGuiApplication::restoreOverrideCursor();
     if (etat.Termine()) return false;
     application.ParlerLangue(LangueCourante());

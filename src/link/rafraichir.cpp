@@ -49,7 +49,7 @@ EtatLiaison RafraichirUsb(const std::string& mode) {
     etat.Memoire = ChargerMemoireQuiCorrespond();
     MouvementsActifs = etat.Memoire >= 0;
     if (MouvementsActifs)
-        etat.Liaison = LiaisonZelko::MouvementsActifs;
+        etat.Liaison = LiaisonZelko::MouvementsPermis;
     else if (InterfaceConnectee)
         etat.Liaison = LiaisonZelko::SansCorrespondance;
     return etat;

@@ -8,7 +8,7 @@ namespace tessarel {
 enum class LiaisonZelko {
     SansInterface,
     SansCorrespondance, // a box is there, no memory of it holds the current machine unchanged
-    MouvementsActifs,
+    MouvementsPermis,
 };
 
 // What the windows show; their captions are their own.

@@ -129,14 +129,18 @@ int ChargerMachine(const std::string& nom) {
     return LireMachine(nom, TableINI);
 }
 
+std::string TexteDeCle(const CleMachine& cle, const TableMachine& table) {
+    auto& lue = const_cast<TableMachine&>(table); // NOLINT: a row gives its field to read and to write
+    return std::visit(EnTexte{lue, cle.masque}, cle.champ);
+}
+
 bool EcrireMachine(const TableMachine& table) {
     if (EstMachineIntegree(table.Nom)) return false;
     const std::string section = PrefixeMachine + table.Nom;
     EcrituresGroupees ensemble(DossiersProgramme.FichierIni);
-    TableMachine copie = table; // the rows give a field to read and to write
     bool ecrit = true;
     for (const CleMachine& cle : ClesMachine())
-        ecrit = EcrireIni(section, cle.cle, std::visit(EnTexte{copie, cle.masque}, cle.champ)) && ecrit;
+        ecrit = EcrireIni(section, cle.cle, TexteDeCle(cle, table)) && ecrit;
     return ensemble.Valider() && ecrit;
 }
 

@@ -42,5 +42,7 @@ struct CleMachine {
 std::span<const CleMachine> ClesMachine();
 std::span<const CleMachine> ClesMoteurs();
 std::span<const CleMachine> ClesGeometrie();
+// The value of a key as the file has it.
+std::string TexteDeCle(const CleMachine& cle, const TableMachine& table);
 
 } // namespace tessarel

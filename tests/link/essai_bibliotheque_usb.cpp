@@ -1,7 +1,7 @@
 // The link library against a USB device of the test: reports, late replies, unplugging, and which box is
 // chosen.
 #include "ecouteur.h"
-#include "fausse/faux_hid.h"
+#include "link/fausse/faux_hid.h"
 
 #include "platform/zelkocom.h"
 

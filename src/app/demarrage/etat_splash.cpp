@@ -4,6 +4,7 @@
 #include "app/texts/textes.h"
 #include "app/texts/textes_programme.h"
 #include "link/etat_interface.h"
+#include "link/memoires.h"
 #include "platform/dialogue.h"
 
 namespace tessarel {
@@ -40,6 +41,7 @@ bool ExaminerMemoire(int memoire, const TableMachine& lue, const AccesMemoires& 
     DernierResultatZelko = acces.ChargerEnRam(memoire);
     if (DernierResultatZelko == ResultatZelkoSucces) return true;
     etat.Mouvements = false;
+    etat.Correspondance = Libelle(TitresMessages(RangeePasDInterface), CouleurLibelle::Rouge);
     AfficherCritique(TexteRempli(TexteProgramme::ErreurChargementRam, {std::to_string(DernierResultatZelko)}),
                      Texte(TexteProgramme::TitreErreur));
     return true;
@@ -67,6 +69,18 @@ void ComparerMemoires(const AccesMemoires& acces, EtatSplash& etat) {
 }
 
 } // namespace
+
+AccesMemoires MemoiresDuLien() {
+    return {[](int memoire, TableMachine& table) {
+                TableMachine& gardee = MemoiresZelko[static_cast<std::size_t>(memoire)];
+                LireMemoireZelko(gardee, memoire);
+                table = gardee;
+            },
+            [](int memoire) {
+                ChargerMemoireEnRam(memoire);
+                return DernierResultatZelko;
+            }};
+}
 
 EtatSplash AffichageSplashEtTestsZelko(const AccesMemoires& acces) {
     EtatSplash etat;

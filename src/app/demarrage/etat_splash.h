@@ -43,6 +43,9 @@ struct AccesMemoires {
     std::function<std::int32_t(int memoire)> ChargerEnRam; // result of the exchange, 1 for success
 };
 
+// The memories as the link reaches them; what is read stays in MemoiresZelko.
+AccesMemoires MemoiresDuLien();
+
 // Tests the interface against TableINI and tells what the splash shows. Sets InterfaceConnectee and
 // DernierResultatZelko, and NumeroMemoire of TableINI where a memory agrees; never changes a memory.
 EtatSplash AffichageSplashEtTestsZelko(const AccesMemoires& acces);
