@@ -124,11 +124,14 @@ FinChauffe EnvoyerChauffe(std::uint8_t valeur, const SuiviChauffe& suivi) {
 FinChauffe CouperChauffe(const SuiviChauffe& suivi) {
     const auto coupee = [](std::uint8_t) { return TamponEchange[2] == 0 && TamponEchange[4] == 0; };
     const FinChauffe fin = Repeter(0, 0, coupee, suivi, "CouperChauffe");
-    if (fin == FinChauffe::Interrompue)
-        AfficherCritique(TextesDoubles(RangeeChauffeNonCoupee, 1) + "\r\n" +
-                             Texte(TexteProgramme::FilPeutEtreChaud),
-                         TextesDoubles(RangeeChauffeNonCoupee, 2));
+    if (fin == FinChauffe::Interrompue) SignalerChauffeNonCoupee();
     return fin;
+}
+
+void SignalerChauffeNonCoupee() {
+    AfficherCritique(TextesDoubles(RangeeChauffeNonCoupee, 1) + "\r\n" +
+                         Texte(TexteProgramme::FilPeutEtreChaud),
+                     TextesDoubles(RangeeChauffeNonCoupee, 2));
 }
 
 } // namespace tessarel

@@ -62,4 +62,7 @@ FinChauffe EnvoyerChauffe(std::uint8_t valeur, const SuiviChauffe& suivi = {});
 // only heard after that and ends in a critical box that says that the wire may still be hot.
 FinChauffe CouperChauffe(const SuiviChauffe& suivi = {});
 
+// The critical box that says that the wire may still be hot.
+void SignalerChauffeNonCoupee();
+
 } // namespace tessarel

@@ -1,6 +1,8 @@
 // Builds motion frames.
 #include "link/salves.h"
 
+#include "link/commandes.h"
+#include "link/echange.h"
 #include "platform/nombres.h"
 
 #include <algorithm>
@@ -18,7 +20,6 @@ constexpr int DecalagePente = 9;
 constexpr std::int32_t UniteFrequence = 10000; // Hz
 // Each level of a ramp lasts the slope over this, s.
 constexpr double PenteParSeconde = 2 * HorlogeRampe;
-constexpr std::uint8_t CommandeSalve = 68; // 'D'
 constexpr std::uint8_t TousEnAvant = SalveAvantX1 | SalveAvantY1 | SalveAvantX2 | SalveAvantY2;
 
 Salve SalveRefusee(std::int16_t statut) {
@@ -171,9 +172,7 @@ Salve ConstruireSalveTempo(const ParametresSalve& p, std::int16_t secondes, floa
     salve.octets[SalvePositionDrapeaux] |= SalvePause;
     EcrireOctets32(salve.octets, SalvePositionNBRt, static_cast<std::uint32_t>(ticks));
     // What is no number heats nothing.
-    if (chauffe > 0)
-        salve.octets[SalvePositionChauffe] =
-            static_cast<std::uint8_t>(std::min(Arrondi(chauffe * 2.55), 255.0));
+    if (chauffe > 0) salve.octets[SalvePositionChauffe] = ValeurPWM(chauffe);
     return salve;
 }
 

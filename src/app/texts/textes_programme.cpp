@@ -112,6 +112,27 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
      "Coupez l'alimentation de la chauffe à la main avant d'approcher du fil.",
      "The interface has not confirmed that the heating is off: the wire may still be hot.\r\n"
      "Switch the power of the heating off by hand before you go near the wire."},
+    {TexteProgramme::VitesseIncorrecte, "Valeur de Vitesse incorrecte", "Incorrect speed"},
+    {TexteProgramme::ErreurPositionStop, "Erreur dans le calcul de la position du Stop => " COURRIEL,
+     "Error in the calculation of the stop position => " COURRIEL},
+    {TexteProgramme::MarcheSansRaison,
+     "La machine s'est arrêtée sans que l'interface dise pourquoi : son alimentation a peut-être été coupée, "
+     "ou un autre programme lui a parlé.\r\n"
+     "Refaites l'origine avant de continuer.",
+     "The machine has stopped and the interface does not say why: its power supply may have been cut, or "
+     "another program has talked to it.\r\n"
+     "Home the machine again before you go on."},
+    {TexteProgramme::MarcheSansRaisonTitre, "Arrêt inexpliqué", "Unexplained stop"},
+    {TexteProgramme::BoitierMuet,
+     "L'interface ne répond plus. Nouvel essai en continu ; vérifiez le câble USB et l'alimentation.",
+     "The interface does not answer any more. Trying again continuously; check the USB cable and the power "
+     "supply."},
+    {TexteProgramme::MarcheAbandonnee,
+     "L'interface n'a pas confirmé l'arrêt : la machine peut être encore en mouvement.\r\n"
+     "Appuyez sur le bouton STOP de la machine ou coupez son alimentation.",
+     "The interface has not confirmed the stop: the machine may still be moving.\r\n"
+     "Press the STOP button of the machine or cut its power supply."},
+    {TexteProgramme::MarcheAbandonneeTitre, "Arrêt non confirmé", "Stop not confirmed"},
     {TexteProgramme::TableHorsFormatTitre, "La table %1 n'est pas envoyée", "Table %1 is not sent"},
     {TexteProgramme::TableHorsFormat, "La valeur de %1 ne tient pas dans une mémoire de l'interface.",
      "The value of %1 does not fit a memory of the interface."},

@@ -44,6 +44,13 @@ enum class TexteProgramme {
 
     // The interface box
     FilPeutEtreChaud,
+    VitesseIncorrecte,
+    ErreurPositionStop,
+    MarcheSansRaison,
+    MarcheSansRaisonTitre,
+    BoitierMuet,
+    MarcheAbandonnee,
+    MarcheAbandonneeTitre,
     TableHorsFormatTitre, // %1 machine
     TableHorsFormat,      // %1 key
 
@@ -78,7 +85,7 @@ enum class TexteProgramme {
     LectureAileAttendue,     // %1, %2 sections
     LecturePointAileAttendu, // %1 what stands there
     LectureNombreCleAttendu, // %1 key, %2 what stands there
-    NoteDoublons, // %1 number of paths
+    NoteDoublons,            // %1 number of paths
     NoteAilePouces,
     NoteAileProfilAbsent, // %1 section
     NoteAileProfilLu,     // %1 section, %2 file

@@ -1,0 +1,294 @@
+// Runs the queue of the box.
+#include "link/marche.h"
+
+#include "link/commandes.h"
+#include "link/echange.h"
+#include "link/liste_salves.h"
+#include "platform/horloge.h"
+#include "platform/pompe.h"
+
+#include <algorithm>
+
+namespace tessarel {
+
+namespace {
+
+// Between two tries that failed: a box that is gone answers at once.
+constexpr Instant EntreDeuxEssais = std::chrono::milliseconds(20);
+// Between two looks at a box that may have run out of frames: longer than the last tick of any frame, in
+// which a frame still in the queue looks the same as none.
+constexpr Instant EntreDeuxRegards = std::chrono::milliseconds(1);
+constexpr int RegardsPourConclure = 3;
+// A box that shows neither the frame before nor the one after, and does not move on for this long, is out of
+// frames too.
+constexpr Instant ImmobileTropLongtemps = std::chrono::seconds(1);
+constexpr int RegardsImmobiles = 50;
+// Status requests after an S before it is sent again: carriages take a while to slow down.
+constexpr int StatutsAvantNouvelArret = 100;
+constexpr int EssaisDeSecours = 5;
+
+// One command without a box: what is lost here is tried again, and told in its own way.
+bool Envoyer(std::uint8_t code, std::uint8_t arg1 = 0) {
+    EffacerTampon();
+    TamponEchange[1] = code;
+    TamponEchange[2] = arg1;
+    return Echanger();
+}
+
+bool RienNePart() {
+    return DernierResultatZelko == ResultatMouvementsInactifs ||
+           DernierResultatZelko == ResultatZelkoBibliothequeAbsente;
+}
+
+// A failure before the packet left: the box has not heard it.
+bool JamaisPartie() {
+    constexpr std::int32_t boitierAbsent = -200;
+    constexpr std::int32_t canalFerme = -201;
+    return DernierResultatZelko == boitierAbsent || DernierResultatZelko == canalFerme || RienNePart();
+}
+
+// A run under way.
+struct Marche {
+    std::span<const Salve> salves;
+    const SuiviMarche& suivi;
+    EchecsConsecutifs echecs = {};
+    std::size_t prochaine = 0; // frames accepted so far; the one of this index is the next to send
+    bool doute = false;        // that one may be in the queue already
+    int regards = 0;           // looks at an unchanged status while in doubt
+    Instant depuis{0};         // of the first of them
+    ResultatMarche resultat = {};
+};
+
+bool ArretVoulu(const SuiviMarche& suivi) {
+    return suivi.demandes != nullptr && suivi.demandes->ArretVoulu();
+}
+
+void OublierArret(const SuiviMarche& suivi) {
+    if (suivi.demandes == nullptr) return;
+    suivi.demandes->StopDemande = false;
+    suivi.demandes->FinOrigineDemandee = false;
+}
+
+// Counts an exchange; after a failure tells a box that is gone, and gives the processor back for a moment.
+void Noter(EchecsConsecutifs& echecs, bool reussi, const SuiviMarche& suivi) {
+    if (NoterEchange(echecs, reussi)) {
+        if (suivi.Prevenir)
+            suivi.Prevenir();
+        else
+            SignalerErreurInterface("EnvoiSalves");
+    }
+    if (!reussi) Patienter(EntreDeuxEssais);
+}
+
+bool Conclure(Marche& m, FinMarche fin) {
+    m.resultat.fin = fin;
+    return false;
+}
+
+// Empties and opens the queue and puts frames in until one is refused. A frame whose reply was lost makes it
+// begin anew: nothing moves yet. False when the run ends here.
+bool Remplir(Marche& m) {
+    for (;;) {
+        m.prochaine = 0;
+        bool reussi = Envoyer(CommandeFile, 0) && Envoyer(CommandeFile, 1);
+        bool pleine = false;
+        while (reussi && !pleine && m.prochaine < m.salves.size()) {
+            ChargerSalveDansTampon(TamponEchange, m.salves[m.prochaine]);
+            reussi = Echanger();
+            if (!reussi) break;
+            if (LireStatut(TamponEchange).SalveAcceptee)
+                ++m.prochaine;
+            else
+                pleine = m.prochaine > 0; // an empty queue that refuses is asked again
+            LaisserPasserEvenements();
+            if (ArretVoulu(m.suivi)) return Conclure(m, FinMarche::StopAvantMouvement);
+        }
+        if (!reussi && RienNePart()) return Conclure(m, FinMarche::Impossible);
+        LaisserPasserEvenements();
+        if (ArretVoulu(m.suivi)) return Conclure(m, FinMarche::StopAvantMouvement);
+        Noter(m.echecs, reussi, m.suivi);
+        if (reussi) return true;
+    }
+}
+
+// B 128, sent again only when the status shows that the box has not heard it. False when the run ends here; a
+// stop asked in doubt goes the way of a stop in the run.
+bool Demarrer(Marche& m) {
+    while (!Envoyer(CommandeFile, 128)) {
+        if (RienNePart()) return Conclure(m, FinMarche::Impossible);
+        StatutZelko statut;
+        while (!statut.Recu) {
+            Noter(m.echecs, false, m.suivi);
+            LaisserPasserEvenements();
+            if (ArretVoulu(m.suivi)) return true;
+            statut = DemanderStatut();
+        }
+        if (statut.NumeroSalve > 0 || statut.Fini) return true;
+    }
+    return true;
+}
+
+// After a frame without a reply: whether it is in the queue, once the box shows it.
+void LeverDoute(Marche& m, const StatutZelko& statut) {
+    const auto acceptees = static_cast<std::int32_t>(m.prochaine);
+    if (statut.NumeroSalve > acceptees) {
+        ++m.prochaine;
+        m.doute = false;
+        return;
+    }
+    const StatutZelko& avant = m.resultat.statut;
+    const bool change =
+        statut.NumeroSalve != avant.NumeroSalve || statut.TicksRestants != avant.TicksRestants;
+    if (change || m.regards == 0) {
+        m.regards = 0;
+        m.depuis = Maintenant();
+    }
+    ++m.regards;
+    const bool auBout = statut.NumeroSalve == acceptees && statut.TicksRestants == 0;
+    const bool immobile = m.regards >= RegardsImmobiles && Maintenant() - m.depuis >= ImmobileTropLongtemps;
+    if ((auBout && m.regards >= RegardsPourConclure) || immobile) {
+        m.doute = false;
+        m.regards = 0;
+    } else if (auBout) {
+        Patienter(EntreDeuxRegards);
+    }
+}
+
+// One exchange of a run: the next frame, or a status request when none is left or the last one is in doubt.
+StatutZelko Avancer(Marche& m) {
+    if (m.doute || m.prochaine >= m.salves.size()) {
+        const StatutZelko statut = DemanderStatut();
+        if (statut.Recu && m.doute) LeverDoute(m, statut);
+        return statut;
+    }
+    ChargerSalveDansTampon(TamponEchange, m.salves[m.prochaine]);
+    if (!Echanger()) {
+        m.doute = !JamaisPartie();
+        m.regards = 0;
+        return {};
+    }
+    const StatutZelko statut = LireStatut(TamponEchange);
+    if (statut.SalveAcceptee) ++m.prochaine;
+    return statut;
+}
+
+// Tells where the run stands. False when the running frame counts no ticks.
+bool Annoncer(const Marche& m) {
+    const std::int32_t numero = m.resultat.NumeroSalve;
+    if (numero < 1 || static_cast<std::size_t>(numero) > m.salves.size()) return true;
+    const Salve& salve = m.salves[static_cast<std::size_t>(numero) - 1];
+    if (EstSalveFin(salve)) return true;
+    AvanceeMarche avancee;
+    avancee.NumeroSalve = numero;
+    avancee.TicksRestants = m.resultat.statut.TicksRestants;
+    avancee.NBRt = NBRtDeSalve(salve);
+    const std::optional<double> fraction = FractionFaite(salve, avancee.TicksRestants);
+    if (!fraction) return false;
+    avancee.Fraction = std::clamp(*fraction, 0.0, 1.0);
+    if (m.suivi.Avancer) m.suivi.Avancer(avancee);
+    return true;
+}
+
+void Retenir(Marche& m, const StatutZelko& statut) {
+    m.resultat.statut = statut;
+    // A box that shows no number any more leaves the last one standing.
+    if (statut.NumeroSalve > 0) m.resultat.NumeroSalve = statut.NumeroSalve;
+}
+
+void ChangerChauffe(const SuiviMarche& suivi) {
+    if (suivi.demandes == nullptr || !suivi.demandes->ChauffeModifiee) return;
+    suivi.demandes->ChauffeModifiee = false;
+    EnvoyerChauffe(ValeurPWM(suivi.demandes->ChauffeVoulue),
+                   {[&suivi] { return ArretVoulu(suivi); }, suivi.Prevenir});
+}
+
+void Stopper(Marche& m, FinMarche fin) {
+    StatutZelko statut;
+    const bool arretee = ArreterMarche(m.suivi, statut);
+    if (arretee) Retenir(m, statut);
+    m.resultat.fin = arretee ? fin : FinMarche::Abandonnee;
+}
+
+bool DitPourquoi(const StatutZelko& statut) {
+    return statut.FinDeListe || statut.ArretDemande || statut.ArretBoutonStop ||
+           statut.OrigineOuverteEnMouvement || statut.FinCourseOuverteEnMouvement;
+}
+
+void Suivre(Marche& m) {
+    for (;;) {
+        LaisserPasserEvenements();
+        if (ArretVoulu(m.suivi)) return Stopper(m, FinMarche::Arretee);
+        ChangerChauffe(m.suivi);
+        const StatutZelko statut = Avancer(m);
+        Noter(m.echecs, statut.Recu, m.suivi);
+        if (!statut.Recu) {
+            if (RienNePart()) return Stopper(m, FinMarche::Impossible);
+            continue;
+        }
+        Retenir(m, statut);
+        if (statut.Fini) {
+            m.resultat.fin = DitPourquoi(statut) ? FinMarche::Finie : FinMarche::SansRaison;
+            return;
+        }
+        if (!Annoncer(m)) return Stopper(m, FinMarche::SansDuree);
+    }
+}
+
+} // namespace
+
+ResultatMarche FaireMarche(std::span<const Salve> salves, const SuiviMarche& suivi) {
+    Marche m{salves, suivi};
+    if (!MouvementsActifs) return m.resultat;
+    if (Remplir(m) && Demarrer(m)) Suivre(m);
+    if (m.resultat.fin == FinMarche::StopAvantMouvement) OublierArret(suivi);
+    return m.resultat;
+}
+
+bool ArreterMarche(const SuiviMarche& suivi, StatutZelko& statut) {
+    OublierArret(suivi);
+    EchecsConsecutifs echecs;
+    bool envoye = false;
+    for (int statuts = 0;; ++statuts) {
+        if (!envoye || statuts >= StatutsAvantNouvelArret) {
+            envoye = Envoyer(CommandeArret);
+            statuts = 0;
+        }
+        const StatutZelko lu = DemanderStatut();
+        if (lu.Recu) statut = lu;
+        if (lu.Recu && lu.Fini) return true;
+        if (RienNePart()) return false;
+        Noter(echecs, envoye && lu.Recu, suivi);
+        LaisserPasserEvenements();
+        // A second stop gives up a box that doesn't answer, or that never comes to rest.
+        const bool sourde = !lu.Recu || statuts + 1 >= StatutsAvantNouvelArret;
+        if (sourde && ArretVoulu(suivi)) {
+            OublierArret(suivi);
+            return false;
+        }
+    }
+}
+
+bool RefroidirFil(const SuiviMarche& suivi) {
+    const FinChauffe fin = CouperChauffe({[&suivi] { return ArretVoulu(suivi); }, suivi.Prevenir});
+    OublierArret(suivi);
+    // An interruption has been told already.
+    if (fin == FinChauffe::Impossible && ChauffePeutEtreActive()) SignalerChauffeNonCoupee();
+    return fin == FinChauffe::Confirmee;
+}
+
+bool SecourirMarche() noexcept {
+    try {
+        bool coupee = false;
+        for (int essai = 0; essai < EssaisDeSecours && !coupee; ++essai) {
+            if (essai > 0) Patienter(EntreDeuxEssais);
+            Envoyer(CommandeArret);
+            coupee = Envoyer(CommandeChauffe) && TamponEchange[2] == 0 && TamponEchange[4] == 0;
+        }
+        if (!coupee && ChauffePeutEtreActive()) SignalerChauffeNonCoupee();
+        return coupee;
+    } catch (...) {
+        return false; // whoever shows boxes has failed as well: there is nothing left to try
+    }
+}
+
+} // namespace tessarel
