@@ -19,8 +19,6 @@ ResultatEnvoi EnvoyerSalves(const TableauSalves& salves, const SuiviMarche& suiv
     try {
         ResultatEnvoi envoi;
         envoi.marche = FaireMarche(salves, suivi);
-        const FinMarche fin = envoi.marche.fin;
-        if (fin == FinMarche::StopAvantMouvement) ViderFile();
         envoi.chauffeCoupee = RefroidirFil(suivi);
         return envoi;
     } catch (...) {

@@ -240,7 +240,10 @@ ResultatMarche FaireMarche(std::span<const Salve> salves, const SuiviMarche& sui
     Marche m{salves, suivi};
     if (!MouvementsActifs) return m.resultat;
     if (Remplir(m) && Demarrer(m)) Suivre(m);
-    if (m.resultat.fin == FinMarche::StopAvantMouvement) OublierArret(suivi);
+    if (m.resultat.fin == FinMarche::StopAvantMouvement) {
+        OublierArret(suivi);
+        Envoyer(CommandeFile, 0); // what was filled in must not wait there for somebody's B 128
+    }
     return m.resultat;
 }
 
@@ -266,6 +269,17 @@ bool ArreterMarche(const SuiviMarche& suivi, StatutZelko& statut) {
             return false;
         }
     }
+}
+
+bool EnvoyerJusquaReponse(std::uint8_t code, std::uint8_t arg1, const SuiviMarche& suivi) {
+    EchecsConsecutifs echecs;
+    while (!Envoyer(code, arg1)) {
+        if (RienNePart()) return false;
+        Noter(echecs, false, suivi);
+        LaisserPasserEvenements();
+        if (ArretVoulu(suivi)) return false;
+    }
+    return true;
 }
 
 bool RefroidirFil(const SuiviMarche& suivi) {

@@ -51,7 +51,7 @@ struct SuiviMarche {
 };
 
 enum class FinMarche {
-    StopAvantMouvement, // asked before B 128: nothing moved
+    StopAvantMouvement, // asked before B 128: nothing moved, B 0 was sent
     Arretee,            // S was sent and the box stands
     Finie,              // ended by itself; the status says why
     SansRaison,         // stands, and does not say why: its power was cut, or another program talked to it
@@ -71,6 +71,10 @@ ResultatMarche FaireMarche(std::span<const Salve> salves, const SuiviMarche& sui
 
 // S until the box says that it stands. False when it doesn't answer and a second stop was asked.
 bool ArreterMarche(const SuiviMarche& suivi, StatutZelko& statut);
+
+// One command, again and again until its exchange succeeds: for what must not be passed over, as the mode of
+// the origin switches. False when a stop was asked in the meantime, or nothing can reach a box.
+bool EnvoyerJusquaReponse(std::uint8_t code, std::uint8_t arg1, const SuiviMarche& suivi);
 
 // Heat off, until confirmed; true when it was. A wire that may still be hot is told by a critical box. A stop
 // asked in the meantime ends the trying.

@@ -3,7 +3,7 @@
 
 #include "app/texts/textes.h"
 #include "app/texts/textes_programme.h"
-#include "link/commandes.h"
+#include "link/echange.h"
 #include "platform/dialogue.h"
 #include "platform/nombres.h"
 
@@ -25,6 +25,9 @@ constexpr std::int32_t CourseDesGrandes = 600;
 // A switch that is not left after this way is not going to close, mm.
 constexpr double ReculMaxi = 2;
 constexpr int Essais = 3;
+// Argument of O: switches stop motion, or those of the origin may open.
+constexpr std::uint8_t ModeUsuel = 0;
+constexpr std::uint8_t ModeOrigines = 1;
 // The one machine whose X2 has an origin switch of its own.
 constexpr const char* MachineAvecOrigineX2 = "QT4X v10";
 // Rows of TextesDoubles.
@@ -43,6 +46,11 @@ struct Recherche {
 
 bool EstY(std::size_t axe) {
     return axe == AxeY1 || axe == AxeY2;
+}
+
+// An axis that no output steps neither moves nor has a switch.
+bool EstPresent(const TableMachine& table, std::size_t axe) {
+    return table.SortieStep[axe] != 0;
 }
 
 // +1 or -1: the way to the switch.
@@ -146,10 +154,15 @@ bool ToutDegage(const Recherche& r) {
     return std::ranges::all_of(AxesADegager(r.table), [&](std::size_t axe) { return r.distances[axe] == 0; });
 }
 
+// The mode must be known: in homing mode no switch would stop the next travel. False when the user gives up.
+bool ChangerMode(Recherche& r, std::uint8_t mode) {
+    if (EnvoyerJusquaReponse(CommandeOrigine, mode, r.suivi)) return true;
+    return Terminer(r, FinOrigine::Annulee, RangeeAnnulation);
+}
+
 // One travel to the switches and out of them. False when the search ends here.
 bool UnPassage(Recherche& r) {
-    if (!AllerAuxInterrupteurs(r)) return false;
-    ModeOrigine();
+    if (!AllerAuxInterrupteurs(r) || !ChangerMode(r, ModeOrigines)) return false;
     bool continuer = true;
     for (const std::size_t axe : AxesADegager(r.table)) {
         if (r.distances[axe] != 0) continuer = continuer && DegagerAxe(r, axe);
@@ -163,9 +176,12 @@ FinOrigine ChercherDirection(Recherche& r) {
     int essais = 0;
     while (!ToutDegage(r)) {
         const Distances avant = r.distances;
-        const bool continuer = UnPassage(r);
+        bool continuer = UnPassage(r);
         const bool ouverte = continuer && InterrupteurOrigineOuvert();
-        ModeNormal();
+        if (continuer)
+            continuer = ChangerMode(r, ModeUsuel);
+        else
+            EnvoyerJusquaReponse(CommandeOrigine, ModeUsuel, r.suivi); // what ended it has been told already
         if (!continuer) return r.fin;
         if (!ouverte && r.distances != avant) continue;
         if (++essais == Essais) {
@@ -184,7 +200,8 @@ FinOrigine RechercheOrigine(const TableMachine& table, AxesOrigine axes, const S
         if (axes == (directionY ? AxesOrigine::X : AxesOrigine::Y)) continue;
         Recherche r{table, suivi};
         for (std::size_t axe = 0; axe < r.distances.size(); ++axe)
-            if (EstY(axe) == directionY) r.distances[axe] = LongueDistance(table, axe);
+            if (EstY(axe) == directionY && EstPresent(table, axe))
+                r.distances[axe] = LongueDistance(table, axe);
         const FinOrigine fin = ChercherDirection(r);
         if (fin != FinOrigine::Trouvee) return fin;
     }

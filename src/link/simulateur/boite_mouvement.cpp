@@ -150,7 +150,7 @@ void BoiteZelko::CalculerBornes() {
         const std::int64_t bout = std::llround(course * pasParMm);
         const std::int64_t marge = std::llround(m_mecanique.margeFinDeCourse * pasParMm);
         const bool enHaut = m_mecanique.origineEnHaut && EstY(a);
-        m_borne[a] = m_ram.switchs && m_ram.pasParMm[a] > 0;
+        m_borne[a] = m_ram.switchs && m_ram.axePresent[a] && m_ram.pasParMm[a] > 0;
         m_borneOrigine[a] = enHaut ? bout + m_ram.pasOrigine[a] : -m_ram.pasOrigine[a];
         m_borneFin[a] = enHaut ? -marge : bout + marge;
     }
