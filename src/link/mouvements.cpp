@@ -1,4 +1,4 @@
-// Single moves.
+// Single moves on the box, the causes that end them, and the switches asked before them.
 #include "link/mouvements.h"
 
 #include "app/texts/textes.h"

@@ -1,4 +1,4 @@
-// Searches the origin.
+// Searches the origin of the machine: to the switches, out of them, to the origin.
 #include "link/recherche_origine.h"
 
 #include "app/texts/textes.h"
