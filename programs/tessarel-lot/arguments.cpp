@@ -81,9 +81,7 @@ std::string RaisonUsage(const CLI::App& programme, const CLI::ParseError& erreur
     if (dynamic_cast<const CLI::ExtrasError*>(&erreur) != nullptr)
         return Dire("inattendu : ", "unexpected: ") + phrase.substr(phrase.find(": ") + 2);
     if (dynamic_cast<const CLI::RequiredError*>(&erreur) != nullptr) {
-        if (programme.get_subcommands().empty())
-            return Dire("un verbe est attendu : decouper, convertir, info, machines ou interface",
-                        "a verb is expected: decouper, convertir, info, machines or interface");
+        if (programme.get_subcommands().empty()) return Dire("un verbe est attendu", "a verb is expected");
         return Avant(phrase, " is required") + Dire(" est attendu", " is expected");
     }
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&erreur) != nullptr)
@@ -156,6 +154,10 @@ Commande LireCommande(int argc, char** argv) {
     DeclarerInfo(programme, choisir);
     DeclarerMachines(programme, choisir);
     DeclarerInterface(programme, choisir);
+    DeclarerAile(programme, choisir);
+    DeclarerOutil(programme, choisir);
+    DeclarerIntermediaire(programme, choisir);
+    DeclarerMesures(programme, choisir);
     programme.require_subcommand(1);
     try {
         programme.parse(argc, argv);

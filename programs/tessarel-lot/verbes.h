@@ -25,6 +25,10 @@ void DeclarerConvertir(CLI::App& programme, const ChoisirAction& choisir);
 void DeclarerInfo(CLI::App& programme, const ChoisirAction& choisir);
 void DeclarerMachines(CLI::App& programme, const ChoisirAction& choisir);
 void DeclarerInterface(CLI::App& programme, const ChoisirAction& choisir);
+void DeclarerAile(CLI::App& programme, const ChoisirAction& choisir);
+void DeclarerOutil(CLI::App& programme, const ChoisirAction& choisir);
+void DeclarerIntermediaire(CLI::App& programme, const ChoisirAction& choisir);
+void DeclarerMesures(CLI::App& programme, const ChoisirAction& choisir);
 
 // A verb with its help flag, accepting the program's own options after it as well.
 CLI::App* AjouterVerbe(CLI::App& programme, const std::string& nom, const std::string& description);

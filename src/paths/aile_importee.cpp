@@ -37,20 +37,6 @@ Boite BoitePoints(const std::vector<PointProfil>& points) {
     return b;
 }
 
-void Vriller(std::vector<PointProfil>& points, double degres) {
-    // The leading edge is the first of the points of greatest X, as in the design.
-    const PointProfil bord = *std::max_element(
-        points.begin(), points.end(), [](const PointProfil& a, const PointProfil& b) { return a.X < b.X; });
-    const double c = std::cos(degres * RadiansParDegre);
-    const double s = std::sin(degres * RadiansParDegre);
-    for (PointProfil& p : points) {
-        const double x = p.X - bord.X;
-        const double y = p.Y - bord.Y;
-        p.X = bord.X + x * c - y * s;
-        p.Y = bord.Y + x * s + y * c;
-    }
-}
-
 // What a profile says of itself, but for the offset.
 std::vector<PointProfil> Former(const ProfilAile& profil) {
     std::vector<PointProfil> points = profil.Points;
@@ -63,7 +49,7 @@ std::vector<PointProfil> Former(const ProfilAile& profil) {
         if (profil.MiroirVertical) p.Y = b.yMin + b.yMax - p.Y;
         p.Y *= hauteur;
     }
-    if (profil.Vrillage != 0) Vriller(points, profil.Vrillage);
+    if (profil.Vrillage != 0) VrillerProfil(points, profil.Vrillage);
     return points;
 }
 
@@ -102,6 +88,19 @@ void PrendreFichier(ProfilAile& profil, const char* section, const std::string& 
 }
 
 } // namespace
+
+void VrillerProfil(std::vector<PointProfil>& points, double degres) {
+    const PointProfil bord = *std::max_element(
+        points.begin(), points.end(), [](const PointProfil& a, const PointProfil& b) { return a.X < b.X; });
+    const double c = std::cos(degres * RadiansParDegre);
+    const double s = std::sin(degres * RadiansParDegre);
+    for (PointProfil& p : points) {
+        const double x = p.X - bord.X;
+        const double y = p.Y - bord.Y;
+        p.X = bord.X + x * c - y * s;
+        p.Y = bord.Y + x * s + y * c;
+    }
+}
 
 void ConvertirPouces(AileImportee& aile) {
     EnMillimetres(aile.Emplanture);

@@ -44,6 +44,10 @@ AileImportee AnalyserFc(const std::string& octets, const std::string& chemin);
 // The ends that have points, root first, placed: mirrors, height, twist, sweep, offset, in this order.
 std::vector<Sequence> SequencesAile(const AileImportee& aile);
 
+// Turns a profile by `degres` about its leading edge, the first of its points of greatest X: the nose rises
+// when positive. It has one point at least.
+void VrillerProfil(std::vector<PointProfil>& points, double degres);
+
 // The same from a file: the two profiles, or the one that is there. An end without points whose `Fichier`
 // names a drawing in the file's own folder takes its first path. FauteFichier, FauteLecture.
 std::vector<Sequence> LireCPX2TS2D(const std::string& chemin, RapportLecture* rapport = nullptr);

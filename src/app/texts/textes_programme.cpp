@@ -153,6 +153,23 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
      "message will not appear the next time you open it."},
     {TexteProgramme::AncienneVersionTitre, "Ancienne version de fichier", "Old file version"},
 
+    // 4-axis design
+    {TexteProgramme::IntermediaireNombres,
+     "Le profil intermédiaire demande autant de points à l'emplanture qu'au saumon.",
+     "The intermediate profile needs as many points on the root as on the tip."},
+    {TexteProgramme::CtrlSansPremierBouton,
+     "Le premier bouton du cadre, \"Points pour application des outils\", doit être enfoncé pour pouvoir "
+     "utiliser la touche Ctrl pour déplacer des points.",
+     "The first button of the frame, \"Points for the tools\", must be pressed in order to use the Ctrl key "
+     "to "
+     "move points."},
+    {TexteProgramme::OutilInconnu, "Il n'y a pas d'outil nommé %1.", "There is no tool named %1."},
+    {TexteProgramme::OutilSansIndice, "%1 demande un indice.", "%1 needs an index."},
+    {TexteProgramme::OutilIndice, "%1 : l'indice doit être un nombre de 0 à %2, et non %3.",
+     "%1: the index must be a number from 0 to %2, and not %3."},
+    {TexteProgramme::OutilValeur, "%1 demande une valeur.", "%1 needs a value."},
+    {TexteProgramme::OutilTropDeTermes, "%1 : %2 est de trop.", "%1: %2 is too much."},
+
     // Drawings in and out
     {TexteProgramme::OuvrirDessinTitre,
      "Choisissez un fichier (.dxf, .tsr, .qnt, .cpx, .dat, .plt, .eps, .txt)",

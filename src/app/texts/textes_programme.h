@@ -61,6 +61,15 @@ enum class TexteProgramme {
     AncienneVersion,
     AncienneVersionTitre,
 
+    // 4-axis design
+    IntermediaireNombres,
+    CtrlSansPremierBouton,
+    OutilInconnu,      // %1 control
+    OutilSansIndice,   // %1 control
+    OutilIndice,       // %1 control, %2 highest index, %3 index given
+    OutilValeur,       // %1 control
+    OutilTropDeTermes, // %1 control, %2 what is too much
+
     // Drawings in and out
     OuvrirDessinTitre,
     FiltreDessins,
