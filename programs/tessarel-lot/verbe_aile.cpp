@@ -6,6 +6,7 @@
 
 #include "app/settings/parametres.h"
 #include "app/texts/textes.h"
+#include "cut4x/parametres_decoupe4x.h"
 #include "design4x/aile_neuve.h"
 #include "design4x/synchronisation.h"
 #include "machine/table_machine.h"
@@ -34,11 +35,6 @@ struct DemandeAile {
 // Angles of the perspective that the design window starts with.
 constexpr int OmegaPerspective = 120;
 constexpr int AlphaPerspective = 217;
-// Values of the keys of a cut that starts.
-constexpr int DecalageAGauche = 0;
-constexpr int DecalageADroite = 1;
-constexpr int DecalageVariable = 1;
-constexpr double EpaisseurLestsUsuelle = 30; // mm
 
 // The first path of a drawing; nothing after a box.
 std::optional<ProfilLu> LireProfil(const std::string& fichier, Progression& progression) {
@@ -57,11 +53,10 @@ std::optional<ProfilLu> LireProfil(const std::string& fichier, Progression& prog
 
 // The cut that suits the wing: the kerf goes to the side away from the foam that is kept.
 void ReglerDecoupe(const ProjetCPX& conception, Projet4axes& stocke) {
-    stocke.CoteDecalage = TourneADroite(conception.E.Points) ? DecalageAGauche : DecalageADroite;
-    stocke.TypeAlgorithmeDecalage = DecalageVariable;
-    stocke.EpaisseurLests = EpaisseurLestsUsuelle;
-    stocke.OffsetBlocX = DecimalSimple(TableINI.MargeOrigineBloc);
-    stocke.CurseurSortieIntermediaire = stocke.CurseurSortieIntermediaire2 = 1;
+    ParametresDecoupe4axes parametres = ParametresDecoupe4axesInitiaux(TableINI);
+    parametres.CoteDecalage =
+        TourneADroite(conception.E.Points) ? CoteDecalageD4X::Gauche : CoteDecalageD4X::Droite;
+    ReporterParametresProjet(parametres, stocke);
 }
 
 std::string TexteProfil(const ProfilCPX& profil) {
