@@ -1,12 +1,11 @@
 // The virtual box as a program: on its socket, with a window or without.
 #include "arguments.h"
 #include "reglages_utilisateur.h"
-#include "sans_fenetre.h"
+#include "service.h"
 
 #include "platform/flux_standards.h"
 #include "platform/signaux_fin.h"
 
-#include <cstdio>
 #include <exception>
 
 int main(int argc, char** argv) {
@@ -19,9 +18,10 @@ int main(int argc, char** argv) {
     arguments.poste.chercherMachine = MachineConnue;
     EcouterSignauxDeFin();
     try {
-        return ServirSansFenetre(arguments);
+        return arguments.sansFenetre ? ServirSansFenetre(arguments)
+                                     : ServirAvecFenetre(arguments, argc, argv);
     } catch (const std::exception& erreur) {
-        std::fputs((std::string("zelko-simulateur: ") + erreur.what() + "\n").c_str(), stderr);
+        Avertir(erreur.what());
         return StatutRefuse;
     }
 }

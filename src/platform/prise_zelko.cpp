@@ -213,26 +213,29 @@ void PriseZelko::Lire(int paquets) {
     }
 }
 
-void PriseZelko::Servir(std::chrono::milliseconds attente) {
+bool PriseZelko::Servir(std::chrono::milliseconds attente) {
     std::array<epoll_event, 3> evenements;
     const int n = ::epoll_wait(m_guet, evenements.data(), static_cast<int>(evenements.size()),
                                static_cast<int>(attente.count()));
     bool nouveau = false;
+    bool paquet = false;
     for (int i = 0; i < n; ++i) {
         const int fd = evenements[static_cast<std::size_t>(i)].data.fd;
         if (fd == m_reveil) {
             std::uint64_t fois = 0;
             if (::read(m_reveil, &fois, sizeof fois) > 0) RendreLesTardives();
         } else if (fd == m_client) {
+            paquet = true;
             Lire(PaquetsParTour);
         } else if (fd == m_ecoute) {
             nouveau = true;
         }
     }
     // Last, so that a client that has hung up makes room for the one that comes back.
-    if (!nouveau || m_ecoute < 0) return;
+    if (!nouveau || m_ecoute < 0) return paquet;
     if (m_client >= 0) Lire(PaquetsAvantDepart);
     Accueillir();
+    return paquet;
 }
 
 } // namespace tessarel

@@ -43,8 +43,9 @@ public:
     [[nodiscard]] bool Branchee() const { return m_ecoute >= 0; }
     [[nodiscard]] bool AvecClient() const { return m_client >= 0; }
 
-    // Waits for something to do, at most so long (a signal ends the wait too), and does all there is.
-    void Servir(std::chrono::milliseconds attente);
+    // Waits for something to do, at most so long (a signal ends the wait too), and does all there is. True
+    // when it was a packet.
+    bool Servir(std::chrono::milliseconds attente);
     [[nodiscard]] int Descripteur() const { return m_guet; }
     [[nodiscard]] const std::string& Chemin() const { return m_chemin; }
 

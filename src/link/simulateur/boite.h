@@ -25,6 +25,8 @@ struct Mecanique {
     double courseY = 510;
     bool origineEnHaut = false;  // the origin of Y, and its switch, are at the far end of its travel
     double margeFinDeCourse = 5; // mm from the end of the travel to the limit switches
+    double ecartement = 520;     // mm between the two carriages; only for pictures
+    bool operator==(const Mecanique&) const = default;
 };
 
 inline constexpr std::size_t CapaciteFileUsuelle = 128;

@@ -44,6 +44,7 @@ struct TableRam {
     std::array<int, NombreAxes> pasParMm = {};
     std::array<int, NombreAxes> pasOrigine = {};  // from switch to origin
     std::array<bool, NombreAxes> axePresent = {}; // some output carries its steps
+    bool operator==(const TableRam&) const = default;
 };
 
 bool EstVierge(const MemoireBoite& memoire);

@@ -66,6 +66,7 @@ Mecanique MecaniqueDeMachine(const TableMachine& table) {
     m.courseX = table.CourseX;
     m.courseY = table.CourseY;
     m.origineEnHaut = table.OrigineEnHaut;
+    if (table.EcartementY1Y2 > 0) m.ecartement = table.EcartementY1Y2;
     return m;
 }
 

@@ -80,11 +80,12 @@ ReponsePrise PosteVirtuel::Traiter(const Tampon& commande) {
     return p;
 }
 
-void PosteVirtuel::Servir(std::chrono::milliseconds attente) {
-    m_prise->Servir(attente);
+bool PosteVirtuel::Servir(std::chrono::milliseconds attente) {
+    const bool servi = m_prise->Servir(attente);
     m_boite.Actualiser();
     SuivreBranchement();
     if (m_lignes.size() > LignesMax || Maintenant() - m_dernierVidage > DelaiVidage) ViderJournal();
+    return servi;
 }
 
 void PosteVirtuel::SuivreBranchement() {

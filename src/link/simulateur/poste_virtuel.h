@@ -40,8 +40,9 @@ public:
     PosteVirtuel(const PosteVirtuel&) = delete;
     PosteVirtuel& operator=(const PosteVirtuel&) = delete;
 
-    // Waits at most so long for an exchange and does what there is to do. Called again and again.
-    void Servir(std::chrono::milliseconds attente);
+    // Waits at most so long for an exchange and does what there is to do. Called again and again. True
+    // when there was one.
+    bool Servir(std::chrono::milliseconds attente);
     [[nodiscard]] BoiteZelko& Boite() { return m_boite; }
     [[nodiscard]] PriseZelko& Prise() { return *m_prise; }
     // Hears every note beside the log.
