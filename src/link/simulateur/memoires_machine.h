@@ -7,7 +7,7 @@
 
 namespace tessarel::simulateur {
 
-// The three parts that a save of this machine leaves in a memory.
+// The three parts that a save of this machine leaves in a memory; FauteDepassement where it does not fit.
 MemoireBoite MemoireDeMachine(const TableMachine& table);
 
 Mecanique MecaniqueDeMachine(const TableMachine& table);
