@@ -1,6 +1,7 @@
 // The cut from the shell: check what is asked, open, place, assemble, and only then write.
 #include "decoupe_lot.h"
 
+#include "decoupe4x_lot.h"
 #include "langue_lot.h"
 #include "machine_lot.h"
 #include "progression.h"
@@ -61,18 +62,7 @@ bool DemandeAcceptable(const DemandeDecoupe& demande) {
         AfficherExclamation(TextesMessages(MessagesPasDInterface), TitresMessages(MessagesPasDInterface));
         return false;
     }
-    if (ExtensionRefusee(demande.gcode, "gcode", TextesMessages(MessagesExtensionGcode),
-                         TitresMessages(MessagesExtensionGcode)) ||
-        ExtensionRefusee(demande.dxf, "dxf", TextesMessages(MessagesExtensionDxf),
-                         TitresMessages(MessagesExtensionDxf)) ||
-        ExtensionRefusee(demande.apercu, "png",
-                         Dire("L'extension de fichier n'est pas correcte, l'aperçu se fait en .png",
-                              "The file extension is wrong; the preview is saved as .png"),
-                         TitresMessages(MessagesExtensionDxf)))
-        return false;
-    for (const std::string* sortie : {&demande.gcode, &demande.dxf, &demande.apercu})
-        if (SortieEstUneEntree(*sortie, demande.fichiers)) return false;
-    return true;
+    return SortiesAcceptables(demande);
 }
 
 bool OuvrirTout(const std::vector<std::string>& fichiers, Espace2D& espace, LectureLot& lecture,
@@ -138,7 +128,40 @@ void EcrireDxf(const std::string& chemin, const Decoupe2D& decoupe) {
 
 } // namespace
 
+bool SortiesAcceptables(const DemandeDecoupe& demande) {
+    if (ExtensionRefusee(demande.gcode, "gcode", TextesMessages(MessagesExtensionGcode),
+                         TitresMessages(MessagesExtensionGcode)) ||
+        ExtensionRefusee(demande.dxf, "dxf", TextesMessages(MessagesExtensionDxf),
+                         TitresMessages(MessagesExtensionDxf)) ||
+        ExtensionRefusee(demande.apercu, "png",
+                         Dire("L'extension de fichier n'est pas correcte, l'aperçu se fait en .png",
+                              "The file extension is wrong; the preview is saved as .png"),
+                         TitresMessages(MessagesExtensionDxf)))
+        return false;
+    for (const std::string* sortie : {&demande.gcode, &demande.dxf, &demande.apercu})
+        if (SortieEstUneEntree(*sortie, demande.fichiers)) return false;
+    return true;
+}
+
+std::string Demande4axes::OptionDonnee() const {
+    if (!cles.empty()) return "--" + cles.front().first;
+    const std::pair<bool, const char*> drapeaux[] = {{symetrie, "--symetrie"},
+                                                     {blocDresse, "--bloc-dresse"},
+                                                     {dresser, "--dresser"},
+                                                     {surfacer, "--surfacer"},
+                                                     {guillotine.has_value(), "--guillotine"},
+                                                     {armementRapide, "--armement-rapide"},
+                                                     {autoXY, "--auto-xy"},
+                                                     {autoZ, "--auto-z"}};
+    for (const auto& [donne, nom] : drapeaux)
+        if (donne) return nom;
+    return "";
+}
+
 int Decouper(const DemandeDecoupe& demande) {
+    if (EstDecoupe4axes(demande)) return Decouper4axes(demande);
+    if (const std::string option = demande.quatreAxes.OptionDonnee(); !option.empty())
+        throw MauvaisUsage(option + Dire(" va avec un projet 4 axes", " goes with a 4-axis project"));
     if (!DemandeAcceptable(demande)) return StatutRefuse;
     if (!ChoisirMachine(demande.machine) || !ChoisirMatiereNommee(demande.matiere)) return StatutRefuse;
 

@@ -1,13 +1,29 @@
-// A 2D cut from the command line: what is asked, and the doing of it.
+// A cut from the command line: what is asked, and the doing of it; a 4-axis one goes on in decoupe4x_lot.
 #pragma once
 
 #include "work2d/placement.h"
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tessarel::lot {
+
+// What only a 4-axis cut can be asked.
+struct Demande4axes {
+    std::vector<std::pair<std::string, std::string>> cles; // keys of [Decoupe4axes] with their values
+    bool symetrie = false;
+    bool blocDresse = false;
+    bool dresser = false;
+    bool surfacer = false;
+    std::optional<std::pair<float, float>> guillotine; // height in mm, angle in degrees
+    bool armementRapide = false;
+    bool autoXY = false;
+    bool autoZ = false;
+    // Name of one that was given; empty when none was.
+    [[nodiscard]] std::string OptionDonnee() const;
+};
 
 struct DemandeDecoupe {
     std::vector<std::string> fichiers;
@@ -25,7 +41,12 @@ struct DemandeDecoupe {
     std::string dxf;
     std::string apercu;
     bool interface = false;
+    Demande4axes quatreAxes;
+    std::string option2D; // one given that only a 2D cut can be asked; empty when none was
 };
+
+// False, after a box, for an output of a wrong extension or one that is an input.
+bool SortiesAcceptables(const DemandeDecoupe& demande);
 
 // Returns an exit status.
 int Decouper(const DemandeDecoupe& demande);

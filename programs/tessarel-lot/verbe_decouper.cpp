@@ -1,5 +1,6 @@
 // `decouper`: drawings or a project, placed in the block, become the path of the wire, a G-code file, a DXF,
 // a picture.
+#include "decoupe4x_lot.h"
 #include "decoupe_lot.h"
 #include "langue_lot.h"
 #include "resume_lot.h"
@@ -35,7 +36,6 @@ void DeclarerEntrees(CLI::App& verbe, DemandeDecoupe& demande) {
         .add_option("FILE", demande.fichiers,
                     Dire("Dessins, ajoutés l'un après l'autre, ou un seul projet .tsr ou .qnt",
                          "Drawings, added one after the other, or a single .tsr or .qnt project"))
-        ->required()
         ->type_name("");
     verbe
         .add_option(
@@ -105,18 +105,31 @@ void DeclarerSorties(CLI::App& verbe, DemandeDecoupe& demande) {
                    Dire("Découpe avec la machine branchée", "Cuts on the machine that is plugged in"));
 }
 
+std::string Option2DDonnee(const CLI::App& verbe) {
+    for (const char* nom : {"--bloc", "--ajuster", "--centrer-x", "--centrer-y", "--decalage", "--entree",
+                            "--sortie", "--approche", "--retour", "--dxf"})
+        if (verbe.get_option(nom)->count() > 0) return nom;
+    return "";
+}
+
 } // namespace
 
 void DeclarerDecouper(CLI::App& programme, const ChoisirAction& choisir) {
     CLI::App* verbe = AjouterVerbe(programme, "decouper",
-                                   Dire("Prépare une découpe 2D : résumé, Gcode, DXF, aperçu",
-                                        "Prepares a 2D cut: summary, Gcode, DXF, preview"));
+                                   Dire("Prépare une découpe 2D ou 4 axes : résumé, Gcode, DXF, aperçu",
+                                        "Prepares a 2D or 4-axis cut: summary, Gcode, DXF, preview"));
     const auto demande = std::make_shared<DemandeDecoupe>();
     DeclarerEntrees(*verbe, *demande);
     DeclarerPlacement(*verbe, *demande);
     DeclarerCoupe(*verbe, *demande);
     DeclarerSorties(*verbe, *demande);
-    verbe->callback([demande, choisir] { choisir([demande] { return Decouper(*demande); }); });
+    DeclarerOptions4axes(*verbe, demande->quatreAxes);
+    verbe->callback([verbe, demande, choisir] {
+        // The guillotine alone needs nothing to read.
+        if (demande->fichiers.empty() && !demande->quatreAxes.guillotine) throw CLI::RequiredError("FILE");
+        demande->option2D = Option2DDonnee(*verbe);
+        choisir([demande] { return Decouper(*demande); });
+    });
 }
 
 } // namespace tessarel::lot

@@ -3,7 +3,9 @@
 #include "bout_en_bout/executer.h"
 #include "outils/dossiers.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdio>
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -84,6 +86,63 @@ void VerifierDecoupe(const std::string& dessin, const std::string& options) {
     EXPECT_NE(rs274.sortie.find("DWELL(2.0000)"), std::string::npos);
     EXPECT_NE(rs274.sortie.find("PROGRAM_END()"), std::string::npos);
     EXPECT_EQ(MouvementsInterpretes(rs274.sortie), ecrits);
+}
+
+// A wing of two profiles with as many points, tapered and swept.
+std::string Aile4axes() {
+    const auto profil = [](double corde, double dx, double dy) {
+        std::string points;
+        constexpr int n = 60;
+        for (int i = 0; i <= 2 * n; ++i) {
+            const double a = 3.14159265358979 * i / n;
+            const double x = (1 + std::cos(a)) / 2;
+            const double y = (i <= n ? 0.09 : -0.05) * std::sqrt(std::max(0.0, 1 - x)) * x * 2;
+            points += std::to_string(i + 1) + "=" + std::to_string((1 - x) * corde + dx) + ":" +
+                      std::to_string(y * corde + dy) + ":" + (i == n ? "8" : "0") + "\r\n";
+        }
+        return "NombrePoints=" + std::to_string(2 * n + 1) + "\r\n" + points;
+    };
+    return "[TypeProjet]\r\nOnglet=D4X\r\n[Conception4axes_Emplanture]\r\n" + profil(250, 0, 0) +
+           "[Conception4axes_Saumon]\r\n" + profil(180, 35, 5) +
+           "[Conception4axes_Position]\r\nEcartement=400\r\n[Conception4axes_Bloc]\r\nEpaisseur=60\r\n"
+           "MargeBaE=10\r\nMargeBaS=10\r\nMargeBfE=10\r\nMargeBfS=10\r\nDistProfilDessousE=15\r\n"
+           "[Decoupe4axes]\r\nTypePositionZ=2\r\nOffsetBlocX=30\r\nTypeAlgorithmeDecalage=1\r\n"
+           "[ParametresFichier]\r\nNumeroMajorVersionTessarel=5\r\n";
+}
+
+// What the 4-axis cut adds to the settings: motors, for it prepares its frames in any case.
+constexpr const char* MOTEURS = "FrequenceInterpolateur=50000\r\n"
+                                "PenteAcceleration=6\r\n"
+                                "MmParTourX1=40\r\nMmParTourY1=40\r\nMmParTourX2=40\r\nMmParTourY2=40\r\n"
+                                "PasParTourMoteurX1=200\r\nPasParTourMoteurY1=200\r\n"
+                                "PasParTourMoteurX2=200\r\nPasParTourMoteurY2=200\r\n"
+                                "MicroPasX1=64\r\nMicroPasY1=64\r\nMicroPasX2=64\r\nMicroPasY2=64\r\n"
+                                "VmaxSansAccXY=15\r\n";
+
+TEST(Interpreteur, ReconnaitUneAileSur4AxesAvecSesArrets) {
+    if (!ProgrammePresent("rs274")) GTEST_SKIP() << "rs274 (Debian package linuxcnc-uspace) is not installed";
+    for (const char* options : {"", "--TypeEntree 2 --TypeSortie 1", "--CoteDecalage 2 --symetrie",
+                                "--TypeAlgorithmeDecalage 0 --SortieIntermediaire 1 "
+                                "--CurseurSortieIntermediaire 61"}) {
+        const DossierProvisoire travail;
+        std::filesystem::create_directories(travail.Fichier("doc/Tessarel/Datas"));
+        EcrireTout(travail.Fichier("doc/Tessarel/Datas/Tessarel.ini"), std::string(REGLAGES) + MOTEURS);
+        EcrireTout(travail.Fichier("aile.tsr"), Aile4axes());
+        const Execution lot = Executer(
+            std::string("tessarel-lot --documents doc decouper aile.tsr --gcode sortie.gcode ") + options,
+            travail.Chemin());
+        ASSERT_EQ(lot.statut, 0) << lot.erreurs;
+        const auto ecrits = MouvementsDuFichier(LireTout(travail.Fichier("sortie.gcode")));
+        ASSERT_GT(ecrits.size(), 100U) << options;
+        EcrireTout(travail.Fichier("variables"), "");
+        const Execution rs274 = Executer("rs274 -g -v variables sortie.gcode", travail.Chemin());
+        EXPECT_EQ(rs274.statut, 0) << rs274.erreurs;
+        EXPECT_EQ(rs274.sortie.find("error"), std::string::npos) << rs274.sortie;
+        EXPECT_NE(rs274.sortie.find("SET_FEED_MODE(0, 0)"), std::string::npos);
+        EXPECT_NE(rs274.sortie.find("PROGRAM_STOP()"), std::string::npos) << options;
+        EXPECT_NE(rs274.sortie.find("PROGRAM_END()"), std::string::npos);
+        EXPECT_EQ(MouvementsInterpretes(rs274.sortie), ecrits) << options;
+    }
 }
 
 TEST(Interpreteur, ReconnaitLaConsoleDesEchantillons) {

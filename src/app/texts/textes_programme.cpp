@@ -273,6 +273,12 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
      "The cutting speed is zero, division impossible"},
     {TexteProgramme::IndiceHorsBornes, "L'indice %1 dépasse le nombre de points, %2",
      "Index %1 is beyond the number of points, %2"},
+    {TexteProgramme::Apercu4xCote, "Vue de côté", "Side view"},
+    {TexteProgramme::Apercu4xPlan, "Vue de dessus", "View from above"},
+    {TexteProgramme::Apercu4xChariot1, "Chariot 1", "Carriage 1"},
+    {TexteProgramme::Apercu4xChariot2, "Chariot 2", "Carriage 2"},
+    {TexteProgramme::Apercu4xEmplanture, "Côté 2, chariot 2", "Side 2, carriage 2"},
+    {TexteProgramme::Apercu4xSaumon, "Côté 1, chariot 1", "Side 1, carriage 1"},
 
     // Library and report of an opening
     {TexteProgramme::BibliothequeFichierExterieur, "Fichier extérieur à la bibliothèque",

@@ -116,6 +116,12 @@ enum class TexteProgramme {
     Decoupe4axesSansSegment,
     Decoupe4axesSansVitesse,
     IndiceHorsBornes, // %1 index, %2 count
+    Apercu4xCote,
+    Apercu4xPlan,
+    Apercu4xChariot1,
+    Apercu4xChariot2,
+    Apercu4xEmplanture,
+    Apercu4xSaumon,
 
     // Library and report of an opening
     BibliothequeFichierExterieur,
