@@ -87,6 +87,9 @@ std::string RaisonUsage(const CLI::App& programme, const CLI::ParseError& erreur
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&erreur) != nullptr)
         return Avant(phrase, ":") +
                Dire(" : une valeur et une seule est attendue", ": exactly one value is expected");
+    if (dynamic_cast<const CLI::ExcludesError*>(&erreur) != nullptr)
+        return Avant(phrase, " excludes") + Dire(" exclut ", " excludes ") +
+               phrase.substr(phrase.find("excludes ") + 9);
     return phrase;
 }
 
@@ -150,6 +153,10 @@ Commande LireCommande(int argc, char** argv) {
     DeclarerOptions(programme, commande);
     const ChoisirAction choisir = [&commande](Action action) { commande.action = std::move(action); };
     DeclarerDecouper(programme, choisir);
+    DeclarerSynchroniser(programme, choisir);
+    DeclarerNettoyer(programme, choisir);
+    DeclarerLisser(programme, choisir);
+    DeclarerIntersection(programme, choisir);
     DeclarerConvertir(programme, choisir);
     DeclarerInfo(programme, choisir);
     DeclarerMachines(programme, choisir);

@@ -21,6 +21,10 @@ using Action = std::function<int()>;
 using ChoisirAction = std::function<void(Action)>;
 
 void DeclarerDecouper(CLI::App& programme, const ChoisirAction& choisir);
+void DeclarerSynchroniser(CLI::App& programme, const ChoisirAction& choisir);
+void DeclarerNettoyer(CLI::App& programme, const ChoisirAction& choisir);
+void DeclarerLisser(CLI::App& programme, const ChoisirAction& choisir);
+void DeclarerIntersection(CLI::App& programme, const ChoisirAction& choisir);
 void DeclarerConvertir(CLI::App& programme, const ChoisirAction& choisir);
 void DeclarerInfo(CLI::App& programme, const ChoisirAction& choisir);
 void DeclarerMachines(CLI::App& programme, const ChoisirAction& choisir);

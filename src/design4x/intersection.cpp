@@ -6,6 +6,7 @@
 #include "platform/dialogue.h"
 #include "platform/nombres.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace tessarel {
@@ -30,9 +31,9 @@ constexpr RangeesCote RangeesSaumon = {16, 18, 22, 23, 24};
 
 using Profil = std::vector<PointProfil>;
 
-bool Refuser(int rangee) {
+IssueIntersection Refuser(int rangee) {
     AfficherCritique(TextesMessages(rangee), TitresMessages(rangee));
-    return false;
+    return IssueIntersection::Refusee;
 }
 
 // Indices of the selected points; one more than wanted is enough to know.
@@ -62,10 +63,9 @@ void InsererApres(Profil& points, std::size_t i, float x, float y) {
     points.insert(points.begin() + static_cast<std::ptrdiff_t>(i) + 1, nouveau);
 }
 
-// True when a point was put in.
-bool TraiterProfil(Profil& points, const RangeesCote& rangees) {
+IssueIntersection TraiterProfil(Profil& points, const RangeesCote& rangees) {
     const std::vector<std::size_t> choisis = PointsChoisis(points);
-    if (choisis.empty()) return false;
+    if (choisis.empty()) return IssueIntersection::RienChoisi;
     if (choisis.size() != PointsAChoisir || choisis[1] != choisis[0] + 1 || choisis[3] != choisis[2] + 1)
         return Refuser(rangees.pasQuatrePoints);
     const std::size_t a = choisis[0];
@@ -81,7 +81,7 @@ bool TraiterProfil(Profil& points, const RangeesCote& rangees) {
         return Refuser(rangees.neSeTouchentPas);
     case Croisement::Propre:
         InsererApres(points, b, x, y);
-        return true;
+        return IssueIntersection::Faite;
     case Croisement::DebutA:
     case Croisement::FinA:
         InsererApres(points, b, x, y);
@@ -92,21 +92,21 @@ bool TraiterProfil(Profil& points, const RangeesCote& rangees) {
         break;
     }
     AfficherInformation(TextesMessages(rangees.pointSuperpose), TitresMessages(rangees.pointSuperpose));
-    return true;
+    return IssueIntersection::Faite;
 }
 
 } // namespace
 
-bool cmdIntersection(ProjetCPX& projet) {
-    bool change = false;
+IssueIntersection cmdIntersection(ProjetCPX& projet) {
+    IssueIntersection issue = IssueIntersection::RienChoisi;
     try {
-        change = TraiterProfil(projet.E.Points, RangeesEmplanture);
-        change = TraiterProfil(projet.S.Points, RangeesSaumon) || change;
+        issue = TraiterProfil(projet.E.Points, RangeesEmplanture);
+        issue = std::max(issue, TraiterProfil(projet.S.Points, RangeesSaumon));
     } catch (const std::exception&) {
-        Refuser(MessagesPlantageIntersection);
+        issue = Refuser(MessagesPlantageIntersection);
     }
     CalculerExtremesCPX(projet);
-    return change;
+    return issue;
 }
 
 } // namespace tessarel
