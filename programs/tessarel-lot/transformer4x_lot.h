@@ -11,17 +11,18 @@
 namespace tessarel::lot {
 
 // Changes a design. False when it refused, after the box that says why: nothing is then written.
-using OutilCPX = std::function<bool(ProjetCPX&)>;
-
-// Reads the 4-axis project `entree`, has `outil` change it and writes it to `sortie`; what the design doesn't
-// hold (view, comment, cut) passes as it is. Prints the point counts before and after. Returns an exit
-// status.
-int TransformerProjet4axes(const std::string& entree, const std::string& sortie, const OutilCPX& outil);
+using ChangementCPX = std::function<bool(ProjetCPX&)>;
 
 struct Fichiers4x {
     std::string entree;
     std::string sortie;
 };
+
+// Reads the 4-axis project `entree`, has `outil` change it and writes it to `sortie`; what the design doesn't
+// hold (view, comment, cut) passes as it is. Prints the point counts before and after. Returns an exit
+// status.
+int TransformerProjet4axes(const Fichiers4x& fichiers, const ChangementCPX& outil);
+
 // Declares the arguments IN.tsr OUT.tsr of a verb.
 std::shared_ptr<Fichiers4x> AjouterFichiers4x(CLI::App& verbe);
 

@@ -14,7 +14,7 @@ void DeclarerIntersection(CLI::App& programme, const ChoisirAction& choisir) {
     const auto fichiers = AjouterFichiers4x(*verbe);
     verbe->callback([fichiers, choisir] {
         choisir([fichiers] {
-            return TransformerProjet4axes(fichiers->entree, fichiers->sortie, [](ProjetCPX& projet) {
+            return TransformerProjet4axes(*fichiers, [](ProjetCPX& projet) {
                 return cmdIntersection(projet) != IssueIntersection::Refusee;
             });
         });

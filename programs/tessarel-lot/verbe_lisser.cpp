@@ -14,7 +14,7 @@ void DeclarerLisser(CLI::App& programme, const ChoisirAction& choisir) {
     const auto fichiers = AjouterFichiers4x(*verbe);
     verbe->callback([fichiers, choisir] {
         choisir([fichiers] {
-            return TransformerProjet4axes(fichiers->entree, fichiers->sortie, [](ProjetCPX& projet) {
+            return TransformerProjet4axes(*fichiers, [](ProjetCPX& projet) {
                 cmdLisser(projet, Parametres.DistNettoyage);
                 return true;
             });

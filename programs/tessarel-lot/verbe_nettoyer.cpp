@@ -41,7 +41,7 @@ void DeclarerNettoyer(CLI::App& programme, const ChoisirAction& choisir) {
         ->excludes(total);
     verbe->callback([fichiers, genre, choisir] {
         choisir([fichiers, genre] {
-            return TransformerProjet4axes(fichiers->entree, fichiers->sortie,
+            return TransformerProjet4axes(*fichiers,
                                           [&](ProjetCPX& projet) { return Nettoyer(projet, *genre); });
         });
     });

@@ -12,9 +12,7 @@ void DeclarerSynchroniser(CLI::App& programme, const ChoisirAction& choisir) {
                                         "Synchronizes the two profiles of a 4-axis project"));
     const auto fichiers = AjouterFichiers4x(*verbe);
     verbe->callback([fichiers, choisir] {
-        choisir([fichiers] {
-            return TransformerProjet4axes(fichiers->entree, fichiers->sortie, cmdSynchroOptimale);
-        });
+        choisir([fichiers] { return TransformerProjet4axes(*fichiers, cmdSynchroOptimale); });
     });
 }
 
