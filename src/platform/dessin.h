@@ -46,7 +46,14 @@ struct TraitDessin {
 };
 
 // A symbol of fixed size in pixels at a place in mm.
-enum class GenreMarque : std::uint8_t { Point, PremierPoint, Fleche };
+enum class GenreMarque : std::uint8_t {
+    Point,
+    PremierPoint,
+    Fleche,
+    Poignee, // what the hand takes hold of: a light square with a coloured edge
+    Disque,  // the wire, seen along itself
+    Croix
+};
 struct MarqueDessin {
     PointDessin ou;
     double angle = 0; // radians, for arrows

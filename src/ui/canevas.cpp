@@ -29,7 +29,7 @@ Canevas::Canevas(QWidget* parent) : QWidget(parent) {
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setContextMenuPolicy(Qt::PreventContextMenu);
-    setCursor(Qt::CrossCursor);
+    setCursor(m_curseur);
     m_etaitSombre = FondSombre();
 }
 
@@ -39,7 +39,21 @@ bool Canevas::FondSombre() const {
 
 void Canevas::Montrer(Couche couche, Dessin dessin) {
     m_couches[couche].Remplacer(std::move(dessin));
+    m_matrices[couche] = {};
+    if (couche < CoucheSelection) m_fixe.valable = false;
     update();
+}
+
+void Canevas::Transformer(Couche couche, const MatriceDessin& matrice) {
+    if (m_matrices[couche] == matrice) return;
+    m_matrices[couche] = matrice;
+    if (couche < CoucheSelection) m_fixe.valable = false;
+    update();
+}
+
+void Canevas::FixerCurseur(const QCursor& curseur) {
+    m_curseur = curseur;
+    if (m_geste == Geste::Aucun || m_geste == Geste::Rectangle) setCursor(curseur);
 }
 
 void Canevas::FixerCadreComplet(const CadreDessin& cadre) {
@@ -177,7 +191,7 @@ void Canevas::mouseReleaseEvent(QMouseEvent* evenement) {
     const Geste geste = m_geste;
     const QPointF fin = evenement->position();
     m_geste = Geste::Aucun;
-    setCursor(Qt::CrossCursor);
+    setCursor(m_curseur);
     update();
     const PointDessin a = EnMm(m_debutGeste);
     const PointDessin b = EnMm(fin);
@@ -241,7 +255,7 @@ void Canevas::keyPressEvent(QKeyEvent* evenement) {
             return;
         }
         m_geste = Geste::Aucun;
-        setCursor(Qt::CrossCursor);
+        setCursor(m_curseur);
         update();
         break;
     default:

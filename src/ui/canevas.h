@@ -5,6 +5,8 @@
 #include "platform/dessin.h"
 #include "platform/images/peinture_qt.h"
 
+#include <QCursor>
+#include <QPixmap>
 #include <QWidget>
 #include <array>
 #include <cstddef>
@@ -20,16 +22,20 @@ class Canevas : public QWidget {
     Q_OBJECT
 public:
     // Painted in this order.
-    enum Couche : std::size_t { CoucheFond, CoucheTrace, CoucheOutil, NombreCouches };
+    enum Couche : std::size_t { CoucheFond, CoucheTrace, CoucheSelection, CoucheOutil, NombreCouches };
 
     explicit Canevas(QWidget* parent = nullptr);
 
     // Takes a drawing over as one layer, in place of what it held.
     void Montrer(Couche couche, Dessin dessin);
     [[nodiscard]] const DessinPrepare& Montre(Couche couche) const { return m_couches[couche]; }
+    // Shows a layer moved, scaled or turned, without a copy of it: for a drag. A new drawing of the layer is
+    // shown as it is.
+    void Transformer(Couche couche, const MatriceDessin& matrice);
 
     // What "everything" is; the next ZoomTout() shows it. The first frame given is shown at once.
     void FixerCadreComplet(const CadreDessin& cadre);
+    [[nodiscard]] const CadreDessin& CadreComplet() const { return m_complet; }
     void ZoomTout();
     // Shows a window of the plane whole, and keeps it whole when the widget changes size, until the user
     // zooms or pans.
@@ -44,6 +50,8 @@ public:
     [[nodiscard]] PointDessin EnMm(QPointF pixels) const;
     [[nodiscard]] QPointF EnPixels(PointDessin mm) const;
     void AvecRegles(bool avec);
+    // What the mouse looks like while no gesture of the view is under way.
+    void FixerCurseur(const QCursor& curseur);
     // True on a dark ground, for whoever makes the drawings.
     [[nodiscard]] bool FondSombre() const;
 
@@ -82,10 +90,25 @@ private:
     void ZoomerAutour(QPointF pixels, double facteur);
     void ChangerVue(VueDessin vue);
     void PeindreRegles(QPainter& peintre);
+    void PeindreCouches(QPainter& peintre, Couche premiere, Couche fin);
+    void PeindreFixe(QPainter& peintre);
     void PeindreElastique(QPainter& peintre);
     [[nodiscard]] bool EstUnClic(QPointF fin) const;
 
     std::array<DessinPrepare, NombreCouches> m_couches;
+    std::array<MatriceDessin, NombreCouches> m_matrices;
+    // The layers below the selection as last painted: what moves over them costs its own price only. Made
+    // when a view is painted for the second time, so that a pan does not pay for it.
+    struct ImageFixe {
+        QPixmap image;
+        VueDessin vue;
+        QColor fond;
+        PeintreDessin::Compte compte;
+        bool valable = false;
+    };
+    ImageFixe m_fixe;
+    VueDessin m_vuePeinte;
+    QCursor m_curseur{Qt::CrossCursor};
     PeintreDessin m_pinceau;
     PeintreDessin::Compte m_compte;
     VueDessin m_vue;

@@ -42,21 +42,54 @@ void Canevas::Peindre(QPainter& peintre) {
     // A region that touches the rulers only is no reason to paint the drawing again.
     const bool avecDessin = !peintre.hasClipping() || peintre.clipRegion().intersects(zone.toAlignedRect());
     if (avecDessin) {
-        peintre.fillRect(zone, palette().color(QPalette::Base));
         peintre.save();
         peintre.setClipRect(zone, Qt::IntersectClip);
         peintre.translate(zone.topLeft());
         m_compte = {};
-        for (const DessinPrepare& couche : m_couches) {
-            m_pinceau.Peindre(peintre, couche, m_vue);
-            m_compte.sommets += m_pinceau.DernierCompte().sommets;
-            m_compte.marques += m_pinceau.DernierCompte().marques;
-            m_compte.textes += m_pinceau.DernierCompte().textes;
-        }
+        PeindreFixe(peintre);
+        PeindreCouches(peintre, CoucheSelection, NombreCouches);
         peintre.restore();
         PeindreElastique(peintre);
     }
     if (m_regles) PeindreRegles(peintre);
+}
+
+void Canevas::PeindreCouches(QPainter& peintre, Couche premiere, Couche fin) {
+    for (std::size_t couche = premiere; couche < fin; ++couche) {
+        m_pinceau.Peindre(peintre, m_couches[couche], m_vue, m_matrices[couche]);
+        m_compte.sommets += m_pinceau.DernierCompte().sommets;
+        m_compte.marques += m_pinceau.DernierCompte().marques;
+        m_compte.textes += m_pinceau.DernierCompte().textes;
+    }
+}
+
+// The ground and the layers that stay: painted, or taken from the picture of the last time.
+void Canevas::PeindreFixe(QPainter& peintre) {
+    const QSizeF taille = ZoneDessin().size();
+    const QColor fond = palette().color(QPalette::Base);
+    const bool meme = m_fixe.valable && m_fixe.vue == m_vue && m_fixe.fond == fond &&
+                      m_fixe.image.devicePixelRatio() == devicePixelRatioF();
+    if (!meme && m_vuePeinte != m_vue) {
+        m_vuePeinte = m_vue;
+        m_fixe = {};
+        peintre.fillRect(QRectF(QPointF(), taille), fond);
+        PeindreCouches(peintre, CoucheFond, CoucheSelection);
+        return;
+    }
+    if (!meme) {
+        m_fixe.image = QPixmap((taille * devicePixelRatioF()).toSize());
+        m_fixe.image.setDevicePixelRatio(devicePixelRatioF());
+        m_fixe.image.fill(fond);
+        QPainter surImage(&m_fixe.image);
+        surImage.setFont(peintre.font());
+        PeindreCouches(surImage, CoucheFond, CoucheSelection);
+        m_fixe.compte = m_compte;
+        m_fixe.vue = m_vue;
+        m_fixe.fond = fond;
+        m_fixe.valable = true;
+    }
+    m_compte = m_fixe.compte;
+    peintre.drawPixmap(QPointF(), m_fixe.image);
 }
 
 void Canevas::PeindreElastique(QPainter& peintre) {

@@ -42,6 +42,11 @@ void ChampNombre::FixerValeur(double valeur) {
     Montrer();
 }
 
+void ChampNombre::FixerRefus(const std::string& texte, const std::string& titre) {
+    m_refusTexte = texte;
+    m_refusTitre = titre;
+}
+
 void ChampNombre::Montrer() {
     setText(QString::fromStdString(PointVersSeparateur(FormaterNombre(m_valeur, m_masque))));
     setModified(false);
@@ -54,7 +59,9 @@ bool ChampNombre::Valider() {
         // Restored before the box shows: the box takes the focus away, and the field then has nothing to
         // refuse.
         Montrer();
-        AfficherExclamation(TextesMessages(RangeeNombreDecimal), TitresMessages(RangeeNombreDecimal));
+        const bool usuel = m_refusTexte.empty();
+        AfficherExclamation(usuel ? TextesMessages(RangeeNombreDecimal) : m_refusTexte,
+                            usuel ? TitresMessages(RangeeNombreDecimal) : m_refusTitre);
         selectAll();
         return false;
     }

@@ -6,6 +6,8 @@
 
 #include <QLineEdit>
 
+#include <string>
+
 namespace tessarel {
 
 // Takes digits, point, comma, sign and the editing keys. A typed value counts on Enter and on leaving the
@@ -20,6 +22,8 @@ public:
     void FixerMasque(Masque masque);
     // Shows a value without a signal; it is held as given.
     void FixerValeur(double valeur);
+    // The box of a text that is no number, in place of the usual one.
+    void FixerRefus(const std::string& texte, const std::string& titre);
     // The value as given or last typed, not as rounded by the mask.
     [[nodiscard]] double Valeur() const { return m_valeur; }
 
@@ -40,6 +44,8 @@ private:
 
     Masque m_masque{"##0.00"};
     double m_valeur = 0;
+    std::string m_refusTexte; // empty: the usual words, in the language of the moment
+    std::string m_refusTitre;
 };
 
 } // namespace tessarel

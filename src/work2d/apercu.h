@@ -16,6 +16,7 @@ struct ApercuFichier {
     std::int64_t date =
         0; // of the file when it was read, and its size: an opening reads anew what has changed
     std::uintmax_t taille = 0;
+    bool retouche = false; // turned over or reversed since it was read
     ContenuFichier contenu;
 };
 

@@ -17,10 +17,18 @@ constexpr float TaillePoint = 4;
 constexpr float TaillePremierPoint = 5;
 constexpr float TailleFleche = 7;
 constexpr int FlechesDuChemin = 6;
+constexpr int FlechesDuSens = 8;
 constexpr int SousGraduations = 5;
 constexpr double GraduationsVoulues = 12; // at most about that many labels on an axis
 constexpr Masque MasqueBloc = "##0.0";
 constexpr Masque MasqueRegle = "###0.##";
+
+// On a dark ground the darkest of the told colours get a light edge. Past this many points it would be a
+// smear, and cost more than the lines.
+constexpr double LuminanceSombre = 0.18;
+constexpr std::size_t PointsMaxLisere = 20000;
+constexpr Couleur CouleurLisere = {255, 255, 255, 120};
+constexpr float EpaisseurLisere = 3;
 
 // Lengths around the table, in hundredths of its longer side.
 constexpr double TraitLong = 1.6;
@@ -30,7 +38,8 @@ constexpr double PlaceTexteY = 2.2; // beside it, by their right end
 constexpr double MargeRegle = 7;
 constexpr double MargeLibre = 3;
 
-// What a background asks for. The paths keep their colours on both: the foam stays light enough to show them.
+// What a background asks for. The paths keep their colours on both; on a dark one the foam is dim enough for
+// the light ones, and the dark ones have an edge.
 struct Palette {
     Couleur fondTable;
     Couleur bordTable;
@@ -43,12 +52,24 @@ struct Palette {
 };
 constexpr Palette PaletteClaire = {{110, 110, 219, 26}, CouleurTable,    {255, 238, 196, 235}, {186, 140, 58},
                                    {128, 128, 140},     {110, 110, 130}, {70, 70, 90},         {40, 40, 48}};
-constexpr Palette PaletteSombre = {{110, 110, 219, 46}, {150, 150, 240}, {166, 156, 128, 235},
-                                   {214, 172, 92},      {150, 150, 165}, {165, 165, 185},
-                                   {205, 205, 220},     {225, 225, 232}};
+constexpr Palette PaletteSombre = {{110, 110, 219, 46}, {150, 150, 240}, {92, 84, 64, 235}, {214, 172, 92},
+                                   {150, 150, 165},     {165, 165, 185}, {205, 205, 220},   {225, 225, 232}};
 
 const Palette& PaletteDe(const OptionsDessin& options) {
     return options.sombre ? PaletteSombre : PaletteClaire;
+}
+
+double Lineaire(std::uint8_t valeur) {
+    const double v = valeur / 255.0;
+    return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+}
+
+double Luminance(Couleur c) {
+    return 0.2126 * Lineaire(c.rouge) + 0.7152 * Lineaire(c.vert) + 0.0722 * Lineaire(c.bleu);
+}
+
+bool VeutLisere(Couleur couleur, std::size_t points, const OptionsDessin& options) {
+    return options.sombre && points <= PointsMaxLisere && Luminance(couleur) < LuminanceSombre;
 }
 
 void OuvrirTrait(Dessin& dessin, Couleur couleur, float epaisseur, bool tirets = false) {
@@ -165,7 +186,10 @@ void AjouterPolyligne(Dessin& dessin, std::span<const PointProfil> points, Coule
 }
 
 // Segments of one part of the cut; runs of the same thickness are one stroke.
-void DessinerPartie(Dessin& dessin, std::span<const PointProfil> points, Couleur couleur) {
+void DessinerPartie(Dessin& dessin, std::span<const PointProfil> points, Couleur couleur,
+                    const OptionsDessin& options) {
+    if (VeutLisere(couleur, points.size(), options))
+        AjouterPolyligne(dessin, points, CouleurLisere, EpaisseurLisere, false);
     for (std::size_t i = 0; i + 1 < points.size(); ++i) {
         if (i == 0 || points[i].Rapide != points[i - 1].Rapide) {
             OuvrirTrait(dessin, couleur, points[i].Rapide ? EpaisseurRapide : EpaisseurNormale);
@@ -215,6 +239,11 @@ void DessinerTable(Dessin& dessin, const TableMachine& table, const Bloc& bloc,
     AjouterRectangle(dessin, {zone.xMin, zone.xMax, zone.yMin, zone.yMax}, palette.zone, EpaisseurNormale,
                      true);
     AjouterRectangle(dessin, mousse, palette.bordBloc, EpaisseurNormale, false);
+    const CadreDessin utile = {mousse.XMin + options.margeX, mousse.XMax - options.margeX,
+                               mousse.YMin + options.margeY, mousse.YMax - options.margeY};
+    const bool marges = options.margeX > 0 || options.margeY > 0;
+    if (marges && utile.XMin < utile.XMax && utile.YMin < utile.YMax)
+        AjouterRectangle(dessin, utile, palette.bordBloc, EpaisseurNormale, true);
     AjouterRectangle(dessin, plateau, palette.bordTable, EpaisseurRapide, false);
     AjouterMarque(dessin, GenreMarque::Point, 0, table.OrigineEnHaut ? courseY : 0, 2 * TaillePoint,
                   palette.bordTable);
@@ -230,18 +259,25 @@ void DessinerTable(Dessin& dessin, const TableMachine& table, const Bloc& bloc,
                   });
 }
 
-void DessinerSequences(Dessin& dessin, std::span<const Sequence> sequences, const OptionsDessin& options) {
+void DessinerSequences(Dessin& dessin, std::span<const Sequence> sequences, const OptionsDessin& options,
+                       PartieSequences partie) {
     std::size_t selections = 0;
+    std::size_t points = 0;
+    for (const Sequence& sequence : sequences) points += sequence.Points.size();
     for (std::size_t i = 0; i < sequences.size(); ++i) {
         const Sequence& sequence = sequences[i];
+        const bool choisie = (sequence.Selection & SelectionSequence) != 0;
         Couleur couleur = i == 0 ? CouleurPremiereSequence
                                  : CouleursAutresSequences[(i - 1) % CouleursAutresSequences.size()];
         if (!options.couleurProfils) couleur = PaletteDe(options).traceUni;
-        if ((sequence.Selection & SelectionSequence) != 0)
-            couleur = CouleursSelection[selections++ % CouleursSelection.size()];
+        if (choisie) couleur = CouleursSelection[selections++ % CouleursSelection.size()];
         if (sequence.Points.empty()) continue;
+        if (partie != PartieSequences::Toutes && choisie != (partie == PartieSequences::Selectionnees))
+            continue;
+        if (VeutLisere(couleur, points, options))
+            AjouterPolyligne(dessin, sequence.Points, CouleurLisere, EpaisseurLisere, false);
         AjouterPolyligne(dessin, sequence.Points, couleur, EpaisseurNormale, false);
-        AjouterFleches(dessin, sequence.Points, 1, couleur);
+        AjouterFleches(dessin, sequence.Points, options.voirSens ? FlechesDuSens : 1, couleur);
         const PointProfil& premier = sequence.Points.front();
         AjouterMarque(dessin, GenreMarque::PremierPoint, premier.X, premier.Y, TaillePremierPoint, couleur);
         if (options.voirPoints) AjouterPoints(dessin, sequence.Points, couleur);
@@ -262,9 +298,9 @@ void DessinerDecoupe(Dessin& dessin, const Decoupe2D& decoupe, const OptionsDess
     const auto avant = points.first(std::min(contact + 1, points.size()));
     const auto apres = points.subspan(depart);
     const auto milieu = points.subspan(contact, depart >= contact ? depart - contact + 1 : 0);
-    DessinerPartie(dessin, avant, CouleurEntree);
-    DessinerPartie(dessin, milieu, CouleurPremiereSequence);
-    DessinerPartie(dessin, apres, CouleurSortie);
+    DessinerPartie(dessin, avant, CouleurEntree, options);
+    DessinerPartie(dessin, milieu, CouleurPremiereSequence, options);
+    DessinerPartie(dessin, apres, CouleurSortie, options);
     AjouterFleches(dessin, avant, 1, CouleurEntree);
     AjouterFleches(dessin, milieu, FlechesDuChemin, CouleurPremiereSequence);
     AjouterFleches(dessin, apres, 1, CouleurSortie);

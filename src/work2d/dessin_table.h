@@ -24,13 +24,20 @@ inline constexpr std::array<Couleur, 2> CouleursSelection = {{{255, 107, 107}, {
 struct OptionsDessin {
     bool voirPoints = false;
     bool couleurProfils = true;
-    bool sombre = false; // for a dark background
+    bool sombre = false;   // for a dark background
+    bool voirSens = false; // many arrows along each path
+    float margeX = 0;      // mm, inner margins of the block; not drawn where both are 0
+    float margeY = 0;
 };
+
+// Which of the paths a layer holds; each keeps the colour of its place among all.
+enum class PartieSequences { Toutes, Selectionnees, Autres };
 
 // Table with its rulers, machine zone and block.
 void DessinerTable(Dessin& dessin, const TableMachine& table, const Bloc& bloc, const OptionsDessin& options);
 // The paths as placed, each with its first point and the direction in which it is cut.
-void DessinerSequences(Dessin& dessin, std::span<const Sequence> sequences, const OptionsDessin& options);
+void DessinerSequences(Dessin& dessin, std::span<const Sequence> sequences, const OptionsDessin& options,
+                       PartieSequences partie = PartieSequences::Toutes);
 // Entry, cut and exit; rapid segments thick. While there is no cut path (an offset that failed), the joined
 // paths with the provisional entry and exit, dashed.
 void DessinerDecoupe(Dessin& dessin, const Decoupe2D& decoupe, const OptionsDessin& options);

@@ -201,6 +201,21 @@ void AnnoncerTransformation(Historique2D& historique, const Transformation& tran
     historique.derniere = transformation;
 }
 
+void OublierMemorisation(Historique2D& historique, std::span<const Sequence> TableauSequences, Bloc bloc) {
+    const std::size_t position = Position(historique);
+    if (position < 2 || historique.PileTransformations.size() + 1 != position) return;
+    const EtatTransformations& avant = historique.PileTransformations.back();
+    if (avant.bloc.BlocX != bloc.BlocX || avant.bloc.BlocY != bloc.BlocY) return;
+    if (avant.sequences.size() != TableauSequences.size()) return;
+    std::vector<PointProfil> tampon;
+    for (std::size_t i = 0; i < TableauSequences.size(); ++i) {
+        const Sequence& s = TableauSequences[i];
+        if (!MemesBornes(avant.sequences[i].bornes, s)) return;
+        if (!Egaux(*avant.sequences[i].points, s.Points, tampon)) return;
+    }
+    historique.NbTransf = EnSimple(static_cast<double>(position) - 1);
+}
+
 bool PeutAnnuler(const Historique2D& historique) {
     return historique.NbTransf >= 2;
 }

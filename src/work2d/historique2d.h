@@ -62,6 +62,9 @@ void MemoriserTransformation(Historique2D& historique, std::span<const Sequence>
 // less room: it is checked, never trusted.
 void AnnoncerTransformation(Historique2D& historique, const Transformation& transformation);
 
+// After a deed that may have changed nothing: the kept state is no step then, and is taken off again.
+void OublierMemorisation(Historique2D& historique, std::span<const Sequence> TableauSequences, Bloc bloc);
+
 bool PeutAnnuler(const Historique2D& historique);
 bool PeutRefaire(const Historique2D& historique);
 

@@ -15,7 +15,7 @@ namespace {
 constexpr std::array<std::string_view, 4> Coins = {"HG", "HD", "BG", "BD"};
 constexpr std::array<std::string_view, 4> Milieux = {"HM", "BM", "MG", "MD"};
 // A side of the drawn box shorter than this has no room for a handle in its middle.
-constexpr double CotePourMilieu = 48; // pixels
+constexpr double CotePourMilieu = 36; // pixels
 
 bool Choisir(Sequence& sequence, bool choisie) {
     const bool avant = EstSelectionnee(sequence);

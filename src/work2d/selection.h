@@ -37,7 +37,7 @@ struct SurvolBoite {
 };
 
 // Distances of the box in pixels, the same at every zoom.
-inline constexpr double RetraitBoite = 7;     // the drawn box stands off the paths by that much
+inline constexpr double RetraitBoite = 10;    // the drawn box stands off the paths by that much
 inline constexpr double RayonPoignee = 8;     // of a handle's catch
 inline constexpr double LargeurRotation = 30; // of the ring outside the handles that turns
 

@@ -427,7 +427,7 @@ void EssaiDecoupe2D::LesRaccourcisMenentAuGcode() {
     QTest::keyClick(fenetre, Qt::Key_B, Qt::ControlModifier);
     QTRY_COMPARE(Espace().bloc.BlocX, 100.0F);
     m_poste->Trouver<QCheckBox>("chkCentrer_1").setChecked(true);
-    QTest::keyClick(fenetre, Qt::Key_D, Qt::ControlModifier);
+    QTest::keyClick(fenetre, Qt::Key_F9);
     QTRY_VERIFY(m_poste->fenetre->DecoupeOuverte());
     m_poste->Trouver<QCheckBox>("chkExportGcode2D").setChecked(true);
     QTest::keyClick(fenetre, Qt::Key_Return, Qt::ControlModifier);

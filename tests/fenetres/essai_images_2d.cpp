@@ -2,12 +2,17 @@
 // out without a word cut off, and saved for the documentation where a folder is named.
 #include "fenetres/images.h"
 #include "fenetres/poste_2d.h"
+#include "fenetres/souris.h"
+#include "ui/canevas.h"
 #include "ui/theme.h"
+#include "work2d/selection.h"
+#include "work2d/ui/atelier_2d.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -100,6 +105,72 @@ private slots:
         Reposer(poste);
         QVERIFY2(MotsCoupes(*poste.fenetre).isEmpty(), qPrintable(MotsCoupes(*poste.fenetre).join(u' ')));
         QVERIFY(essais::SauverImage(*poste.fenetre, QStringLiteral("frmTessarel2D-decoupe-") + suffixe));
+    }
+
+    void LAtelierEtapeParEtape_data() { LaFenetreTientEn1280Sur800_data(); }
+    void LAtelierEtapeParEtape() {
+        QFETCH(bool, anglais);
+        QFETCH(bool, sombre);
+        const QString suffixe = QString::fromLatin1(QTest::currentDataTag());
+        AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
+        Poste2D poste(anglais ? Langue::English : Langue::Francais);
+        poste.OuvrirFenetre();
+        const auto prendre = [&](const char* etape) {
+            QApplication::processEvents();
+            QVERIFY2(MotsCoupes(*poste.fenetre).isEmpty(), qPrintable(MotsCoupes(*poste.fenetre).join(u' ')));
+            QVERIFY(essais::SauverImage(
+                *poste.fenetre, QStringLiteral("frmTessarel2D-%1-").arg(QLatin1String(etape)) + suffixe));
+        };
+        QVERIFY(poste.fenetre->OuvrirFichier(Echantillon("console.dxf")));
+        poste.Cliquer<QCheckBox>("chkCentrer_1");
+        poste.Cliquer<QCheckBox>("chkCentrer_2");
+        poste.Cliquer<QCheckBox>("chkZoomProjet");
+        poste.Cliquer<QCheckBox>("chkZoomProjet");
+        auto& toile = poste.Trouver<Canevas>("pctSequTS2D");
+        toile.Cadrer({150, 620, 40, 380});
+        essais::Souris souris(toile);
+        const auto sommet = [&](std::size_t trace, std::size_t point) {
+            const PointProfil& p = poste.fenetre->Espace().TableauSequences[trace].Points[point];
+            return PointDessin{p.X, p.Y};
+        };
+        const auto poignee = [&](const char* nom) {
+            return PlacePoignee(BoiteAffichee(poste.fenetre->Atelier().BoiteSelection(), toile.Vue().echelle),
+                                nom);
+        };
+        souris.Cliquer(sommet(0, 3));
+        souris.Cliquer(sommet(3, 0), Qt::ControlModifier);
+        souris.Aller(poignee("HD"));
+        prendre("selection");
+        const PointDessin prise = poignee("HD");
+        souris.Appuyer(prise);
+        souris.Aller({prise.X - 60, prise.Y - 40}, Qt::ShiftModifier);
+        prendre("taille");
+        QTest::keyClick(&toile, Qt::Key_Escape);
+        souris.Relacher();
+        const PointDessin coin = poignee("HD");
+        const double dehors = 16 / toile.Vue().echelle;
+        souris.Appuyer({coin.X + dehors, coin.Y + dehors});
+        souris.Aller({coin.X - 40, coin.Y + 2 * dehors});
+        souris.Aller({coin.X - 50, coin.Y + 60});
+        prendre("rotation");
+        QTest::keyClick(&toile, Qt::Key_Escape);
+        souris.Relacher();
+        poste.Cliquer<QToolButton>("cmdInsererPoint");
+        const PointDessin a = sommet(0, 0);
+        const PointDessin b = sommet(0, 1);
+        souris.Aller({(a.X + b.X) / 2, (a.Y + b.Y) / 2});
+        prendre("insertion");
+        QTest::keyClick(&toile, Qt::Key_Escape);
+
+        poste.Cliquer<QPushButton>("cmdDecouper");
+        poste.Cliquer<QToolButton>("optApproche_1");
+        poste.Cliquer<QToolButton>("optRetour_1");
+        poste.Cliquer<QToolButton>("optDecalage_2");
+        poste.Cliquer<QToolButton>("cmdSimulation");
+        poste.Cliquer<QToolButton>("cmdSimulation");
+        auto& place = poste.Trouver<QScrollBar>("hscSimulation");
+        place.setValue(place.maximum() / 2);
+        prendre("simulation");
     }
 
     void LaBibliothequeMontreUnApercu_data() { LaFenetreTientEn1280Sur800_data(); }

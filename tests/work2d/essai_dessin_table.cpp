@@ -115,7 +115,65 @@ TEST(DessinTable, SurFondSombreLesCheminsGardentLeursCouleursPasLesRegles) {
     const std::vector<Sequence> sequences = {CarreDe20()};
     DessinerSequences(clair = {}, sequences, {});
     DessinerSequences(fonce = {}, sequences, sombre);
-    EXPECT_EQ(clair.traits[0].couleur, fonce.traits[0].couleur);
+    // The same colour, over a light edge that lifts a dark one off a dark ground.
+    ASSERT_EQ(clair.traits.size(), 1U);
+    ASSERT_EQ(fonce.traits.size(), 2U);
+    EXPECT_EQ(fonce.traits[1].couleur, clair.traits[0].couleur);
+    EXPECT_EQ(fonce.traits[1].epaisseur, clair.traits[0].epaisseur);
+    EXPECT_EQ(fonce.traits[0].epaisseur, 3);
+    EXPECT_GT(fonce.traits[0].couleur.vert, 200);
+    EXPECT_EQ(PointsDuTrait(fonce, fonce.traits[0]), PointsDuTrait(fonce, fonce.traits[1]));
+}
+
+TEST(DessinTable, UneCouleurClaireNAPasBesoinDeLisere) {
+    OptionsDessin sombre;
+    sombre.sombre = true;
+    std::vector<Sequence> choisie = {CarreDe20()};
+    choisie[0].Selection = SelectionSequence;
+    Dessin dessin;
+    DessinerSequences(dessin, choisie, sombre);
+    EXPECT_EQ(dessin.traits.size(), 1U);
+    // A large drawing does without: the edge would be a smear.
+    std::vector<Sequence> grande(1);
+    grande[0].Points.resize(20001);
+    DessinerSequences(dessin = {}, grande, sombre);
+    EXPECT_EQ(dessin.traits.size(), 1U);
+}
+
+TEST(DessinTable, LesMargesInterieuresSontEnTirets) {
+    OptionsDessin options;
+    Dessin sans;
+    DessinerTable(sans, MachineEssai(), {60, 40}, options);
+    options.margeX = 5;
+    options.margeY = 4;
+    Dessin avec;
+    DessinerTable(avec, MachineEssai(), {60, 40}, options);
+    ASSERT_EQ(avec.traits.size(), sans.traits.size() + 1);
+    std::vector<Lieu> marge;
+    for (const TraitDessin& t : avec.traits) {
+        const std::vector<Lieu> lieux = PointsDuTrait(avec, t);
+        if (t.tirets && lieux[0] == Lieu{10, 4}) marge = lieux;
+    }
+    // The block stands 5 mm from the origin: from (10, 4) to (60, 36).
+    EXPECT_EQ(marge, (std::vector<Lieu>{{10, 4}, {10, 36}, {60, 36}, {60, 4}, {10, 4}}));
+    options.margeX = 30; // nothing is left between the margins
+    DessinerTable(avec = {}, MachineEssai(), {60, 40}, options);
+    EXPECT_EQ(avec.traits.size(), sans.traits.size());
+}
+
+TEST(DessinSequences, LesCouchesSePartagentLesTracesSansChangerDeCouleur) {
+    std::vector<Sequence> sequences(4, CarreDe20());
+    sequences[1].Selection = SelectionSequence;
+    sequences[3].Selection = SelectionSequence;
+    Dessin autres;
+    DessinerSequences(autres, sequences, {}, PartieSequences::Autres);
+    ASSERT_EQ(autres.traits.size(), 2U);
+    EXPECT_EQ(autres.traits[0].couleur, (Couleur{144, 0, 82}));
+    EXPECT_EQ(autres.traits[1].couleur, (Couleur{112, 0, 105}));
+    Dessin choisies;
+    DessinerSequences(choisies, sequences, {}, PartieSequences::Selectionnees);
+    ASSERT_EQ(choisies.traits.size(), 2U);
+    EXPECT_EQ(choisies.traits[1].couleur, (Couleur{230, 61, 61}));
 }
 
 TEST(DessinSequences, ChacuneASaCouleurEtLesChoisiesSontRouges) {

@@ -80,7 +80,7 @@ TEST(SurvolBoite, DistingueDedansPoigneeRotationEtDehors) {
     std::vector<Sequence> s = {Chemin({{0, 0}, {100, 60}})};
     ToutSelectionner(s, true);
     const Sequence boite = CalculerBoiteSelection(s);
-    const double echelle = 2; // the drawn box stands off by 3.5 mm, the ring reaches 15 mm further
+    const double echelle = 2; // the drawn box stands off by 5 mm, the ring reaches 15 mm further
     EXPECT_EQ(SurvolerBoite(boite, {50, 30}, echelle).zone, ZoneBoite::Dedans);
     EXPECT_EQ(SurvolerBoite(boite, {-3.5, 63.5}, echelle).HandleCourant, "HG");
     EXPECT_EQ(SurvolerBoite(boite, {50, 64}, echelle).HandleCourant, "HM");
@@ -91,7 +91,7 @@ TEST(SurvolBoite, DistingueDedansPoigneeRotationEtDehors) {
     EXPECT_EQ(SurvolerBoite(boite, {50, -3}, echelle).HandleCourant, "BM");
     EXPECT_EQ(SurvolerBoite(boite, {103, -3}, echelle).HandleCourant, "BD");
     EXPECT_EQ(SurvolerBoite(boite, {25, 75}, echelle).zone, ZoneBoite::Rotation);
-    EXPECT_EQ(SurvolerBoite(boite, {25, 79}, echelle).zone, ZoneBoite::Dehors);
+    EXPECT_EQ(SurvolerBoite(boite, {25, 81}, echelle).zone, ZoneBoite::Dehors);
     EXPECT_EQ(SurvolerBoite(Sequence(), {0, 0}, echelle).zone, ZoneBoite::Dehors);
 }
 

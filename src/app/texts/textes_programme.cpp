@@ -333,20 +333,71 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
     {TexteProgramme::Fenetre2DAide,
      "Zoom : molette de la souris, ou touches + et -\r\n"
      "Zoom sur un cadre : clic droit + glisser\r\n"
-     "Déplacement de la vue : clic molette + glisser, Shift + clic gauche + glisser, ou flèches\r\n"
+     "Déplacement de la vue : clic molette + glisser, Shift + clic gauche + glisser, flèches, ascenseurs\r\n"
      "Tout voir : clic molette, ou touche 0\r\n\r\n"
+     "Sélection : clic sur un tracé (Shift : ajouter, Ctrl : ajouter ou retirer), ou cadre :\r\n"
+     "tracé vers la droite, il prend les tracés entiers ; vers la gauche, tous ceux qu'il touche\r\n"
+     "Déplacer : glisser la sélection (Shift : un seul axe), ou flèches (1 mm ; Shift : 10 ; Ctrl : 0,1)\r\n"
+     "Redimensionner : glisser une poignée (Shift : proportions, Ctrl : autour du centre)\r\n"
+     "Tourner : glisser juste à l'extérieur du cadre.  Alt : valeurs rondes.  Échap : renoncer\r\n\r\n"
+     "Ctrl+Z : annuler    Ctrl+Y : rétablir    Ctrl+A : tout sélectionner    Ctrl+D : dupliquer\r\n"
+     "Ctrl+M, Ctrl+Shift+M : miroirs    Ctrl+Shift+R : inverser le sens    Suppr : supprimer\r\n"
+     "Inser : insérer un point    Ctrl+K : couper un tracé    F6 : simuler la découpe\r\n"
      "Ctrl+O : ouvrir    Ctrl+N : nouveau    Ctrl+S : enregistrer    Ctrl+Shift+S : enregistrer sous\r\n"
-     "Ctrl+B : bloc auto    Ctrl+D : découper    Ctrl+Entrée : lancer    Échap : annuler la découpe\r\n"
+     "Ctrl+B : bloc auto    F9 : découper    Ctrl+Entrée : lancer    Échap : annuler la découpe\r\n"
      "Ctrl+E : export DXF    Ctrl+R : fichiers récents    F1 : cette aide",
      "Zoom: mouse wheel, or the + and - keys\r\n"
      "Zoom to a frame: right-click + drag\r\n"
-     "Pan: wheel click + drag, Shift + left-click + drag, or the arrow keys\r\n"
+     "Pan: wheel click + drag, Shift + left-click + drag, arrow keys, scroll bars\r\n"
      "Show all: wheel click, or the 0 key\r\n\r\n"
+     "Select: click on a path (Shift: add, Ctrl: add or remove), or a frame:\r\n"
+     "drawn to the right it takes whole paths, to the left all that it touches\r\n"
+     "Move: drag the selection (Shift: one axis only), or arrow keys (1 mm; Shift: 10; Ctrl: 0.1)\r\n"
+     "Resize: drag a handle (Shift: proportions, Ctrl: about the center)\r\n"
+     "Turn: drag just outside the box.  Alt: round values.  Esc: give up\r\n\r\n"
+     "Ctrl+Z: undo    Ctrl+Y: redo    Ctrl+A: select all    Ctrl+D: duplicate\r\n"
+     "Ctrl+M, Ctrl+Shift+M: mirrors    Ctrl+Shift+R: reverse    Del: delete\r\n"
+     "Ins: insert a point    Ctrl+K: cut a path in two    F6: simulate the cut\r\n"
      "Ctrl+O: open    Ctrl+N: new    Ctrl+S: save    Ctrl+Shift+S: save as\r\n"
-     "Ctrl+B: auto block    Ctrl+D: cut    Ctrl+Enter: start    Esc: cancel the cut\r\n"
+     "Ctrl+B: auto block    F9: cut    Ctrl+Enter: start    Esc: cancel the cut\r\n"
      "Ctrl+E: export DXF    Ctrl+R: recent files    F1: this help"},
     {TexteProgramme::Fenetre2DLecture, "Lecture de %1", "Reading %1"},
     {TexteProgramme::BoutonAnnuler, "Annuler", "Cancel"},
+    {TexteProgramme::AtelierTableVide, "Ouvrez un fichier, ou déposez-le ici. Molette : zoom",
+     "Open a file, or drop it here. Wheel: zoom"},
+    {TexteProgramme::AtelierSurTable, "Glisser : cadre de sélection. Shift + glisser : déplacer la vue",
+     "Drag: selection frame. Shift + drag: pan the view"},
+    {TexteProgramme::AtelierSurTrace,
+     "Clic : sélectionner ce tracé (Shift : ajouter, Ctrl : ajouter ou retirer)",
+     "Click: select this path (Shift: add, Ctrl: add or remove)"},
+    {TexteProgramme::AtelierSurSelection, "Glisser : déplacer (Shift : un seul axe, Alt : mm entiers)",
+     "Drag: move (Shift: one axis only, Alt: whole mm)"},
+    {TexteProgramme::AtelierSurPoignee,
+     "Glisser : taille (Shift : proportions, Ctrl : autour du centre, Alt : mm entiers)",
+     "Drag: size (Shift: proportions, Ctrl: about the center, Alt: whole mm)"},
+    {TexteProgramme::AtelierSurRotation, "Glisser : tourner autour du centre (Alt : par pas de 15°)",
+     "Drag: turn about the center (Alt: in steps of 15°)"},
+    {TexteProgramme::AtelierDeplace, "Déplacement : %1 mm en X, %2 mm en Y. Échap : renoncer",
+     "Move: %1 mm in X, %2 mm in Y. Esc: give up"},
+    {TexteProgramme::AtelierRedimensionne, "Taille : %1 mm x %2 mm. Échap : renoncer",
+     "Size: %1 mm x %2 mm. Esc: give up"},
+    {TexteProgramme::AtelierTourne, "Rotation : %1°. Échap : renoncer", "Rotation: %1°. Esc: give up"},
+    {TexteProgramme::AtelierInserer, "Visez un segment : un clic y insère un point. Échap : terminer",
+     "Aim at a segment: a click inserts a point on it. Esc: done"},
+    {TexteProgramme::AtelierInsererIci, "Clic : insérer un point en X %1, Y %2 mm",
+     "Click: insert a point at X %1, Y %2 mm"},
+    {TexteProgramme::AtelierCouper, "Visez un point : un clic y coupe le tracé en deux. Échap : terminer",
+     "Aim at a point: a click cuts the path in two there. Esc: done"},
+    {TexteProgramme::AtelierCouperIci, "Clic : couper le tracé au point %1 sur %2",
+     "Click: cut the path at point %1 of %2"},
+    {TexteProgramme::AtelierInsertion, "Insertion d'un point : visez un segment",
+     "Insert a point: aim at a segment"},
+    {TexteProgramme::AtelierInsertionIci, "Insertion d'un point en X %1   Y %2 mm",
+     "Insert a point at X %1   Y %2 mm"},
+    {TexteProgramme::SaisieLargeur, "Largeur", "Width"},
+    {TexteProgramme::SaisieHauteur, "Hauteur", "Height"},
+    {TexteProgramme::SaisieEnX, "En X", "In X"},
+    {TexteProgramme::SaisieEnY, "En Y", "In Y"},
 }};
 #undef COURRIEL
 

@@ -172,6 +172,27 @@ enum class TexteProgramme {
     Fenetre2DLecture, // %1 file
     BoutonAnnuler,
 
+    // 2D workshop: what the mouse would do now
+    AtelierTableVide,
+    AtelierSurTable,
+    AtelierSurTrace,
+    AtelierSurSelection,
+    AtelierSurPoignee,
+    AtelierSurRotation,
+    AtelierDeplace,       // %1 and %2 mm
+    AtelierRedimensionne, // %1 and %2 mm
+    AtelierTourne,        // %1 degrees
+    AtelierInserer,
+    AtelierInsererIci, // %1 x, %2 y
+    AtelierCouper,
+    AtelierCouperIci, // %1 number of the point, %2 how many there are
+    AtelierInsertion,
+    AtelierInsertionIci, // %1 x, %2 y
+    SaisieLargeur,
+    SaisieHauteur,
+    SaisieEnX,
+    SaisieEnY,
+
     Fin // not a text: their number
 };
 

@@ -26,14 +26,22 @@ constexpr double PasFleches = 14;
 constexpr double Tiret = 6; // pixels drawn, then not drawn
 constexpr double Blanc = 4;
 
+// Side of the cells of which one mark of a kind takes one; 0: each is painted.
+double EcartMarques(GenreMarque genre) {
+    if (genre == GenreMarque::Point) return PasMarques;
+    return genre == GenreMarque::Fleche ? PasFleches : 0;
+}
+
 bool Disjoints(const CadreDessin& a, const CadreDessin& b) {
     return a.XMax < b.XMin || a.XMin > b.XMax || a.YMax < b.YMin || a.YMin > b.YMax;
 }
 
-CadreDessin ZoneEnMm(const QRectF& zone, const VueDessin& vue) {
-    const PointDessin hg = vue.EnMm(zone.topLeft());
-    const PointDessin bd = vue.EnMm(zone.bottomRight());
-    return {hg.X, bd.X, bd.Y, hg.Y};
+CadreDessin EnCadre(const QRectF& zone) {
+    return {zone.left(), zone.right(), zone.top(), zone.bottom()};
+}
+
+bool SousLePixel(const CadreDessin& c) {
+    return c.XMax - c.XMin < DistanceInvisible && c.YMax - c.YMin < DistanceInvisible;
 }
 
 bool Invisible(QPointF a, QPointF b) {
@@ -66,10 +74,15 @@ bool Borner(double pas, double place, double& t0, double& t1) {
 
 // Parameters of the part of a-b inside the zone; false when there is none.
 bool Couper(QPointF a, QPointF b, const QRectF& z, double& t0, double& t1) {
-    const double dx = b.x() - a.x();
-    const double dy = b.y() - a.y();
     t0 = 0;
     t1 = 1;
+    // Most segments lie inside whole, and need no division.
+    if (std::min(a.x(), b.x()) >= z.left() && std::max(a.x(), b.x()) <= z.right() &&
+        std::min(a.y(), b.y()) >= z.top() && std::max(a.y(), b.y()) <= z.bottom()) {
+        return true;
+    }
+    const double dx = b.x() - a.x();
+    const double dy = b.y() - a.y();
     return Borner(-dx, a.x() - z.left(), t0, t1) && Borner(dx, z.right() - a.x(), t0, t1) &&
            Borner(-dy, a.y() - z.top(), t0, t1) && Borner(dy, z.bottom() - a.y(), t0, t1);
 }
@@ -91,19 +104,33 @@ void CouperPolygone(std::vector<QPointF>& de, std::vector<QPointF>& vers, Cote c
 
 } // namespace
 
-void PeintreDessin::Peindre(QPainter& peintre, const DessinPrepare& dessin, const VueDessin& vue) {
+CadreDessin PeintreDessin::Projection::operator()(const CadreDessin& c) const {
+    const QPointF milieu = (*this)(PointDessin{(c.XMin + c.XMax) / 2, (c.YMin + c.YMax) / 2});
+    const double l = (c.XMax - c.XMin) / 2;
+    const double h = (c.YMax - c.YMin) / 2;
+    const double dx = std::abs(xx) * l + std::abs(xy) * h;
+    const double dy = std::abs(yx) * l + std::abs(yy) * h;
+    return {milieu.x() - dx, milieu.x() + dx, milieu.y() - dy, milieu.y() + dy};
+}
+
+void PeintreDessin::Peindre(QPainter& peintre, const DessinPrepare& dessin, const VueDessin& vue,
+                            const MatriceDessin& matrice) {
     m_compte = {};
+    const double e = vue.echelle;
+    m_projection = {matrice.xx * e,  matrice.xy * e,  (matrice.dx - vue.xGauche) * e,
+                    -matrice.yx * e, -matrice.yy * e, vue.hauteur - (matrice.dy - vue.yBas) * e};
     peintre.save();
     peintre.setRenderHint(QPainter::Antialiasing);
     const std::vector<TraitDessin>& traits = dessin.Liste().traits;
     for (std::size_t i = 0; i < traits.size(); ++i) {
         const double sort = traits[i].epaisseur + 4;
         m_zone = QRectF(0, 0, vue.largeur, vue.hauteur).adjusted(-sort, -sort, sort, sort);
-        if (traits[i].nombre == 0 || Disjoints(dessin.Traits()[i].boite, ZoneEnMm(m_zone, vue))) continue;
+        if (traits[i].nombre == 0 || Disjoints(m_projection(dessin.Traits()[i].boite), EnCadre(m_zone)))
+            continue;
         if (traits[i].genre == GenreTrait::Surface) {
-            PeindreSurface(peintre, dessin, i, vue);
+            PeindreSurface(peintre, dessin, i);
         } else {
-            PeindreLigne(peintre, dessin, i, vue);
+            PeindreLigne(peintre, dessin, i);
         }
     }
     PeindreMarques(peintre, dessin, vue);
@@ -111,8 +138,7 @@ void PeintreDessin::Peindre(QPainter& peintre, const DessinPrepare& dessin, cons
     peintre.restore();
 }
 
-void PeintreDessin::PeindreLigne(QPainter& peintre, const DessinPrepare& dessin, std::size_t i,
-                                 const VueDessin& vue) {
+void PeintreDessin::PeindreLigne(QPainter& peintre, const DessinPrepare& dessin, std::size_t i) {
     const TraitDessin& trait = dessin.Liste().traits[i];
     const PointDessin* p = dessin.Liste().points.data() + trait.premier;
     QPen stylo(EnQColor(trait.couleur), trait.epaisseur, Qt::SolidLine, Qt::RoundCap,
@@ -124,36 +150,34 @@ void PeintreDessin::PeindreLigne(QPainter& peintre, const DessinPrepare& dessin,
         stylo.setDashPattern({Tiret / unite, Blanc / unite});
     }
     peintre.setPen(stylo);
-    const CadreDessin& entier = dessin.Traits()[i].boite;
-    const double petit = DistanceInvisible / vue.echelle;
-    if (entier.XMax - entier.XMin < petit && entier.YMax - entier.YMin < petit) {
-        peintre.drawPoint(vue.EnPixels(p[0]));
+    if (SousLePixel(m_projection(dessin.Traits()[i].boite))) {
+        peintre.drawPoint(m_projection(p[0]));
         ++m_compte.sommets;
         return;
     }
     m_courant = {};
-    m_courant.precedent = vue.EnPixels(p[0]);
+    m_courant.precedent = m_projection(p[0]);
     m_courant.tirets = trait.tirets;
     m_courant.coupable = !trait.tirets && trait.epaisseur > 1 && trait.couleur.opacite == 255;
     m_polyligne.clear();
-    const CadreDessin zone = ZoneEnMm(m_zone, vue);
+    const CadreDessin zone = EnCadre(m_zone);
     const CadreDessin* boites = dessin.Boites().data() + dessin.Traits()[i].premiereBoite;
     constexpr std::uint32_t pas = DessinPrepare::SegmentsParBoite;
     for (std::uint32_t debut = 0; debut + 1 < trait.nombre; debut += pas) {
         const std::uint32_t fin = std::min(debut + pas, trait.nombre - 1);
-        const CadreDessin& boite = boites[debut / pas];
+        const CadreDessin boite = m_projection(boites[debut / pas]);
         const bool cachee = Disjoints(boite, zone);
         if (cachee && !trait.tirets) {
             if (m_courant.aCandidat) Arreter(peintre, m_courant.candidat);
             ViderPolyligne(peintre);
-            m_courant.precedent = vue.EnPixels(p[fin]);
-        } else if (boite.XMax - boite.XMin < petit && boite.YMax - boite.YMin < petit) {
-            Proposer(peintre, vue.EnPixels(p[fin]));
+            m_courant.precedent = m_projection(p[fin]);
+        } else if (SousLePixel(boite)) {
+            Proposer(peintre, m_projection(p[fin]));
         } else {
-            for (std::uint32_t k = debut + 1; k <= fin; ++k) Proposer(peintre, vue.EnPixels(p[k]));
+            for (std::uint32_t k = debut + 1; k <= fin; ++k) Proposer(peintre, m_projection(p[k]));
         }
     }
-    Arreter(peintre, vue.EnPixels(p[trait.nombre - 1]));
+    Arreter(peintre, m_projection(p[trait.nombre - 1]));
     ViderPolyligne(peintre);
 }
 
@@ -235,13 +259,12 @@ void PeintreDessin::ViderPolyligne(QPainter& peintre) {
     m_polyligne.clear();
 }
 
-void PeintreDessin::PeindreSurface(QPainter& peintre, const DessinPrepare& dessin, std::size_t i,
-                                   const VueDessin& vue) {
+void PeintreDessin::PeindreSurface(QPainter& peintre, const DessinPrepare& dessin, std::size_t i) {
     const TraitDessin& trait = dessin.Liste().traits[i];
     const PointDessin* p = dessin.Liste().points.data() + trait.premier;
     m_polyligne.clear();
     for (std::uint32_t k = 0; k < trait.nombre; ++k) {
-        const QPointF q = vue.EnPixels(p[k]);
+        const QPointF q = m_projection(p[k]);
         if (m_polyligne.empty() || !Invisible(m_polyligne.back(), q)) m_polyligne.push_back(q);
     }
     const QRectF z = m_zone;
@@ -271,35 +294,71 @@ bool PeintreDessin::PrendrePlace(QPointF p, double pas) {
     return true;
 }
 
+// One symbol at `p`.
+void PeintreDessin::PeindreMarque(QPainter& peintre, const MarqueDessin& marque, QPointF p) const {
+    const double t = marque.taille;
+    const QColor couleur = EnQColor(marque.couleur);
+    peintre.setBrush(Qt::NoBrush);
+    switch (marque.genre) {
+    case GenreMarque::Point:
+        peintre.fillRect(QRectF(p.x() - t / 2, p.y() - t / 2, t, t), couleur);
+        break;
+    case GenreMarque::Fleche: {
+        // The direction goes through the matrix too, and keeps its length.
+        const double c = std::cos(marque.angle);
+        const double s = std::sin(marque.angle);
+        const QPointF vers(m_projection.xx * c + m_projection.xy * s,
+                           m_projection.yx * c + m_projection.yy * s);
+        const double longueur = std::hypot(vers.x(), vers.y());
+        if (!(longueur > 0)) break;
+        const QPointF avant = vers * (t / longueur);
+        const QPointF cote(-avant.y() * 0.45, avant.x() * 0.45);
+        const QPointF triangle[] = {p + avant, p - avant * 0.6 + cote, p - avant * 0.6 - cote};
+        peintre.setPen(Qt::NoPen);
+        peintre.setBrush(couleur);
+        peintre.drawConvexPolygon(triangle, 3);
+        break;
+    }
+    case GenreMarque::PremierPoint:
+        peintre.setPen(QPen(couleur, 2));
+        peintre.drawEllipse(p, t, t);
+        break;
+    case GenreMarque::Poignee:
+        peintre.setPen(QPen(couleur, 1.5));
+        peintre.setBrush(QColor(255, 255, 255));
+        peintre.drawRect(QRectF(p.x() - t / 2, p.y() - t / 2, t, t));
+        break;
+    case GenreMarque::Disque:
+        peintre.setPen(QPen(QColor(255, 255, 255), 1.5));
+        peintre.setBrush(couleur);
+        peintre.drawEllipse(p, t, t);
+        break;
+    case GenreMarque::Croix:
+        peintre.setPen(QPen(couleur, 1.5));
+        peintre.drawLine(p - QPointF(t, 0), p + QPointF(t, 0));
+        peintre.drawLine(p - QPointF(0, t), p + QPointF(0, t));
+        break;
+    }
+}
+
 void PeintreDessin::PeindreMarques(QPainter& peintre, const DessinPrepare& dessin, const VueDessin& vue) {
     const std::vector<MarqueDessin>& marques = dessin.Liste().marques;
     constexpr double sort = 16;
     m_zone = QRectF(0, 0, vue.largeur, vue.hauteur).adjusted(-sort, -sort, sort, sort);
-    // Points lie under arrows, arrows under first points.
-    for (const GenreMarque genre : {GenreMarque::Point, GenreMarque::Fleche, GenreMarque::PremierPoint}) {
-        std::fill(m_occupation.begin(), m_occupation.end(), 0);
+    unsigned presents = 0;
+    for (const MarqueDessin& marque : marques) presents |= 1U << static_cast<unsigned>(marque.genre);
+    // Points lie under arrows, arrows under first points, and all of them under what the hand takes hold of.
+    for (const GenreMarque genre : {GenreMarque::Point, GenreMarque::Fleche, GenreMarque::PremierPoint,
+                                    GenreMarque::Croix, GenreMarque::Poignee, GenreMarque::Disque}) {
+        if ((presents & 1U << static_cast<unsigned>(genre)) == 0) continue;
+        const double pas = EcartMarques(genre);
+        if (pas > 0) std::fill(m_occupation.begin(), m_occupation.end(), 0);
         for (const MarqueDessin& marque : marques) {
             if (marque.genre != genre) continue;
-            const QPointF p = vue.EnPixels(marque.ou);
+            const QPointF p = m_projection(marque.ou);
             if (!m_zone.contains(p)) continue;
-            const double t = marque.taille;
-            const QColor couleur = EnQColor(marque.couleur);
-            if (genre == GenreMarque::Point) {
-                if (!PrendrePlace(p, PasMarques)) continue;
-                peintre.fillRect(QRectF(p.x() - t / 2, p.y() - t / 2, t, t), couleur);
-            } else if (genre == GenreMarque::Fleche) {
-                if (!PrendrePlace(p, std::max(PasFleches, t))) continue;
-                const QPointF avant(std::cos(marque.angle) * t, -std::sin(marque.angle) * t);
-                const QPointF cote(-avant.y() * 0.45, avant.x() * 0.45);
-                const QPointF triangle[] = {p + avant, p - avant * 0.6 + cote, p - avant * 0.6 - cote};
-                peintre.setPen(Qt::NoPen);
-                peintre.setBrush(couleur);
-                peintre.drawConvexPolygon(triangle, 3);
-            } else {
-                peintre.setPen(QPen(couleur, 2));
-                peintre.setBrush(Qt::NoBrush);
-                peintre.drawEllipse(p, t, t);
-            }
+            if (pas > 0 && !PrendrePlace(p, pas)) continue;
+            PeindreMarque(peintre, marque, p);
             ++m_compte.marques;
         }
     }
@@ -314,7 +373,7 @@ void PeintreDessin::PeindreTextes(QPainter& peintre, const DessinPrepare& dessin
     int taillePosee = -1;
     for (std::size_t i = 0; i < textes.size(); ++i) {
         const TexteDessin& texte = textes[i];
-        const QPointF p = vue.EnPixels(texte.ou);
+        const QPointF p = m_projection(texte.ou);
         // A label is never longer than this many of its heights: those far out are not even measured.
         if (!ecran.adjusted(-400, -40, 400, 40).contains(p)) continue;
         const int taille = std::max(1, static_cast<int>(std::lround(texte.taille)));

@@ -76,8 +76,10 @@ private:
 // allocates nothing of its own; one per canvas.
 class PeintreDessin {
 public:
-    // Strokes, then marks, then labels, in the order of the list. The painter's state is restored.
-    void Peindre(QPainter& peintre, const DessinPrepare& dessin, const VueDessin& vue);
+    // Strokes, then marks, then labels, in the order of the list, each place taken through `matrice`. The
+    // painter's state is restored.
+    void Peindre(QPainter& peintre, const DessinPrepare& dessin, const VueDessin& vue,
+                 const MatriceDessin& matrice = {});
     // Labels need fonts, hence an application object; without one they are left out.
     bool avecTextes = true;
 
@@ -90,6 +92,17 @@ public:
     [[nodiscard]] const Compte& DernierCompte() const { return m_compte; }
 
 private:
+    // From the list's mm to pixels, matrix and view in one.
+    struct Projection {
+        double xx = 1, xy = 0, x0 = 0;
+        double yx = 0, yy = 1, y0 = 0;
+        [[nodiscard]] QPointF operator()(const PointDessin& p) const {
+            return {xx * p.X + xy * p.Y + x0, yx * p.X + yy * p.Y + y0};
+        }
+        // The box around a box, in pixels.
+        [[nodiscard]] CadreDessin operator()(const CadreDessin& c) const;
+    };
+
     // Line being gathered, in pixels.
     struct Courant {
         QPointF precedent; // last vertex kept, not clipped
@@ -102,8 +115,9 @@ private:
         bool tirets = false;
         bool coupable = true; // a long run may be painted in pieces
     };
-    void PeindreLigne(QPainter& peintre, const DessinPrepare& dessin, std::size_t i, const VueDessin& vue);
-    void PeindreSurface(QPainter& peintre, const DessinPrepare& dessin, std::size_t i, const VueDessin& vue);
+    void PeindreLigne(QPainter& peintre, const DessinPrepare& dessin, std::size_t i);
+    void PeindreSurface(QPainter& peintre, const DessinPrepare& dessin, std::size_t i);
+    void PeindreMarque(QPainter& peintre, const MarqueDessin& marque, QPointF p) const;
     void PeindreMarques(QPainter& peintre, const DessinPrepare& dessin, const VueDessin& vue);
     void PeindreTextes(QPainter& peintre, const DessinPrepare& dessin, const VueDessin& vue);
     void Proposer(QPainter& peintre, QPointF b);
@@ -113,6 +127,7 @@ private:
     bool PrendrePlace(QPointF p, double pas);
 
     Compte m_compte;
+    Projection m_projection;
     Courant m_courant;
     std::vector<QPointF> m_polyligne;
     std::vector<QPointF> m_tampon;

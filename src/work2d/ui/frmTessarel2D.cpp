@@ -14,8 +14,10 @@
 #include "ui/champ_nombre.h"
 #include "ui/icones.h"
 #include "ui/place_fenetre.h"
+#include "work2d/ui/atelier_2d.h"
 #include "work2d/ui/libelles_2d.h"
 #include "work2d/ui/panneau_bibliotheque.h"
+#include "work2d/ui/panneau_simulation.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -50,6 +52,7 @@ frmTessarel2D::frmTessarel2D(QWidget* parent) : QMainWindow(parent) {
     AppliquerLibelles(*this, LibellesTessarel2D(), LangueCourante());
     RemplirMatieres();
     Relier();
+    RendreLargeurs();
     pctSequTS2D->FixerCadreComplet(CadreTable(TableINI));
     pctDecoupe->FixerCadreComplet(CadreTable(TableINI));
     FermerDecoupe();
@@ -64,6 +67,8 @@ void frmTessarel2D::Relier() {
     RelierProjet();
     RelierDecoupe();
     RelierBibliotheque();
+    RelierAtelier();
+    RelierSource();
     for (Canevas* canevas : {pctSequTS2D, pctDecoupe}) {
         connect(canevas, &Canevas::PointeurDeplace, this, [this](double x, double y) {
             lblCoordonnees->setText(TexteAffiche(
@@ -169,7 +174,7 @@ void frmTessarel2D::MontrerEtat() {
 void frmTessarel2D::MontrerTout() {
     FermerApercu();
     MontrerBloc();
-    TraceSequTS2D();
+    m_atelier->Actualiser(); // and so the paths are drawn
     ZoomAutoToutVoir();
     MontrerEtat();
 }
@@ -186,9 +191,11 @@ void frmTessarel2D::closeEvent(QCloseEvent* evenement) {
             return;
         }
     }
+    m_simulation->Arreter();
     Parametres.OngletActif = TS2D;
     EcrireParametre("OngletActif", Parametres);
     MemoriserPlaceFenetre(*this);
+    RetenirLargeurs();
     EcrireIni(SectionParametres, "MatiereUtilisee", MatiereCourante.Nom);
     evenement->accept();
 }

@@ -22,15 +22,20 @@ class QLabel;
 class QMenu;
 class QPushButton;
 class QShortcut;
+class QSplitter;
 class QStackedWidget;
 class QToolButton;
 class QVBoxLayout;
 
 namespace tessarel {
 
+class Atelier2D;
+class BandeauAtelier;
 class Canevas;
 class ChampNombre;
 class PanneauBibliotheque;
+class PanneauSaisie;
+class PanneauSimulation;
 
 // A thin skin over Espace2D: it reads controls, calls the engine on TableINI, the current material and the
 // general parameters, and shows the result. The start-up must have filled those.
@@ -44,6 +49,9 @@ public:
     // The cut shown; empty while the cut tab is closed.
     [[nodiscard]] const Decoupe2D& DecoupeMontree() const { return m_decoupe; }
     [[nodiscard]] bool DecoupeOuverte() const;
+    // The hand on the paths, and the film of the cut.
+    [[nodiscard]] const Atelier2D& Atelier() const { return *m_atelier; }
+    [[nodiscard]] const PanneauSimulation& Simulation() const { return *m_simulation; }
 
     // Opens a file as if chosen in the dialog. False after a box that says why; the work is then as it was.
     bool OuvrirFichier(const std::string& chemin);
@@ -57,6 +65,8 @@ private:
     // Layout (frmTessarel2D_disposition.cpp)
     void Disposer();
     QWidget* DisposerOutils();
+    QWidget* DisposerVueProjet();
+    QWidget* DisposerVueDecoupe();
     QWidget* DisposerPageProjet();
     QWidget* DisposerPageDecoupe();
     void DisposerBarreEtat();
@@ -105,6 +115,17 @@ private:
     void MarquerModifie();
     void MontrerTout();
 
+    // Workshop: selection, tools, undo, typed transforms (frmTessarel2D_atelier.cpp)
+    void DisposerAjoutPoint();
+    void RelierAtelier();
+    void MontrerSelection();
+    void ApresAction();
+    void MontrerAjoutPoint(bool vise, double xMm, double yMm);
+    void ChangerAcces();
+    void RelierSource();
+    void RendreLargeurs();
+    void RetenirLargeurs() const;
+
     // Cut tab (frmTessarel2D_decoupe.cpp)
     void OuvrirDecoupe();
     void FermerDecoupe();
@@ -131,6 +152,14 @@ private:
 
     Canevas* pctSequTS2D = nullptr;
     Canevas* pctDecoupe = nullptr;
+    Atelier2D* m_atelier = nullptr;
+    BandeauAtelier* m_bandeau = nullptr;
+    PanneauSaisie* m_saisie = nullptr;
+    PanneauSimulation* m_simulation = nullptr;
+    QFrame* pctAjoutPoint = nullptr;
+    QLabel* lblAjoutPoint = nullptr;
+    QToolButton* cmdFinirAjout = nullptr;
+    QSplitter* m_milieu = nullptr; // library beside the canvas
     QStackedWidget* m_vues = nullptr;
     QStackedWidget* m_pages = nullptr;
 
@@ -145,6 +174,9 @@ private:
     PanneauBibliotheque* m_bibliotheque = nullptr;
     QFrame* bandeauApercu = nullptr;
     QLabel* lblApercu = nullptr;
+    QToolButton* cmdMiroirFichierSource = nullptr;
+    QToolButton* cmdInverserSensSequ = nullptr;
+    QToolButton* cmdAfficherSensSequ = nullptr;
     QToolButton* cmdOuvrirApercu = nullptr;
     QToolButton* cmdFermerApercu = nullptr;
     QShortcut* raccourciFermerApercu = nullptr; // while a preview is shown

@@ -52,6 +52,10 @@ void frmTessarel2D::DisposerApercu() {
     lblApercu = new QLabel;
     lblApercu->setObjectName(QStringLiteral("lblApercu"));
     rangee->addWidget(lblApercu);
+    cmdMiroirFichierSource = BoutonBandeau("cmdMiroirFichierSource", rangee);
+    cmdInverserSensSequ = BoutonBandeau("cmdInverserSensSequ", rangee);
+    cmdAfficherSensSequ = BoutonBandeau("cmdAfficherSensSequ", rangee);
+    cmdAfficherSensSequ->setCheckable(true);
     cmdOuvrirApercu = BoutonBandeau("cmdOuvrirApercu", rangee);
     cmdFermerApercu = BoutonBandeau("cmdFermerApercu", rangee);
     auto* dessus = new QVBoxLayout(pctSequTS2D);
@@ -84,6 +88,7 @@ void frmTessarel2D::RelierBibliotheque() {
         m_bibliotheque->setVisible(cmdBibliotheque->isChecked() && !DecoupeOuverte());
         cmdBibliotheque->setEnabled(!DecoupeOuverte());
         if (DecoupeOuverte()) FermerApercu();
+        ChangerAcces();
     };
     connect(cmdBibliotheque, &QToolButton::toggled, this, montrer);
     connect(m_vues, &QStackedWidget::currentChanged, this, montrer);
@@ -111,6 +116,7 @@ void frmTessarel2D::MontrerApercu(const std::string& chemin) {
     m_apercu = std::move(apercu);
     lblApercu->setText(TexteAffiche(TexteRempli(TexteProgramme::ApercuDe, {NomDuChemin(chemin)})));
     bandeauApercu->show();
+    ChangerAcces();
     raccourciFermerApercu->setEnabled(true);
     MontrerResume(chemin, m_apercu->contenu.ouverture);
     statusBar()->showMessage(TexteAffiche(PhraseOuverture(chemin, m_apercu->contenu.ouverture)),
@@ -127,8 +133,11 @@ void frmTessarel2D::CadrerApercu() {
 
 void frmTessarel2D::TracerApercu() {
     Dessin traces;
-    DessinerSequences(traces, m_apercu->contenu.sequences, OptionsAffichage(*pctSequTS2D));
+    OptionsDessin options = OptionsAffichage(*pctSequTS2D);
+    options.voirSens = cmdAfficherSensSequ->isChecked();
+    DessinerSequences(traces, m_apercu->contenu.sequences, options);
     pctSequTS2D->Montrer(Canevas::CoucheFond, {});
+    pctSequTS2D->Montrer(Canevas::CoucheSelection, {});
     pctSequTS2D->Montrer(Canevas::CoucheTrace, std::move(traces));
 }
 
@@ -137,6 +146,7 @@ void frmTessarel2D::FermerApercu() {
     if (bandeauApercu->isHidden()) return;
     m_apercu.reset();
     bandeauApercu->hide();
+    ChangerAcces();
     raccourciFermerApercu->setEnabled(false);
     pctSequTS2D->FixerCadreComplet(CadreTable(TableINI));
     TraceSequTS2D();

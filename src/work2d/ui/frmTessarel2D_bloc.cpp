@@ -5,6 +5,7 @@
 #include "ui/canevas.h"
 #include "ui/champ_nombre.h"
 #include "work2d/options_decoupe.h"
+#include "work2d/ui/atelier_2d.h"
 #include "work2d/ui/frmTessarel2D.h"
 #include "work2d/ui/libelles_2d.h"
 
@@ -45,12 +46,15 @@ void frmTessarel2D::ChangerBloc(std::size_t cote, double valeur) {
     }
     Bloc bloc = m_espace.bloc;
     (cote == 0 ? bloc.BlocX : bloc.BlocY) = static_cast<float>(valeur);
+    m_atelier->Memoriser();
     m_espace.bloc = LimiterBlocSaisi(bloc, TableINI);
     Replacer();
 }
 
 void frmTessarel2D::AjusterBlocAuto() {
+    m_atelier->Memoriser();
     m_espace.bloc = BlocAuto(m_espace.TableauSequences, Regles(), TableINI, m_espace.coeffTransf);
+    m_atelier->OublierSiInchange();
     MontrerTout();
     if (chkZoomProjet->isChecked()) {
         pctSequTS2D->Cadrer({0, m_espace.bloc.BlocX, 0, m_espace.bloc.BlocY});
@@ -64,11 +68,13 @@ void frmTessarel2D::ChangerRegle() {
         if (regle->isChecked()) couleurs.setColor(QPalette::WindowText, QColor(255, 0, 0));
         regle->setPalette(couleurs);
     }
+    m_atelier->Memoriser();
     Replacer();
 }
 
 void frmTessarel2D::Replacer() {
     AjusterAuBloc(m_espace.TableauSequences, m_espace.bloc, Regles(), TableINI, m_espace.coeffTransf);
+    m_atelier->OublierSiInchange();
     MontrerTout();
     MarquerModifie();
 }
@@ -80,7 +86,17 @@ void frmTessarel2D::MontrerBloc() {
 }
 
 OptionsDessin frmTessarel2D::OptionsAffichage(const Canevas& canevas) const {
-    return {chkVoirPoints->isChecked(), chkCouleurProfils->isChecked(), canevas.FondSombre()};
+    OptionsDessin options;
+    options.voirPoints = chkVoirPoints->isChecked();
+    options.couleurProfils = chkCouleurProfils->isChecked();
+    options.sombre = canevas.FondSombre();
+    // The inner margins are what a fit to the block leaves free.
+    if (chkCentrer[0]->isChecked()) {
+        const ReglesPlacement regles = Regles();
+        options.margeX = regles.margeX;
+        options.margeY = regles.margeY;
+    }
+    return options;
 }
 
 void frmTessarel2D::TraceSequTS2D() {
@@ -92,8 +108,11 @@ void frmTessarel2D::TraceSequTS2D() {
     Dessin table;
     DessinerTable(table, TableINI, m_espace.bloc, options);
     pctSequTS2D->Montrer(Canevas::CoucheFond, std::move(table));
+    Dessin choisies;
+    DessinerSequences(choisies, m_espace.TableauSequences, options, PartieSequences::Selectionnees);
+    pctSequTS2D->Montrer(Canevas::CoucheSelection, std::move(choisies));
     Dessin traces;
-    DessinerSequences(traces, m_espace.TableauSequences, options);
+    DessinerSequences(traces, m_espace.TableauSequences, options, PartieSequences::Autres);
     pctSequTS2D->Montrer(Canevas::CoucheTrace, std::move(traces));
 }
 

@@ -15,6 +15,7 @@
 #include "work2d/options_decoupe.h"
 #include "work2d/resume.h"
 #include "work2d/ui/frmTessarel2D.h"
+#include "work2d/ui/panneau_simulation.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -99,6 +100,7 @@ void frmTessarel2D::OuvrirDecoupe() {
 }
 
 void frmTessarel2D::FermerDecoupe() {
+    m_simulation->Charger(nullptr);
     m_decoupe = {};
     for (const Canevas::Couche couche : {Canevas::CoucheFond, Canevas::CoucheTrace}) {
         pctDecoupe->Montrer(couche, {});
@@ -120,6 +122,7 @@ void frmTessarel2D::ChangerOptionsDecoupe() {
 
 void frmTessarel2D::CalculerDecoupe() {
     m_options = OptionsDepuisEspace(m_espace, m_decalage, m_valeurs, Parametres);
+    m_simulation->Charger(nullptr);
     m_decoupe = {};
     std::string information;
     try {
@@ -140,6 +143,7 @@ void frmTessarel2D::CalculerDecoupe() {
         information = TextesDoubles(DoublesPasDeTraceDansLeBloc, 1);
     }
     lblInformationDecoupe->setText(TexteAffiche(information));
+    m_simulation->Charger(&m_decoupe.SequenceDecoupe);
     TraceDecoupe();
 }
 

@@ -1,8 +1,13 @@
 // The layout of the 2D window: tools on the left, canvases in the middle, pages of values on the right.
+#include "ui/ascenseurs.h"
 #include "ui/canevas.h"
 #include "ui/champ_nombre.h"
+#include "work2d/ui/atelier_2d.h"
+#include "work2d/ui/bandeau_atelier.h"
 #include "work2d/ui/frmTessarel2D.h"
 #include "work2d/ui/panneau_bibliotheque.h"
+#include "work2d/ui/panneau_saisie.h"
+#include "work2d/ui/panneau_simulation.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -126,11 +131,9 @@ void frmTessarel2D::Disposer() {
     setMinimumSize(900, 560);
     setAcceptDrops(true);
 
-    pctSequTS2D = Nommer(new Canevas, QStringLiteral("pctSequTS2D"));
-    pctDecoupe = Nommer(new Canevas, QStringLiteral("pctDecoupe"));
     m_vues = new QStackedWidget;
-    m_vues->addWidget(pctSequTS2D);
-    m_vues->addWidget(pctDecoupe);
+    m_vues->addWidget(DisposerVueProjet());
+    m_vues->addWidget(DisposerVueDecoupe());
     m_pages = new QStackedWidget;
     m_pages->setFixedWidth(LargeurPage);
     m_pages->addWidget(DisposerPageProjet());
@@ -142,17 +145,45 @@ void frmTessarel2D::Disposer() {
     rangee->setSpacing(0);
     rangee->addWidget(DisposerOutils());
     m_bibliotheque = new PanneauBibliotheque;
-    auto* milieu = new QSplitter;
-    milieu->addWidget(m_bibliotheque);
-    milieu->addWidget(m_vues);
-    milieu->setStretchFactor(1, 1);
-    milieu->setChildrenCollapsible(false);
-    milieu->setSizes({LargeurBibliotheque, width() - LargeurBibliotheque});
-    rangee->addWidget(milieu, 1);
+    m_milieu = new QSplitter;
+    m_milieu->addWidget(m_bibliotheque);
+    m_milieu->addWidget(m_vues);
+    m_milieu->setStretchFactor(1, 1);
+    m_milieu->setChildrenCollapsible(false);
+    m_milieu->setSizes({LargeurBibliotheque, width() - LargeurBibliotheque});
+    rangee->addWidget(m_milieu, 1);
     rangee->addWidget(m_pages);
     setCentralWidget(centre);
     DisposerApercu();
+    DisposerAjoutPoint();
     DisposerBarreEtat();
+}
+
+// The table under its row of tools.
+QWidget* frmTessarel2D::DisposerVueProjet() {
+    pctSequTS2D = Nommer(new Canevas, QStringLiteral("pctSequTS2D"));
+    m_atelier = new Atelier2D(*pctSequTS2D, m_espace, this);
+    m_bandeau = new BandeauAtelier;
+    auto* vue = new QWidget;
+    auto* colonne = new QVBoxLayout(vue);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(0);
+    colonne->addWidget(m_bandeau);
+    colonne->addWidget(new Ascenseurs(pctSequTS2D, QStringLiteral("SequTS2D")), 1);
+    return vue;
+}
+
+// The cut over its film.
+QWidget* frmTessarel2D::DisposerVueDecoupe() {
+    pctDecoupe = Nommer(new Canevas, QStringLiteral("pctDecoupe"));
+    m_simulation = new PanneauSimulation(*pctDecoupe);
+    auto* vue = new QWidget;
+    auto* colonne = new QVBoxLayout(vue);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(0);
+    colonne->addWidget(new Ascenseurs(pctDecoupe, QStringLiteral("Decoupe")), 1);
+    colonne->addWidget(m_simulation);
+    return vue;
 }
 
 QWidget* frmTessarel2D::DisposerOutils() {
@@ -198,7 +229,7 @@ QWidget* frmTessarel2D::DisposerOutils() {
 
 QWidget* frmTessarel2D::DisposerPageProjet() {
     auto* page = new QVBoxLayout;
-    page->setSpacing(10);
+    page->setSpacing(6);
 
     auto* fichier = new QVBoxLayout(Groupe(QStringLiteral("frameFichier"), page));
     lblTypeFichierTS2D = Nommer(new QLabel, QStringLiteral("lblTypeFichierTS2D"));
@@ -227,6 +258,9 @@ QWidget* frmTessarel2D::DisposerPageProjet() {
     lblDimensionsBloc = Nommer(new QLabel, QStringLiteral("lblDimensionsBloc"));
     bloc->addWidget(lblDimensionsBloc, 2, 0, 1, 4);
     bloc->setColumnStretch(1, 1);
+
+    m_saisie = new PanneauSaisie;
+    page->addWidget(m_saisie);
 
     auto* placement = new QVBoxLayout(Groupe(QStringLiteral("framePlacement"), page));
     for (std::size_t i = 0; i < chkCentrer.size(); ++i) {

@@ -16,6 +16,7 @@
 #include "ui/en_arriere.h"
 #include "ui/fichiers_recents.h"
 #include "work2d/options_decoupe.h"
+#include "work2d/ui/atelier_2d.h"
 #include "work2d/ui/frmTessarel2D.h"
 #include "work2d/ui/panneau_bibliotheque.h"
 
@@ -117,6 +118,7 @@ void frmTessarel2D::NouveauProjet() {
     if (!PeutRemplacerProjet()) return;
     FermerDecoupe();
     m_espace = NouvelEspace2D(TableINI);
+    m_atelier->Recommencer();
     m_fichiersImportes.clear();
     EffacerResume();
     m_bibliotheque->RemplirArbreBibliotheque("");
@@ -148,6 +150,8 @@ bool frmTessarel2D::OuvrirFichier(const std::string& chemin) {
         return contenu;
     };
     OuvertureFichier ouverture;
+    const std::size_t avant = m_espace.TableauSequences.size();
+    const bool retouche = m_apercu && m_apercu->retouche && m_apercu->chemin == chemin;
     if (!OuvrirFichier2D(m_espace, chemin, TableINI, Parametres.DistNettoyage, &ouverture, lecteur)) {
         if (!renonce) OublierFichierRecent(chemin);
         return false;
@@ -156,9 +160,13 @@ bool frmTessarel2D::OuvrirFichier(const std::string& chemin) {
     RetenirRepertoire(chemin);
     if (ouverture.estProjet2D) {
         m_fichiersImportes.clear();
+        m_atelier->Recommencer();
+        m_espace.modifie = retouche; // the file does not hold what was turned over
         RetenirProjet(chemin);
     } else {
         RetenirFichierRecent(chemin);
+        // What it brings stands behind what was there, and can be undone.
+        m_atelier->Memoriser(avant);
         AjusterAuBloc(m_espace.TableauSequences, m_espace.bloc, Regles(), TableINI, m_espace.coeffTransf);
     }
     m_fichiersImportes.push_back(chemin);

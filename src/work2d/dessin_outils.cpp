@@ -1,0 +1,122 @@
+// Draws what the workshop lays over the paths.
+#include "work2d/dessin_outils.h"
+
+#include "work2d/transformations.h"
+
+#include <algorithm>
+#include <array>
+
+namespace tessarel {
+
+namespace {
+
+constexpr float EpaisseurFine = 1; // pixels
+constexpr float EpaisseurSurvol = 2;
+constexpr float TaillePoignee = 8;
+constexpr float TaillePoigneeSurvolee = 11;
+constexpr float TailleCroix = 5;
+constexpr float TailleVise = 7;
+constexpr float TailleFil = 6;
+constexpr float EpaisseurDejaCoupe = 2;
+constexpr float EpaisseurOmbre = 5;
+
+constexpr Couleur BoiteClaire = {40, 90, 190};
+constexpr Couleur BoiteSombre = {140, 180, 255};
+constexpr Couleur CouleurDejaCoupe = {232, 89, 12};
+// Yellow on light foam is seen by its dark edge.
+constexpr Couleur Ombre = {30, 30, 36, 200};
+
+void Ouvrir(Dessin& dessin, Couleur couleur, float epaisseur, bool tirets = false) {
+    TraitDessin trait;
+    trait.premier = static_cast<std::uint32_t>(dessin.points.size());
+    trait.couleur = couleur;
+    trait.epaisseur = epaisseur;
+    trait.tirets = tirets;
+    dessin.traits.push_back(trait);
+}
+
+void Ajouter(Dessin& dessin, PointDessin p) {
+    dessin.points.push_back(p);
+    ++dessin.traits.back().nombre;
+}
+
+void Marquer(Dessin& dessin, GenreMarque genre, PointDessin ou, float taille, Couleur couleur) {
+    MarqueDessin marque;
+    marque.ou = ou;
+    marque.genre = genre;
+    marque.taille = taille;
+    marque.couleur = couleur;
+    dessin.marques.push_back(marque);
+}
+
+PointDessin Par(const MatriceDessin& m, PointDessin p) {
+    return {m.xx * p.X + m.xy * p.Y + m.dx, m.yx * p.X + m.yy * p.Y + m.dy};
+}
+
+PointDessin Lieu(const PointProfil& p) {
+    return {p.X, p.Y};
+}
+
+void Segment(Dessin& dessin, PointDessin a, PointDessin b, Couleur couleur, float epaisseur) {
+    Ouvrir(dessin, couleur, epaisseur);
+    Ajouter(dessin, a);
+    Ajouter(dessin, b);
+}
+
+} // namespace
+
+void DessinerBoite(Dessin& dessin, const Sequence& BoiteSelection, double echelle, const SurvolBoite& survol,
+                   const MatriceDessin& matrice, const OptionsDessin& options) {
+    if (BoiteSelection.Selection == 0) return;
+    const Couleur trait = options.sombre ? BoiteSombre : BoiteClaire;
+    const Sequence boite = BoiteAffichee(BoiteSelection, echelle);
+    Ouvrir(dessin, survol.zone == ZoneBoite::Rotation ? CouleurSurvol : trait, EpaisseurFine, true);
+    for (const std::string_view coin : {"BG", "HG", "HD", "BD", "BG"})
+        Ajouter(dessin, Par(matrice, PlacePoignee(boite, coin)));
+    Marquer(dessin, GenreMarque::Croix, Par(matrice, MilieuBoite(BoiteSelection)), TailleCroix, trait);
+    for (const std::string_view nom : PoigneesMontrees(BoiteSelection, echelle)) {
+        const bool survolee = survol.zone == ZoneBoite::Poignee && survol.HandleCourant == nom;
+        Marquer(dessin, GenreMarque::Poignee, Par(matrice, PlacePoignee(boite, nom)),
+                survolee ? TaillePoigneeSurvolee : TaillePoignee, survolee ? CouleurSurvol : trait);
+    }
+}
+
+void DessinerTraceSurvole(Dessin& dessin, const Sequence& sequence) {
+    if (sequence.Points.empty()) return;
+    Ouvrir(dessin, CouleurSurvol, EpaisseurFine);
+    for (const PointProfil& p : sequence.Points) Ajouter(dessin, Lieu(p));
+}
+
+void DessinerSegmentSurvole(Dessin& dessin, const Sequence& sequence, std::size_t segment,
+                            PointDessin souris) {
+    if (segment >= sequence.Points.size()) return;
+    const PointDessin a = Lieu(sequence.Points[segment]);
+    const PointDessin b = Lieu(sequence.Points[std::min(segment + 1, sequence.Points.size() - 1)]);
+    Segment(dessin, a, b, CouleurSurvol, EpaisseurSurvol);
+    const std::string_view coin = CoinSegment(a, b, souris);
+    Marquer(dessin, GenreMarque::Poignee, coin == CoinSegment(a, b, a) ? a : b, TaillePoignee, CouleurSurvol);
+}
+
+void DessinerPointVise(Dessin& dessin, PointDessin ou) {
+    Marquer(dessin, GenreMarque::Croix, ou, 2 * TailleVise, CouleurSurvol);
+    Marquer(dessin, GenreMarque::PremierPoint, ou, TailleVise, CouleurSurvol);
+}
+
+void DessinerFilm(Dessin& dessin, const Film2D& film, const PlaceFil& place) {
+    const std::vector<PointProfil>& points = film.points.Points;
+    if (points.empty()) return;
+    const std::size_t dernier = std::min(place.point, points.size() - 1);
+    const PointDessin fil{place.X, place.Y};
+    Ouvrir(dessin, CouleurDejaCoupe, EpaisseurDejaCoupe);
+    for (std::size_t i = 0; i <= dernier; ++i) Ajouter(dessin, Lieu(points[i]));
+    Ajouter(dessin, fil);
+    if (dernier + 1 < points.size()) {
+        const PointDessin a = Lieu(points[dernier]);
+        const PointDessin b = Lieu(points[dernier + 1]);
+        Segment(dessin, a, b, Ombre, EpaisseurOmbre);
+        Segment(dessin, a, b, CouleurSegmentCoupe, EpaisseurSegmentCoupe);
+    }
+    Marquer(dessin, GenreMarque::Disque, fil, TailleFil, CouleurDejaCoupe);
+}
+
+} // namespace tessarel
