@@ -110,6 +110,10 @@ void LireMachineDuFichier(const std::string& nom, TableMachine& table) {
 
 } // namespace
 
+void PoserTexteDeCle(TableMachine& table, const CleMachine& cle, const std::string& texte) {
+    std::visit(Poser{table, cle, texte}, cle.champ);
+}
+
 int LireMachine(const std::string& nom, TableMachine& table) {
     if (LireMachineIntegree(nom, table)) return StatutSucces;
     try {

@@ -1,6 +1,7 @@
 // The rows of the machine keys.
 #include "cles_machine.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -130,6 +131,12 @@ std::span<const CleMachine> ClesMoteurs() {
 
 std::span<const CleMachine> ClesGeometrie() {
     return ClesMachine().subspan(NombreClesMoteurs());
+}
+
+const CleMachine* CleMachineDe(std::string_view cle) {
+    const auto* const place =
+        std::ranges::find_if(Table, [cle](const CleMachine& rangee) { return rangee.cle == cle; });
+    return place == Table.end() ? nullptr : place;
 }
 
 } // namespace tessarel

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 #include <variant>
 
 namespace tessarel {
@@ -44,5 +45,10 @@ std::span<const CleMachine> ClesMoteurs();
 std::span<const CleMachine> ClesGeometrie();
 // The value of a key as the file has it.
 std::string TexteDeCle(const CleMachine& cle, const TableMachine& table);
+// The row of a key, by its exact name; nullptr where there is none.
+const CleMachine* CleMachineDe(std::string_view cle);
+
+// Puts the text of a key into its field, as the field's width takes it; FauteDepassement when it does not fit.
+void PoserTexteDeCle(TableMachine& table, const CleMachine& cle, const std::string& texte);
 
 } // namespace tessarel

@@ -18,7 +18,7 @@ bool CommencePar(std::string_view texte, std::string_view debut) {
 bool QtPermis(const std::string& chemin) {
     if (CommencePar(chemin, "src/ui/") || CommencePar(chemin, "src/platform/images/")) return true;
     if (CommencePar(chemin, "src/")) return chemin.find("/ui/") != std::string::npos;
-    return CommencePar(chemin, "programs/tessarel/") || CommencePar(chemin, "tests/fenetres/") ||
+    return CommencePar(chemin, "programs/tessarel/") || CommencePar(chemin, "programs/explications/") || CommencePar(chemin, "tests/fenetres/") ||
            CommencePar(chemin, "bench/bench_fenetre");
 }
 
@@ -123,6 +123,7 @@ const Fleches& FlechesDeLaMaison() {
         {"app/ui", {"ui", "app/demarrage"}},
         {"programs/tessarel", {"app/ui", "work2d/ui", "machine/ui"}},
         {"programs/tessarel-lot", {"app/demarrage", "work2d", "cut4x", "platform/images"}},
+        {"programs/explications", {"machine", "platform/images"}},
         {"programs/zelko-simulateur", {"link/simulateur/ui", "link/simulateur", "app/demarrage"}},
         {"tests/outils", {"platform", "platform/gabar"}},
         {"tests/outils_boite", {"tests/outils", "link", "link/simulateur"}},

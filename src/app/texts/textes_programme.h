@@ -41,6 +41,41 @@ enum class TexteProgramme {
     OrigineEnHautTexte, // %1 machine, %2 site of the sibling program
     MachineParDefautChargee,
     MachineParDefautChargeeTitre,
+    SortiesIdentiques,
+    ChampNombreAttendu,
+    ChampHorsLimites, // %1 lowest, %2 highest, %3 unit
+    ChampSortieEnDouble,
+    ChampZeroRemplace, // %1 value in its place
+    ChampSeraRamene,   // %1 value in its place
+    ChampPasTropFins,
+    NomMachineTropLong,
+    NomMachineImpossible,
+    NomMatiereImpossible,
+    SaigneeHorsCurseur,
+    SaigneeYMoinsE,
+    SortiePas,       // %1 axis
+    SortieDirection, // %1 axis
+    SortieInversee,  // %1 what it does
+    SortieLibre,
+    ParametresEffacerBulle,
+    ParametresModifies,
+    ParametresEcartementUtile,  // %1 mm
+    ParametresMouvementsActifs, // %1 memory, from 1
+    ParametresAbandon,          // %1 machine
+    ParametresChargementDefaut,
+    ParametresChoisirMemoire,
+    ParametresEnvoyes,     // %1 machine, %2 memory, from 1
+    ParametresEnregistres, // %1 machine
+    EssaiEnCours,   // %1 percent done
+    EssaiTermine,
+    EssaiArrete,
+    EssaiImpossible,
+    ChauffeEssaiCoupure,
+    EssaiSansReponse,
+    ValeursMatiere, // %1 heat, %2 speed, %3 and %4 kerfs
+    MachineDesMatieres, // %1 machine
+    BoutonAbandonner,
+    ExplicationsAbsentes, // %1 file
 
     // The interface box
     FilPeutEtreChaud,

@@ -1,0 +1,79 @@
+// Moves, heat and motors as the windows of this folder drive them: one command at a time, flags for what the
+// user wants meanwhile, and the certainty that the wire is cold when a window closes.
+#pragma once
+
+#include "app/texts/textes_programme.h"
+#include "link/commandes.h"
+#include "link/mouvements.h"
+
+#include <QObject>
+#include <QPointer>
+#include <functional>
+#include <string>
+
+class QMessageBox;
+class QWidget;
+
+namespace tessarel {
+
+// How the end of a move is told in one line.
+TexteProgramme MotDeFin(FinMarche fin, CauseFin cause);
+
+class ConduiteManuelle : public QObject {
+    Q_OBJECT
+public:
+    // `fenetre` is what warnings stand over.
+    explicit ConduiteManuelle(QWidget* fenetre);
+
+    // Runs one move and tells the end that is not the user's own doing; returns at its end. After the STOP
+    // button, a switch or a box that is lost, the heat is switched off and confirmed. Nothing starts while
+    // another command is under way.
+    struct Resultat {
+        FinMarche Fin = FinMarche::Impossible;
+        CauseFin Cause = CauseFin::Aucune;
+        PasAxes Faits = {}; // steps done, by Axe
+    };
+    Resultat Mouvoir(const PasAxes& pas, const VitessesSalve& vitesses);
+    void DemanderArret();
+    // Switches the motors off; a move that runs is stopped first.
+    void CouperLesMoteurs();
+    // Motors kept under current, or back to what the machine says.
+    void TensionPermanente(bool permanente);
+
+    // Heat on: looks at the box's switches first, with their boxes. True when the box confirmed.
+    bool Chauffer(double pourcent);
+    // Another heat while the wire is on; while a move runs it goes out between two of its exchanges.
+    void ChangerChauffe(double pourcent);
+    // Heat off, repeated until it is confirmed; the user is warned when that takes long and may give up, which
+    // ends in a loud box. True when the wire is known to be cold.
+    bool Couper();
+    // The same, only where the wire may be hot.
+    bool CouperSiChaud();
+
+    [[nodiscard]] bool EnMouvement() const { return m_enMouvement; }
+    [[nodiscard]] bool Occupee() const { return m_occupee; }
+    [[nodiscard]] bool Chaude() const { return m_chaude; }
+
+signals:
+    void DebutMouvement();
+    void Avance(double fraction);
+    void FinMouvement();
+    void ChauffeChangee(bool chaude);
+
+private:
+    void NoterChauffe(bool chaude);
+    bool EnvoyerChauffeVoulue();
+    [[nodiscard]] bool InterrupteursPermettent();
+    // Warns over the window while a loop keeps trying; the button of the warning calls `abandonner`.
+    void Prevenir(QPointer<QMessageBox>& alerte, const std::string& texte, std::function<void()> abandonner);
+
+    QWidget* m_fenetre;
+    DemandesMarche m_demandes;
+    bool m_enMouvement = false;
+    bool m_occupee = false; // a loop that repeats a command is under way
+    bool m_chaude = false;
+    double m_chauffeVoulue = 0; // percent, as asked for last
+    bool m_abandon = false;
+};
+
+} // namespace tessarel
