@@ -5,6 +5,8 @@
 #include "app/ui/application.h"
 #include "app/ui/frmSplashScreen.h"
 #include "machine/table_machine.h"
+#include "machine/ui/frmD4X_matieres.h"
+#include "machine/ui/frmParametresTables.h"
 #include "platform/dialogue.h"
 #include "platform/instance.h"
 #include "ui/boites_qt.h"
@@ -24,11 +26,23 @@ struct Fenetres {
     std::unique_ptr<frmTessarel2D> travail2D;
 };
 
+// Opens a window of the machine over the 2D window, which follows what is changed there.
+template <typename Fenetre>
+void OuvrirReglages(frmTessarel2D& travail) {
+    Fenetre(&travail).exec();
+    travail.ActualiserMachine();
+}
+
 // The splash is a one-way door: it isn't shown again in this run.
 void Entrer2D(Fenetres& fenetres) {
     Parametres.OngletActif = "TS2D";
     fenetres.travail2D = std::make_unique<frmTessarel2D>();
-    fenetres.travail2D->show();
+    frmTessarel2D& travail = *fenetres.travail2D;
+    QObject::connect(&travail, &frmTessarel2D::ParametrerMachine, &travail,
+                     [&travail] { OuvrirReglages<frmParametresTables>(travail); });
+    QObject::connect(&travail, &frmTessarel2D::GererMatieres, &travail,
+                     [&travail] { OuvrirReglages<frmD4X_matieres>(travail); });
+    travail.show();
     fenetres.splash->hide();
 }
 

@@ -8,13 +8,13 @@ namespace tessarel {
 
 namespace {
 
-constexpr double PasMax = 32767;       // full steps times micro-steps go into 16 signed bits
-constexpr double MicroPasMax = 512;    // beyond what any driver offers
-constexpr double MmMax = 100000;       // travel, spacing: a table of 100 m
-constexpr double VitesseMax = 10000;   // mm/s or degrees/s
-constexpr double SecondesMax = 32767;  // 16 signed bits
-constexpr double SortieMax = 10;       // outputs of the box; 0 is none
-constexpr double PenteMax = 15;        // four bits of the frame builder
+constexpr double PasMax = 32767;      // full steps times micro-steps go into 16 signed bits
+constexpr double MicroPasMax = 512;   // beyond what any driver offers
+constexpr double MmMax = 100000;      // travel, spacing: a table of 100 m
+constexpr double VitesseMax = 10000;  // mm/s or degrees/s
+constexpr double SecondesMax = 32767; // 16 signed bits
+constexpr double SortieMax = 10;      // outputs of the box; 0 is none
+constexpr double PenteMax = 15;       // four bits of the frame builder
 constexpr double OctetMax = 255;
 constexpr double FrequenceMin = 10000; // Hz, by 10000
 constexpr double FrequenceMax = 50000;

@@ -19,8 +19,8 @@ enum class RegleZero : std::uint8_t {
 };
 
 struct ChampMachineSaisi {
-    const char* cle;   // key in the settings file
-    double minimum;    // both ends allowed
+    const char* cle; // key in the settings file
+    double minimum;  // both ends allowed
     double maximum;
     const char* unite; // "mm", "mm/s", "%"...: the same in both languages; "" for a bare number
     bool entier = false;

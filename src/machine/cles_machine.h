@@ -48,7 +48,8 @@ std::string TexteDeCle(const CleMachine& cle, const TableMachine& table);
 // The row of a key, by its exact name; nullptr where there is none.
 const CleMachine* CleMachineDe(std::string_view cle);
 
-// Puts the text of a key into its field, as the field's width takes it; FauteDepassement when it does not fit.
+// Puts the text of a key into its field, as the field's width takes it; FauteDepassement when it does not
+// fit.
 void PoserTexteDeCle(TableMachine& table, const CleMachine& cle, const std::string& texte);
 
 } // namespace tessarel

@@ -26,8 +26,7 @@ struct Tons {
 };
 constexpr Tons TonsClairs = {
     {226, 231, 238}, {120, 130, 145}, {40, 46, 56}, {120, 128, 140}, {250, 250, 252}};
-constexpr Tons TonsSombres = {
-    {52, 60, 72}, {140, 150, 165}, {230, 234, 240}, {150, 158, 170}, {36, 42, 50}};
+constexpr Tons TonsSombres = {{52, 60, 72}, {140, 150, 165}, {230, 234, 240}, {150, 158, 170}, {36, 42, 50}};
 
 // Places, mm of the picture.
 constexpr double BoitierGauche = 0;
@@ -63,8 +62,8 @@ void DessinerBorne(Crayon& crayon, const Tons& tons, std::size_t sortie, const E
     crayon.Encre(tons.bord).Rectangle(borne);
     crayon.Encre(tons.texte).Texte({borne.XMin - 4, y}, std::to_string(sortie + 1), 11);
     if (emploi.Libre()) {
-        crayon.Encre(tons.discret).Texte({BoitierDroite + 4, y}, Texte(TexteProgramme::SortieLibre), 10,
-                                         AncreTexte::Gauche);
+        crayon.Encre(tons.discret)
+            .Texte({BoitierDroite + 4, y}, Texte(TexteProgramme::SortieLibre), 10, AncreTexte::Gauche);
         return;
     }
     crayon.Encre(couleur, 2.5F).Ligne({{borne.XMax, y}, {FinFil, y}});

@@ -22,17 +22,17 @@ struct Tons {
     Couleur texte;
     Couleur trajet;
 };
-constexpr Tons TonsClairs = {{255, 236, 190}, {186, 140, 58},  {255, 214, 128}, {255, 255, 255},
-                             {150, 158, 170}, {70, 90, 120},   {40, 46, 56},    {120, 130, 145}};
-constexpr Tons TonsSombres = {{120, 108, 80},  {214, 172, 92},  {160, 134, 74}, {42, 48, 56},
+constexpr Tons TonsClairs = {{255, 236, 190}, {186, 140, 58}, {255, 214, 128}, {255, 255, 255},
+                             {150, 158, 170}, {70, 90, 120},  {40, 46, 56},    {120, 130, 145}};
+constexpr Tons TonsSombres = {{120, 108, 80},  {214, 172, 92},  {160, 134, 74},  {42, 48, 56},
                               {120, 128, 140}, {160, 185, 220}, {230, 234, 240}, {150, 160, 175}};
 constexpr Couleur CouleurFilChaud = {232, 89, 12};
 
 // Places, mm of the picture; the wire starts at the foot of the foam, on its left.
 constexpr double Depart = 8;
-constexpr double Passe = 84;  // stands for dimension 0
+constexpr double Passe = 84;   // stands for dimension 0
 constexpr double Tranche = 15; // for dimension 1
-constexpr double Montee = 44; // for dimension 2
+constexpr double Montee = 44;  // for dimension 2
 constexpr double BasFil = 8;
 constexpr CadreDessin Mousse = {22, 78, 4, 62};
 constexpr CadreDessin Cadre = {-16, 118, -14, 74};
@@ -67,8 +67,8 @@ void DessinerTranchesObtenues(Crayon& crayon, const Tons& tons, std::vector<doub
     std::ranges::sort(coupes);
     for (std::size_t i = 0; i + 1 < coupes.size(); ++i) {
         crayon.Encre(tons.tranche).Plein({Mousse.XMin, Mousse.XMax, coupes[i], coupes[i + 1]});
-        crayon.Encre(tons.texte).Texte({(Mousse.XMin + Mousse.XMax) / 2, (coupes[i] + coupes[i + 1]) / 2},
-                                       "E", 13);
+        crayon.Encre(tons.texte)
+            .Texte({(Mousse.XMin + Mousse.XMax) / 2, (coupes[i] + coupes[i + 1]) / 2}, "E", 13);
     }
 }
 
@@ -90,10 +90,9 @@ void DessinerSaignees(Crayon& crayon, const Tons& tons, std::span<const PointDes
     for (std::size_t i = 0; i + 1 < trajet.size(); ++i) {
         const auto [x0, x1] = std::minmax(trajet[i].X, trajet[i + 1].X);
         const auto [y0, y1] = std::minmax(trajet[i].Y, trajet[i + 1].Y);
-        const CadreDessin saignee = {std::max(x0 - DemiSaignee, Mousse.XMin),
-                                     std::min(x1 + DemiSaignee, Mousse.XMax),
-                                     std::max(y0 - DemiSaignee, Mousse.YMin),
-                                     std::min(y1 + DemiSaignee, Mousse.YMax)};
+        const CadreDessin saignee = {
+            std::max(x0 - DemiSaignee, Mousse.XMin), std::min(x1 + DemiSaignee, Mousse.XMax),
+            std::max(y0 - DemiSaignee, Mousse.YMin), std::min(y1 + DemiSaignee, Mousse.YMax)};
         if (saignee.XMin < saignee.XMax && saignee.YMin < saignee.YMax)
             crayon.Encre(tons.saignee).Plein(saignee);
     }
@@ -105,7 +104,8 @@ void DessinerFil(Crayon& crayon, const Tons& tons, std::span<const PointDessin> 
         const double dx = trajet[i + 1].X - trajet[i].X;
         const double dy = trajet[i + 1].Y - trajet[i].Y;
         if (std::hypot(dx, dy) < 2) continue;
-        crayon.Encre(tons.trajet).Fleche({trajet[i].X + 0.6 * dx, trajet[i].Y + 0.6 * dy}, std::atan2(dy, dx));
+        crayon.Encre(tons.trajet)
+            .Fleche({trajet[i].X + 0.6 * dx, trajet[i].Y + 0.6 * dy}, std::atan2(dy, dx));
     }
     // Seen end on: the wire is a glowing point.
     Couleur halo = CouleurFilChaud;

@@ -101,8 +101,8 @@ double SaigneeMesuree(double epaisseurDemandee, double epaisseurObtenue) {
 }
 
 std::string TexteSaignee(double saignee) {
-    return Texte(TexteProgramme::SaigneeYMoinsE) + PointVersSeparateur(FormaterNombre(saignee, "#####0.0##")) +
-           " mm";
+    return Texte(TexteProgramme::SaigneeYMoinsE) +
+           PointVersSeparateur(FormaterNombre(saignee, "#####0.0##")) + " mm";
 }
 
 } // namespace tessarel

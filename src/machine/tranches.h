@@ -39,8 +39,8 @@ enum class VitesseTranche : std::uint8_t { V = 0, VSur2 = 1, Rapide = 2 };
 float VitesseDuMouvement(VitesseTranche choix, float v, const TableMachine& table);
 
 enum class RefusTranche { Aucun, Vitesse, Distance };
-// The speed must be above 0 and can start without a ramp; the dimension that the move uses must be above 0 and
-// within the travel of its axis.
+// The speed must be above 0 and can start without a ramp; the dimension that the move uses must be above 0
+// and within the travel of its axis.
 RefusTranche ExaminerTranche(std::size_t mouvement, const DimensionsTranches& dimensions, float v,
                              const TableMachine& table);
 // The same with its box; true when the move may go.

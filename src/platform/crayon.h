@@ -26,9 +26,7 @@ public:
     }
 
     void Ligne(std::span<const PointDessin> points) { Ajouter(points, GenreTrait::Ligne); }
-    void Ligne(std::initializer_list<PointDessin> points) {
-        Ligne(std::span(points.begin(), points.size()));
-    }
+    void Ligne(std::initializer_list<PointDessin> points) { Ligne(std::span(points.begin(), points.size())); }
     void Surface(std::span<const PointDessin> points) { Ajouter(points, GenreTrait::Surface); }
     void Surface(std::initializer_list<PointDessin> points) {
         Surface(std::span(points.begin(), points.size()));

@@ -18,8 +18,8 @@ bool CommencePar(std::string_view texte, std::string_view debut) {
 bool QtPermis(const std::string& chemin) {
     if (CommencePar(chemin, "src/ui/") || CommencePar(chemin, "src/platform/images/")) return true;
     if (CommencePar(chemin, "src/")) return chemin.find("/ui/") != std::string::npos;
-    return CommencePar(chemin, "programs/tessarel/") || CommencePar(chemin, "programs/explications/") || CommencePar(chemin, "tests/fenetres/") ||
-           CommencePar(chemin, "bench/bench_fenetre");
+    return CommencePar(chemin, "programs/tessarel/") || CommencePar(chemin, "programs/explications/") ||
+           CommencePar(chemin, "tests/fenetres/") || CommencePar(chemin, "bench/bench_fenetre");
 }
 
 bool EstQt(std::string_view entete) {
@@ -140,8 +140,7 @@ const Fleches& FlechesDeLaMaison() {
         {"tests/corpus", {"tests/outils", "paths"}},
         {"tests/pairs", {"tests/outils", "platform/gabar"}},
         {"tests/bout_en_bout", {"tests/outils", "paths"}},
-        {"tests/fenetres",
-         {"tests/outils_boite", "app/ui", "work2d/ui", "machine/ui", "link/simulateur/ui"}},
+        {"tests/fenetres", {"tests/outils_boite", "app/ui", "work2d/ui", "machine/ui", "link/simulateur/ui"}},
         {"bench", {"work2d", "work2d/ui", "cut4x", "link/simulateur"}},
         {"fuzz", {"work2d"}},
     };

@@ -1,5 +1,5 @@
-// A desk for tests of the machine and material windows: folders and settings of their own, recorded boxes, and
-// helpers that act as a person does.
+// A desk for tests of the machine and material windows: folders and settings of their own, recorded boxes,
+// and helpers that act as a person does.
 #pragma once
 
 #include "app/settings/gestion_ini.h"

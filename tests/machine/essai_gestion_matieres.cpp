@@ -139,10 +139,11 @@ TEST_F(GestionMatieres, ImporterCopieEtLaisseLOriginal) {
     EXPECT_EQ(MatieresMachine[*rang].VitesseDecoupe, 2);
     EXPECT_EQ(MatieresMachine[*rang].ChauffeDecoupe, 80) << "what (Defaut) allows";
     ASSERT_EQ(m_boites.boites.size(), 1U);
-    EXPECT_EQ(m_boites.boites[0].texte,
-              "La chauffe de la matière importée (90%)est supérieure à la chauffe maxi de la machine courante "
-              "(80%).\r\nLa valeur de chauffe de la nouvelle matière sera celle de la chauffe maxi de la "
-              "machine courante.");
+    EXPECT_EQ(
+        m_boites.boites[0].texte,
+        "La chauffe de la matière importée (90%)est supérieure à la chauffe maxi de la machine courante "
+        "(80%).\r\nLa valeur de chauffe de la nouvelle matière sera celle de la chauffe maxi de la "
+        "machine courante.");
     EXPECT_EQ(m_boites.boites[0].titre, "Chauffe maxi dépassée");
     EXPECT_EQ(MatieresAutresMachines.size(), 2U);
     EXPECT_TRUE(Contient("[Matiere_EPP]\r\nChauffeDecoupe=90.0"));

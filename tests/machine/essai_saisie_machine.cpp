@@ -170,7 +170,8 @@ TEST_F(Saisie, ZeroSurDeuxAxesEstAccepte) {
     EXPECT_TRUE(SortiesEnDouble(m_saisie).empty());
     const std::optional<TableMachine> table = ControlerSaisie(m_saisie);
     ASSERT_TRUE(table);
-    EXPECT_EQ(table->CodeDefinitionSortie, (std::array<std::uint8_t, 10>{0, 0, 0, 0, 0, 0, 130, 66, 132, 68}));
+    EXPECT_EQ(table->CodeDefinitionSortie,
+              (std::array<std::uint8_t, 10>{0, 0, 0, 0, 0, 0, 130, 66, 132, 68}));
     EXPECT_TRUE(m_boites.boites.empty());
 }
 
@@ -193,11 +194,11 @@ TEST_F(Saisie, UnProduitDePasQuiDeborde16BitsEstRefuse) {
 }
 
 TEST_F(Saisie, LesValeursLieesSontRameneesAvecLeurBoite) {
-    Taper("ChauffeParDefaut", "95");        // heat maximum 80
-    Taper("ChauffeNettoyage", "81");        // the same
+    Taper("ChauffeParDefaut", "95");         // heat maximum 80
+    Taper("ChauffeNettoyage", "81");         // the same
     Taper("VitesseDecoupeParDefaut", "6.5"); // 6 without ramp
-    Taper("VitesseRapide", "11");           // 10 with ramp
-    Taper("SaigneeVDsur2ParDefaut", "6.1"); // 6 in the preferences
+    Taper("VitesseRapide", "11");            // 10 with ramp
+    Taper("SaigneeVDsur2ParDefaut", "6.1");  // 6 in the preferences
     EXPECT_EQ(Remarque("ChauffeParDefaut"), "sera ramené à 80");
     EXPECT_EQ(Remarque("VitesseDecoupeParDefaut"), "sera ramené à 6");
     const std::optional<TableMachine> table = ControlerSaisie(m_saisie);
@@ -225,8 +226,9 @@ TEST_F(Saisie, LArretDesMoteursEtSonDelaiDisentLaMemeChose) {
 
 TEST_F(Saisie, DesTextesQuelconquesNeFontJamaisTomber) {
     std::mt19937 hasard(20240501);
-    const std::vector<std::string> textes = {"",   "0",  "-1",    "1e9", "99999999999999999999", "7",
-                                             "10", "é€", "0.001", "32768", "-", ",", "255", "1,5"};
+    const std::vector<std::string> textes = {"",  "0",  "-1",  "1e9",   "99999999999999999999",
+                                             "7", "10", "é€",  "0.001", "32768",
+                                             "-", ",",  "255", "1,5"};
     for (int essai = 0; essai < 400; ++essai) {
         SetUp();
         for (auto& [cle, texte] : m_saisie.Textes)
@@ -288,8 +290,9 @@ TEST_F(Saisie, LImageDitCeQueChaqueSortieFait) {
     EXPECT_TRUE(emplois[5].Libre());
     // Red is drawn where, and only where, an output serves twice.
     const auto rouges = [](const Dessin& dessin) {
-        return std::ranges::count_if(dessin.traits,
-                                     [](const TraitDessin& t) { return t.couleur == Couleur{214, 40, 40}; });
+        return std::ranges::count_if(dessin.traits, [](const TraitDessin& t) {
+            return t.couleur == Couleur{214, 40, 40};
+        });
     };
     EXPECT_GT(rouges(DessinerSorties(m_saisie, false)), 0);
     Taper("SortieDirX2", "6");

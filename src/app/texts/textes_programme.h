@@ -66,13 +66,13 @@ enum class TexteProgramme {
     ParametresChoisirMemoire,
     ParametresEnvoyes,     // %1 machine, %2 memory, from 1
     ParametresEnregistres, // %1 machine
-    EssaiEnCours,   // %1 percent done
+    EssaiEnCours,          // %1 percent done
     EssaiTermine,
     EssaiArrete,
     EssaiImpossible,
     ChauffeEssaiCoupure,
     EssaiSansReponse,
-    ValeursMatiere, // %1 heat, %2 speed, %3 and %4 kerfs
+    ValeursMatiere,     // %1 heat, %2 speed, %3 and %4 kerfs
     MachineDesMatieres, // %1 machine
     BoutonAbandonner,
     ExplicationsAbsentes, // %1 file

@@ -66,7 +66,8 @@ constexpr ChampFenetre Plateau[] = {
     {"txtPositionPlateau_0", "DistanceOrigineAxePlateauRotatif", "De l'origine à son axe",
      "From the origin to its axis", "Position de l'axe selon X", "Place of the axis along X"},
     {"txtPositionPlateau_1", "DistanceX1AxePlateauRotatif", "Du chariot 1 à son axe",
-     "From carriage 1 to its axis", "Position de l'axe selon la largeur", "Place of the axis across the table"},
+     "From carriage 1 to its axis", "Position de l'axe selon la largeur",
+     "Place of the axis across the table"},
     {"txtPositionPlateau_2", "HauteurPlateauRotatif", "Hauteur", "Height",
      "Épaisseur au-dessus du plateau fixe", "Thickness above the fixed table"},
 };
@@ -86,8 +87,8 @@ constexpr ChampFenetre Saignees[] = {
      "Plus lent, le fil enlève davantage", "Slower, the wire takes away more"},
 };
 constexpr ChampFenetre Nettoyage[] = {
-    {"txtChauffeNettoyage", "ChauffeNettoyage", "Chauffe", "Heating",
-     "Brûle ce qui colle au fil", "Burns off what sticks to the wire"},
+    {"txtChauffeNettoyage", "ChauffeNettoyage", "Chauffe", "Heating", "Brûle ce qui colle au fil",
+     "Burns off what sticks to the wire"},
     {"txtDecalageNettoyage", "DecalageNettoyage", "Montée du fil", "Rise of the wire",
      "Le fil s'écarte du plateau avant de chauffer", "The wire leaves the table before it heats"},
     {"txtAttenteNettoyage", "AttenteNettoyage", "Attente", "Wait", "Durée de la chauffe",
@@ -152,12 +153,12 @@ struct ColonneAxes {
     const char* aideEnglish;
 };
 constexpr ColonneAxes Colonnes[] = {
-    {"comboDirOut", "SortieDir", "sortie sens", "direction output",
-     "Sortie de l'interface qui donne le sens", "Output of the interface that gives the direction"},
+    {"comboDirOut", "SortieDir", "sortie sens", "direction output", "Sortie de l'interface qui donne le sens",
+     "Output of the interface that gives the direction"},
     {"chkInversionDir", "InvSignalSortieDir", "sens inversé", "direction inverted",
      "À cocher quand l'axe part à l'envers", "Tick when the axis runs the wrong way"},
-    {"comboStepOut", "SortieStep", "sortie pas", "step output",
-     "Sortie de l'interface qui donne les pas", "Output of the interface that gives the steps"},
+    {"comboStepOut", "SortieStep", "sortie pas", "step output", "Sortie de l'interface qui donne les pas",
+     "Output of the interface that gives the steps"},
     {"chkInversionPas", "InvSignalSortieStep", "pas inversés", "steps inverted",
      "Pour les cartes qui comptent le front descendant", "For drivers that count the falling edge"},
     {"txtPasParTour", "PasParTourMoteur", "pas par tour", "steps per turn",
@@ -208,8 +209,8 @@ const std::vector<ChampFenetre>& ChampsParAxe() {
                 liste.push_back({garder(std::string(colonne.controle) + "_" + std::to_string(axe)),
                                  garder(cle + Axes[axe]),
                                  garder(std::string(Axes[axe]) + ", " + colonne.francais),
-                                 garder(std::string(Axes[axe]) + ", " + colonne.english), colonne.aideFrancais,
-                                 colonne.aideEnglish});
+                                 garder(std::string(Axes[axe]) + ", " + colonne.english),
+                                 colonne.aideFrancais, colonne.aideEnglish});
             }
         }
         return liste;
@@ -265,7 +266,8 @@ private:
         if (avecBulle) AjouterChamp(champ);
         const char* qui = nom.starts_with("chk") ? champ.controle : Garder("lbl" + nom);
         m_libelles.push_back({qui, Propriete::Texte, champ.francais, champ.english});
-        m_libelles.push_back({Garder("lblAide" + nom), Propriete::Texte, champ.aideFrancais, champ.aideEnglish});
+        m_libelles.push_back(
+            {Garder("lblAide" + nom), Propriete::Texte, champ.aideFrancais, champ.aideEnglish});
         m_libelles.push_back({Garder("lblRemarque" + nom), Propriete::Variable});
         if (!nom.starts_with("chk")) m_libelles.push_back({Garder("lblUnite" + nom), Propriete::Variable});
     }

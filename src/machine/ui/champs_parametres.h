@@ -1,5 +1,5 @@
-// The fields of the parameter window: which control holds which key of a machine, in which group of which tab,
-// with its words in both languages.
+// The fields of the parameter window: which control holds which key of a machine, in which group of which
+// tab, with its words in both languages.
 #pragma once
 
 #include "ui/libelles.h"
@@ -10,8 +10,8 @@
 
 namespace tessarel {
 
-// A field with its explanation. The kind of the control is told by its name: txt a text, chk a check box, slid
-// a slider, combo a list.
+// A field with its explanation. The kind of the control is told by its name: txt a text, chk a check box,
+// slid a slider, combo a list.
 struct ChampFenetre {
     const char* controle; // objectName, "_index" included
     const char* cle;      // in the settings file
@@ -30,7 +30,15 @@ struct GroupeFenetre {
 
 // Groups of the tabs, in their order; the first tab, with one column of fields per axis, has a layout of its
 // own.
-enum OngletParametres { OngletMoteurs, OngletVitesses, OngletGeometrie, OngletChauffe, OngletOrigine, OngletGcode, OngletMemoires };
+enum OngletParametres {
+    OngletMoteurs,
+    OngletVitesses,
+    OngletGeometrie,
+    OngletChauffe,
+    OngletOrigine,
+    OngletGcode,
+    OngletMemoires
+};
 std::span<const GroupeFenetre> GroupesDeLOnglet(int onglet);
 // The fields of the first tab.
 std::span<const ChampFenetre> ChampsDesMoteurs();

@@ -62,15 +62,16 @@ ConduiteManuelle::Resultat ConduiteManuelle::Mouvoir(const PasAxes& pas, const V
         suivi.demandes = &m_demandes;
         suivi.Avancer = [this](const AvanceeMarche& avancee) { emit Avance(avancee.Fraction); };
         suivi.Prevenir = [this, &alerte] {
-            Prevenir(alerte, Texte(TexteProgramme::EssaiSansReponse), [this] { m_demandes.StopDemande = true; });
+            Prevenir(alerte, Texte(TexteProgramme::EssaiSansReponse),
+                     [this] { m_demandes.StopDemande = true; });
         };
         mouvement = FaireMouvement(TableINI, pas, vitesses, suivi);
         moteursOff = m_demandes.MoteursOffDemande;
         delete alerte;
     }
     if (moteursOff) CouperMoteurs();
-    const bool parLUtilisateur = mouvement.marche.fin == FinMarche::Arretee ||
-                                 mouvement.marche.fin == FinMarche::StopAvantMouvement;
+    const bool parLUtilisateur =
+        mouvement.marche.fin == FinMarche::Arretee || mouvement.marche.fin == FinMarche::StopAvantMouvement;
     const bool ordinaire = parLUtilisateur || mouvement.cause == CauseFin::FinDeListe;
     if (!ordinaire) CouperSiChaud();
     AnnoncerCause(mouvement.cause);
@@ -102,7 +103,8 @@ void ConduiteManuelle::Prevenir(QPointer<QMessageBox>& alerte, const std::string
                   {texte, TextesDoubles(RangeeChauffeNonCoupee, 2), IconeBoite::Critique, BoutonsBoite::Ok});
     alerte->setObjectName(QStringLiteral("alerteInterface"));
     alerte->button(QMessageBox::Ok)->setText(TexteAffiche(Texte(TexteProgramme::BoutonAbandonner)));
-    connect(alerte, &QMessageBox::buttonClicked, this, [abandonner = std::move(abandonner)] { abandonner(); });
+    connect(alerte, &QMessageBox::buttonClicked, this,
+            [abandonner = std::move(abandonner)] { abandonner(); });
     alerte->open();
 }
 
@@ -112,8 +114,10 @@ bool ConduiteManuelle::InterrupteursPermettent() {
         Refuser(RangeePasDInterface);
         return false;
     }
-    if (statut.ChauffeSurOff) Refuser(RangeeInterrupteurOff);
-    else if (statut.ChauffeSurManu) Refuser(RangeeInterrupteurManu);
+    if (statut.ChauffeSurOff)
+        Refuser(RangeeInterrupteurOff);
+    else if (statut.ChauffeSurManu)
+        Refuser(RangeeInterrupteurManu);
     return !statut.ChauffeSurOff && !statut.ChauffeSurManu;
 }
 

@@ -44,8 +44,8 @@ public:
     bool Chauffer(double pourcent);
     // Another heat while the wire is on; while a move runs it goes out between two of its exchanges.
     void ChangerChauffe(double pourcent);
-    // Heat off, repeated until it is confirmed; the user is warned when that takes long and may give up, which
-    // ends in a loud box. True when the wire is known to be cold.
+    // Heat off, repeated until it is confirmed; the user is warned when that takes long and may give up,
+    // which ends in a loud box. True when the wire is known to be cold.
     bool Couper();
     // The same, only where the wire may be hot.
     bool CouperSiChaud();

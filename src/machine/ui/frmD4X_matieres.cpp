@@ -100,7 +100,8 @@ void frmD4X_matieres::Relier() {
             [] { Expliquer(RangeeDefinirMatiere); });
     connect(findChild<QToolButton*>(QStringLiteral("cmdAideTimeOut")), &QToolButton::clicked, this,
             [] { Expliquer(RangeeTensionPermanente); });
-    connect(cmdExplications, &QPushButton::clicked, this, [] { OuvrirExplicationsMatiere(LangueCourante()); });
+    connect(cmdExplications, &QPushButton::clicked, this,
+            [] { OuvrirExplicationsMatiere(LangueCourante()); });
     connect(cmdQuitter, &QPushButton::clicked, this, &QDialog::reject);
     RelierCurseurs();
     RelierTest();
@@ -142,7 +143,8 @@ void frmD4X_matieres::RelierChauffe() {
     QPalette rouge = lblWarningChauffe->palette();
     rouge.setColor(QPalette::WindowText, CouleurAlerte());
     lblWarningChauffe->setPalette(rouge);
-    connect(chkDesactiverTimeOutMoteurs, &QCheckBox::toggled, m_conduite, &ConduiteManuelle::TensionPermanente);
+    connect(chkDesactiverTimeOutMoteurs, &QCheckBox::toggled, m_conduite,
+            &ConduiteManuelle::TensionPermanente);
 }
 
 // Base ----------------------------------------------------------------------------------------------

@@ -28,7 +28,8 @@ constexpr double PasChauffe = 0.5; // percent
 constexpr double PasFin = 0.01;    // mm/s and mm
 
 template <std::size_t N>
-void FaireOptions(QGroupBox* cadre, QBoxLayout* pose, const char* nom, std::array<QRadioButton*, N>& options) {
+void FaireOptions(QGroupBox* cadre, QBoxLayout* pose, const char* nom,
+                  std::array<QRadioButton*, N>& options) {
     auto* groupe = new QButtonGroup(cadre);
     for (std::size_t i = 0; i < N; ++i) {
         options[i] = Nommer(new QRadioButton, nom, i);

@@ -33,12 +33,13 @@ void frmD4X_matieres::RelierTest() {
     for (std::size_t i = 0; i < cmdMvtTranches.size(); ++i)
         connect(cmdMvtTranches[i], &QPushButton::clicked, this, [this, i] { Mouvoir(i); });
     connect(cmdStopTranches, &QPushButton::clicked, m_conduite, &ConduiteManuelle::DemanderArret);
-    connect(m_conduite, &ConduiteManuelle::DebutMouvement, this, &frmD4X_matieres::MontrerMouvementsPossibles);
+    connect(m_conduite, &ConduiteManuelle::DebutMouvement, this,
+            &frmD4X_matieres::MontrerMouvementsPossibles);
     connect(m_conduite, &ConduiteManuelle::FinMouvement, this, &frmD4X_matieres::MontrerMouvementsPossibles);
     connect(m_conduite, &ConduiteManuelle::Avance, this, [this](double part) {
         m_fraction = part;
-        lblEtatTranches->setText(TexteAffiche(
-            TexteRempli(TexteProgramme::EssaiEnCours, {FormaterNombre(100 * part, "##0")})));
+        lblEtatTranches->setText(
+            TexteAffiche(TexteRempli(TexteProgramme::EssaiEnCours, {FormaterNombre(100 * part, "##0")})));
         MontrerTranches();
     });
     for (ChampNombre* dimension : txtDimensionsTranches) {
@@ -149,8 +150,8 @@ void frmD4X_matieres::PasAnimation() {
 }
 
 void frmD4X_matieres::MontrerSaignee() {
-    lblSaignee->setText(QString::fromStdString(
-        TexteSaignee(SaigneeMesuree(Dimensions()[1], txtEpaisseurObtenue->Valeur()))));
+    lblSaignee->setText(
+        QString::fromStdString(TexteSaignee(SaigneeMesuree(Dimensions()[1], txtEpaisseurObtenue->Valeur()))));
     // At rapid speed nothing is measured.
     cmdEnvoyerSaignee->setEnabled(VitesseChoisie() != VitesseTranche::Rapide);
 }

@@ -55,7 +55,8 @@ frmImporterMatiere::frmImporterMatiere(QWidget* parent) : QDialog(parent) {
     setMinimumWidth(480);
     AppliquerLibelles(*this, LibellesImporterMatiere(), LangueCourante());
     for (std::size_t i = 1; i < MatieresAutresMachines.size(); ++i) // the first is no material
-        comboMatieresImport->addItem(QString::fromStdString(NomAfficheAvecMachine(MatieresAutresMachines[i])));
+        comboMatieresImport->addItem(
+            QString::fromStdString(NomAfficheAvecMachine(MatieresAutresMachines[i])));
     connect(comboMatieresImport, &QComboBox::currentIndexChanged, this, &frmImporterMatiere::MontrerChoix);
     connect(valider, &QPushButton::clicked, this, &frmImporterMatiere::accept);
     connect(annuler, &QPushButton::clicked, this, &QDialog::reject);

@@ -82,7 +82,8 @@ SaisieMachine frmParametresTables::Saisie() const {
 }
 
 std::string frmParametresTables::TexteDuChamp(const Champ& champ) {
-    if (const auto* texte = qobject_cast<const QLineEdit*>(champ.controle)) return texte->text().toStdString();
+    if (const auto* texte = qobject_cast<const QLineEdit*>(champ.controle))
+        return texte->text().toStdString();
     if (const auto* coche = qobject_cast<const QCheckBox*>(champ.controle))
         return coche->isChecked() ? "1" : "0";
     if (const auto* liste = qobject_cast<const QComboBox*>(champ.controle))
@@ -170,10 +171,10 @@ void frmParametresTables::MontrerMachine() {
     const bool reservee = EstMachineIntegree(TableINI.Nom);
     lblNomReserve->setVisible(reservee);
     cmdEffacerTable->setEnabled(!reservee);
-    cmdEffacerTable->setToolTip(TexteAffiche(
-        reservee ? TextesMessages(RangeeNePeutEtreEffacee) + TableINI.Nom +
-                       TitresMessages(RangeeNePeutEtreEffacee)
-                 : Texte(TexteProgramme::ParametresEffacerBulle)));
+    cmdEffacerTable->setToolTip(TexteAffiche(reservee
+                                                 ? TextesMessages(RangeeNePeutEtreEffacee) + TableINI.Nom +
+                                                       TitresMessages(RangeeNePeutEtreEffacee)
+                                                 : Texte(TexteProgramme::ParametresEffacerBulle)));
 }
 
 void frmParametresTables::RelireChamps() {
@@ -186,7 +187,8 @@ void frmParametresTables::RelireChamps() {
         // A slider says its value where the other fields have their unit alone.
         const auto* limites = ChampMachineSaisiDe(champ.rangee->cle);
         auto* unite = findChild<QLabel*>(QStringLiteral("lblUnite") + champ.controle->objectName());
-        unite->setText(QString::fromStdString(TexteDuChamp(champ)) + u' ' + QString::fromUtf8(limites->unite));
+        unite->setText(QString::fromStdString(TexteDuChamp(champ)) + u' ' +
+                       QString::fromUtf8(limites->unite));
     }
     lblEtat->setText(Modifiee() ? TexteAffiche(Texte(TexteProgramme::ParametresModifies)) : QString());
 }
@@ -224,14 +226,15 @@ void frmParametresTables::MontrerCalculs(const SaisieMachine& saisie) {
     for (std::size_t axe = 0; axe < axes.size(); ++axe) {
         const std::string nom = axes[axe];
         const double parTour = lire((axe == AxeA ? "DegParTour" : "MmParTour") + nom);
-        const double pas = parTour == 0 ? 0 : Arrondi(lire("MicroPas" + nom) * lire("PasParTourMoteur" + nom) / parTour);
+        const double pas =
+            parTour == 0 ? 0 : Arrondi(lire("MicroPas" + nom) * lire("PasParTourMoteur" + nom) / parTour);
         lblPasParMm[axe]->setText(QString::fromStdString(FormaterNombre(pas, "#####0")) +
                                   (axe == AxeA ? QStringLiteral(" /°") : QStringLiteral(" /mm")));
     }
-    const double utile =
-        lire("EcartementY1Y2") - lire("EcartementY1Plateau") - lire("EcartementPlateauY2");
-    lblEcartementUtile->setText(TexteAffiche(TexteRempli(
-        TexteProgramme::ParametresEcartementUtile, {PointVersSeparateur(FormaterNombre(utile, "#####0.0##"))})));
+    const double utile = lire("EcartementY1Y2") - lire("EcartementY1Plateau") - lire("EcartementPlateauY2");
+    lblEcartementUtile->setText(
+        TexteAffiche(TexteRempli(TexteProgramme::ParametresEcartementUtile,
+                                 {PointVersSeparateur(FormaterNombre(utile, "#####0.0##"))})));
 }
 
 bool frmParametresTables::Modifiee() const {
@@ -261,9 +264,8 @@ void frmParametresTables::MontrerMemoires() {
                                                                        : QStringLiteral("–");
         optChoixMemoire[i]->setText(QStringLiteral("%1: %2").arg(i + 1).arg(nom));
         ssTabZelko->setTabText(static_cast<int>(i), optChoixMemoire[i]->text());
-        lblContenuMemoire[i]->setText(InterfaceConnectee
-                                          ? TexteContenuMemoire(memoire, TableINI)
-                                          : TexteAffiche(TextesMessages(RangeePasDInterface)));
+        lblContenuMemoire[i]->setText(InterfaceConnectee ? TexteContenuMemoire(memoire, TableINI)
+                                                         : TexteAffiche(TextesMessages(RangeePasDInterface)));
         if (MouvementsActifs && TableINI.NumeroMemoire == i && m_memoires->checkedId() < 0)
             optChoixMemoire[i]->setChecked(true);
     }
@@ -275,8 +277,9 @@ void frmParametresTables::ActualiserNomsMemoiresEtAffichageMachineDansFrmParamet
     const bool sansBoite = !InterfaceConnectee;
     std::string etat = TextesMessages(RangeeCorrespondance); // no memory of that name, or another content
     if (sansBoite) etat = TextesMessages(RangeePasDInterface);
-    if (MouvementsActifs) etat = TexteRempli(TexteProgramme::ParametresMouvementsActifs,
-                                             {std::to_string(TableINI.NumeroMemoire + 1)});
+    if (MouvementsActifs)
+        etat = TexteRempli(TexteProgramme::ParametresMouvementsActifs,
+                           {std::to_string(TableINI.NumeroMemoire + 1)});
     const bool memeNom = std::ranges::any_of(
         MemoiresZelko, [](const TableMachine& memoire) { return memoire.Nom == TableINI.Nom; });
     if (!sansBoite && !MouvementsActifs && memeNom) etat = TitresMessages(RangeePasDInterface + 1);
@@ -334,9 +337,8 @@ void frmParametresTables::MontrerPage(int page) {
 // Commands ------------------------------------------------------------------------------------------
 
 bool frmParametresTables::AccepterAbandon() {
-    return !Modifiee() ||
-           DemanderOuiNon(TexteRempli(TexteProgramme::ParametresAbandon, {TableINI.Nom}),
-                          TitresMessages(RangeeQuitterSansValider), IconeBoite::Exclamation);
+    return !Modifiee() || DemanderOuiNon(TexteRempli(TexteProgramme::ParametresAbandon, {TableINI.Nom}),
+                                         TitresMessages(RangeeQuitterSansValider), IconeBoite::Exclamation);
 }
 
 void frmParametresTables::ChangerMachine(int rang) {

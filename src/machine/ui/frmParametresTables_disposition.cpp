@@ -34,8 +34,8 @@ constexpr int NombreSorties = 10;
 constexpr const char* NomsAxes[] = {"X1", "Y1", "X2", "Y2", "A"};
 
 // Columns of the grid of axes: the first word of the name, in the order shown.
-constexpr const char* ColonnesAxes[] = {"comboDirOut", "chkInversionDir", "comboStepOut", "chkInversionPas",
-                                        "txtPasParTour", "txtMicroPas", "txtMmParTour"};
+constexpr const char* ColonnesAxes[] = {"comboDirOut",   "chkInversionDir", "comboStepOut", "chkInversionPas",
+                                        "txtPasParTour", "txtMicroPas",     "txtMmParTour"};
 
 QSlider* FaireCurseur(const ChampFenetre& champ) {
     auto* curseur = new QSlider(Qt::Horizontal);
@@ -231,7 +231,8 @@ QWidget* frmParametresTables::DisposerGrilleAxes() {
         nom->setText(QString::fromLatin1(NomsAxes[axe]));
         pose->addWidget(nom, rang, 0, Qt::AlignCenter);
         for (std::size_t colonne = 0; colonne < std::size(ColonnesAxes); ++colonne) {
-            const QString cherche = QStringLiteral("%1_%2").arg(QLatin1String(ColonnesAxes[colonne])).arg(axe);
+            const QString cherche =
+                QStringLiteral("%1_%2").arg(QLatin1String(ColonnesAxes[colonne])).arg(axe);
             for (const ChampFenetre& champ : champs) {
                 if (cherche != QLatin1String(champ.controle)) continue;
                 QWidget* controle = FaireControle(champ);

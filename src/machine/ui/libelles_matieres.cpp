@@ -116,7 +116,8 @@ constexpr Libelle Matieres[] = {
     {"frameMesure", Texte, "Mesure", "Measurement"},
     {"lblEpaisseurObtenue", Texte, "Épaisseur obtenue E", "Thickness obtained, E"},
     {"lblUniteEpaisseur", Texte, "mm", "mm"},
-    {"txtEpaisseurObtenue", Bulle, "Épaisseur mesurée au pied à coulisse", "Thickness measured with calipers"},
+    {"txtEpaisseurObtenue", Bulle, "Épaisseur mesurée au pied à coulisse",
+     "Thickness measured with calipers"},
     {"lblSaignee", Variable},
     {"cmdEnvoyerSaignee", Texte, "Envoyer vers la matière", "Send to the material", "", "valider"},
     {"cmdEnvoyerSaignee", Bulle,
@@ -135,7 +136,8 @@ constexpr Libelle Import[] = {
     {"txtNouveauNom", Bulle, "Les noms de matières sont uniques, toutes machines confondues",
      "Names of materials are unique over all machines"},
     {"lblExplicationImport", Texte,
-     "Les noms de matières sont uniques : donnez-en un autre, par exemple avec un chiffre. L'original reste à "
+     "Les noms de matières sont uniques : donnez-en un autre, par exemple avec un chiffre. L'original reste "
+     "à "
      "sa machine.",
      "Names of materials are unique: give another one, with a digit for instance. The original stays with "
      "its machine."},

@@ -183,8 +183,9 @@ QString TexteSorties(const TableMachine& memoire) {
         const unsigned code = memoire.CodeDefinitionSortie[i];
         const unsigned axe = code & 0x3FU;
         if (axe < 1 || axe > 5) continue;
-        std::string fonction = TexteRempli(
-            (code & 0x80U) != 0 ? TexteProgramme::SortiePas : TexteProgramme::SortieDirection, {axes[axe - 1]});
+        std::string fonction =
+            TexteRempli((code & 0x80U) != 0 ? TexteProgramme::SortiePas : TexteProgramme::SortieDirection,
+                        {axes[axe - 1]});
         if ((code & 0x40U) != 0) fonction = TexteRempli(TexteProgramme::SortieInversee, {fonction});
         sorties << QStringLiteral("%1: %2").arg(i + 1).arg(QString::fromStdString(fonction));
     }
@@ -225,10 +226,10 @@ QString TexteContenuMemoire(const TableMachine& memoire, const TableMachine& tab
                    memoire.PenteAcceleration != table.PenteAcceleration);
     texte += Ligne(mots("Chauffe maxi, 0 à 255", "Maximum heating, 0 to 255"),
                    QString::number(memoire.PWMmaxi0to255), memoire.PWMmaxi0to255 != table.PWMmaxi0to255);
-    texte += Ligne(mots("Délai d'arrêt des moteurs", "Motors-off delay"),
-                   memoire.AutoMoteursOff ? QString::number(memoire.DelaiMoteursOff) : mots("jamais", "never"),
-                   memoire.AutoMoteursOff != table.AutoMoteursOff ||
-                       memoire.DelaiMoteursOff != table.DelaiMoteursOff);
+    texte += Ligne(
+        mots("Délai d'arrêt des moteurs", "Motors-off delay"),
+        memoire.AutoMoteursOff ? QString::number(memoire.DelaiMoteursOff) : mots("jamais", "never"),
+        memoire.AutoMoteursOff != table.AutoMoteursOff || memoire.DelaiMoteursOff != table.DelaiMoteursOff);
     texte += Ligne(mots("Interrupteurs présents", "Switches present"), ouiNon(memoire.SwitchsActifs),
                    memoire.SwitchsActifs != table.SwitchsActifs);
     texte += Ligne(mots("Mise sous tension inversée", "Motors on/off inverted"),

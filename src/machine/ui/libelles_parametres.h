@@ -1,4 +1,5 @@
-// The words of the parameter window and of the one that asks for a name, and the contents of a memory as text.
+// The words of the parameter window and of the one that asks for a name, and the contents of a memory as
+// text.
 #pragma once
 
 #include "machine/table_machine.h"

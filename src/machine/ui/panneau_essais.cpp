@@ -55,7 +55,8 @@ QPushButton* FaireBouton(const char* nom) {
 // Four fields, one per axis, each behind its caption.
 void FaireChamps(QGridLayout* pose, const char* nom, std::array<ChampNombre*, 4>& champs) {
     for (std::size_t i = 0; i < champs.size(); ++i) {
-        auto* etiquette = Nommer(new QLabel, qPrintable(QStringLiteral("lbl") + QString::fromLatin1(nom + 3)), i);
+        auto* etiquette =
+            Nommer(new QLabel, qPrintable(QStringLiteral("lbl") + QString::fromLatin1(nom + 3)), i);
         champs[i] = Nommer(new ChampNombre, nom, i);
         champs[i]->FixerMasque(MasqueMm);
         champs[i]->setMaximumWidth(120);
@@ -195,8 +196,8 @@ void PanneauEssais::Relier() {
     connect(m_conduite, &ConduiteManuelle::DebutMouvement, this, [this] { MontrerEtatMouvement(true); });
     connect(m_conduite, &ConduiteManuelle::FinMouvement, this, [this] { MontrerEtatMouvement(false); });
     connect(m_conduite, &ConduiteManuelle::Avance, this, [this](double part) {
-        lblEtatMouvement->setText(TexteAffiche(
-            TexteRempli(TexteProgramme::EssaiEnCours, {FormaterNombre(100 * part, "##0")})));
+        lblEtatMouvement->setText(
+            TexteAffiche(TexteRempli(TexteProgramme::EssaiEnCours, {FormaterNombre(100 * part, "##0")})));
     });
     RelierChauffe();
 }
@@ -262,13 +263,15 @@ void PanneauEssais::MontrerPositions() {
         const auto pas = static_cast<double>(m_position[axe]);
         const double parTour = TableINI.PasParTour[axe];
         const double mm = parTour == 0 ? 0 : pas * TableINI.MmParTour[axe] / parTour;
-        const std::string texte = enPas ? FormaterNombre(pas, "#####0") : FormaterNombre(mm, MasqueMm) + " mm";
+        const std::string texte =
+            enPas ? FormaterNombre(pas, "#####0") : FormaterNombre(mm, MasqueMm) + " mm";
         lblPosition[axe]->setText(QString::fromStdString(PointVersSeparateur(texte)));
     }
 }
 
 void PanneauEssais::MontrerEtatMouvement(bool enMouvement) {
-    for (QPushButton* depart : {cmdGoIncrements, cmdGoValeurs, cmdRemiseAZero}) depart->setEnabled(!enMouvement);
+    for (QPushButton* depart : {cmdGoIncrements, cmdGoValeurs, cmdRemiseAZero})
+        depart->setEnabled(!enMouvement);
     for (QPushButton* arret : {cmdStopIncrements, cmdStopValeurs}) arret->setEnabled(enMouvement);
     emit EnMouvement(enMouvement);
 }
@@ -331,7 +334,8 @@ void PanneauEssais::GoValeurs() {
 }
 
 void PanneauEssais::Partir(const Pas& pas) {
-    float vitesse = optVitesseRelManu[1]->isChecked() ? TableINI.VitesseDecoupeParDefaut : TableINI.VitesseRapide;
+    float vitesse =
+        optVitesseRelManu[1]->isChecked() ? TableINI.VitesseDecoupeParDefaut : TableINI.VitesseRapide;
     // What is no number is refused as a speed out of range is.
     if (optVitesseRelManu[0]->isChecked())
         vitesse = EnSimple(LireDecimal(txtVitesseChoisieParam->text().toStdString())

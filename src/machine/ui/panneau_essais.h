@@ -1,5 +1,5 @@
-// The test moves of the parameter window: by increments, to values, with their speed, the heat of the wire and
-// the motors.
+// The test moves of the parameter window: by increments, to values, with their speed, the heat of the wire
+// and the motors.
 #pragma once
 
 #include <QWidget>

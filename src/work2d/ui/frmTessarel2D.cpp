@@ -82,6 +82,8 @@ void frmTessarel2D::Relier() {
     connect(cmdZoomTout, &QToolButton::clicked, this, [vue] { vue()->ZoomTout(); });
     connect(cmdZoomPlus, &QToolButton::clicked, this, [vue] { vue()->Zoomer(FacteurLoupe); });
     connect(cmdZoomMoins, &QToolButton::clicked, this, [vue] { vue()->Zoomer(1 / FacteurLoupe); });
+    connect(cmdParametresMachine, &QToolButton::clicked, this, &frmTessarel2D::ParametrerMachine);
+    connect(cmdMatieres, &QToolButton::clicked, this, &frmTessarel2D::GererMatieres);
     connect(cmdAide, &QToolButton::clicked, this, [] {
         AfficherInformation(Texte(TexteProgramme::Fenetre2DAide), Texte(TexteProgramme::Fenetre2DAideTitre));
     });
@@ -147,6 +149,16 @@ void frmTessarel2D::RelierDecoupe() {
     connect(chkExportGcode2D, &QCheckBox::toggled, this, &frmTessarel2D::MontrerOptionsDecoupe);
     connect(cmdLancerLaDecoupeTS2D, &QPushButton::clicked, this, &frmTessarel2D::LancerDecoupe);
     connect(cmdAnnulerDecoupe, &QPushButton::clicked, this, &frmTessarel2D::FermerDecoupe);
+}
+
+void frmTessarel2D::ActualiserMachine() {
+    RemplirMatieres();
+    for (Canevas* canevas : {pctSequTS2D, pctDecoupe}) canevas->FixerCadreComplet(CadreTable(TableINI));
+    TraceSequTS2D();
+    MontrerEtat();
+    if (!DecoupeOuverte()) return;
+    m_valeurs = LimiterValeurs(DecoupeCourante, TableINI, static_cast<float>(Parametres.SaigneeMaxiSoft));
+    CalculerDecoupe();
 }
 
 void frmTessarel2D::MarquerModifie() {

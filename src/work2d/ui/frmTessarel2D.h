@@ -56,6 +56,15 @@ public:
     // Opens a file as if chosen in the dialog. False after a box that says why; the work is then as it was.
     bool OuvrirFichier(const std::string& chemin);
 
+public slots:
+    // Shows the current machine and materials anew: another window has changed them.
+    void ActualiserMachine();
+
+signals:
+    // The user wants the window of the machine's parameters, or that of the materials.
+    void ParametrerMachine();
+    void GererMatieres();
+
 protected:
     void closeEvent(QCloseEvent* evenement) override;
     void dragEnterEvent(QDragEnterEvent* evenement) override;
@@ -180,6 +189,8 @@ private:
     QToolButton* cmdOuvrirApercu = nullptr;
     QToolButton* cmdFermerApercu = nullptr;
     QShortcut* raccourciFermerApercu = nullptr; // while a preview is shown
+    QToolButton* cmdParametresMachine = nullptr;
+    QToolButton* cmdMatieres = nullptr;
     QToolButton* cmdZoomTout = nullptr;
     QToolButton* cmdZoomPlus = nullptr;
     QToolButton* cmdZoomMoins = nullptr;

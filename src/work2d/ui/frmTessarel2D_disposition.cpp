@@ -207,6 +207,8 @@ QWidget* frmTessarel2D::DisposerOutils() {
     ajouter(cmdBibliotheque, "cmdBibliotheque");
     cmdBibliotheque->setCheckable(true);
     cmdBibliotheque->setChecked(true);
+    ajouter(cmdMatieres, "cmdMatieres");
+    ajouter(cmdParametresMachine, "cmdParametresMachine");
     colonne->addStretch(1);
     ajouter(cmdZoomTout, "cmdZoomTout");
     auto* loupes = new QHBoxLayout;

@@ -1,0 +1,242 @@
+// The test moves of the parameter window with the virtual box: increments, positions, speeds, stops, heat,
+// and a wire that is cold when the window closes.
+#include "fenetres/boite_virtuelle.h"
+#include "fenetres/images.h"
+#include "fenetres/poste_machine.h"
+#include "machine/ui/frmParametresTables.h"
+#include "machine/ui/libelles_parametres.h"
+#include "ui/theme.h"
+
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QRadioButton>
+#include <QScrollBar>
+
+using namespace tessarel;
+using namespace tessarel::essais;
+
+namespace {
+
+void Taper(const QWidget& fenetre, const char* champ, const QString& texte) {
+    auto& saisie = Controle<QLineEdit>(fenetre, champ);
+    saisie.setFocus();
+    saisie.selectAll();
+    QTest::keyClicks(&saisie, texte);
+}
+
+// The machine in memory 1, the page of the moves open.
+struct Essais {
+    explicit Essais(Langue langue = Langue::Francais) : poste(langue) {
+        virtuelle.Memoriser(0, TableINI);
+        fenetre = std::make_unique<frmParametresTables>();
+        Exposer(*fenetre);
+        if (!MouvementsActifs) qFatal("moves are not enabled");
+        Cliquer(*fenetre, "optReglagesVersManu_1");
+    }
+    [[nodiscard]] simulateur::PositionPas Position() const { return virtuelle.boite->Position(); }
+    PosteMachine poste;
+    BoiteVirtuelle virtuelle;
+    std::unique_ptr<frmParametresTables> fenetre;
+};
+
+} // namespace
+
+class EssaiMouvementsMachine : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { AppliquerTheme(Theme::Clair); }
+
+    void LesIncrementsDeplacentLesChariots();
+    void LesValeursVontALaPosition();
+    void UneVitesseIncorrecteEstRefusee();
+    void StopArreteLeMouvement();
+    void LeBoutonStopDeLaMachineCoupeLaChauffe();
+    void LesMoteursSeCoupent();
+    void LaChauffeSuitSesBoutons();
+    void FermerAvecLeFilChaudLeRefroidit();
+    void FermerAvecLaBoiteDebrancheePrevient();
+    void Images_data();
+    void Images();
+};
+
+void EssaiMouvementsMachine::LesIncrementsDeplacentLesChariots() {
+    Essais essai;
+    Taper(*essai.fenetre, "txtIncrements_0", QStringLiteral("10"));
+    Taper(*essai.fenetre, "txtIncrements_3", QStringLiteral("2,5"));
+    Cliquer(*essai.fenetre, "cmdGoIncrements");
+    QCOMPARE(essai.Position()[AxeX1], 3200); // 320 steps per mm
+    QCOMPARE(essai.Position()[AxeY1], 0);
+    QCOMPARE(essai.Position()[AxeY2], 800);
+    QCOMPARE(Controle<QLabel>(*essai.fenetre, "lblEtatMouvement").text(),
+             QStringLiteral("Mouvement terminé"));
+    QCOMPARE(Controle<QLabel>(*essai.fenetre, "lblPosition_0").text(), QStringLiteral("10.0 mm"));
+    Cliquer(*essai.fenetre, "optMMPas_1");
+    Taper(*essai.fenetre, "txtIncrements_0", QStringLiteral("-200"));
+    Taper(*essai.fenetre, "txtIncrements_3", QStringLiteral("0"));
+    Cliquer(*essai.fenetre, "cmdGoIncrements");
+    QCOMPARE(essai.Position()[AxeX1], 3000);
+    QVERIFY(essai.poste.boites.boites.empty());
+}
+
+void EssaiMouvementsMachine::LesValeursVontALaPosition() {
+    Essais essai;
+    Cliquer(*essai.fenetre, "chkMvtValeurs1egal2");
+    QVERIFY(!Controle<QWidget>(*essai.fenetre, "txtValeurs_2").isEnabled());
+    Taper(*essai.fenetre, "txtValeurs_0", QStringLiteral("5"));
+    Taper(*essai.fenetre, "txtValeurs_1", QStringLiteral("3"));
+    Cliquer(*essai.fenetre, "cmdGoValeurs");
+    QCOMPARE(essai.Position()[AxeX1], 1600);
+    QCOMPARE(essai.Position()[AxeX2], 1600);
+    QCOMPARE(essai.Position()[AxeY2], 960);
+    Taper(*essai.fenetre, "txtValeurs_0", QStringLiteral("4"));
+    Cliquer(*essai.fenetre, "cmdGoValeurs");
+    QCOMPARE(essai.Position()[AxeX1], 1280);
+    QCOMPARE(essai.Position()[AxeY1], 960);
+    Cliquer(*essai.fenetre, "cmdRemiseAZero");
+    QCOMPARE(Controle<QLabel>(*essai.fenetre, "lblPosition_0").text(), QStringLiteral("0.0 mm"));
+}
+
+void EssaiMouvementsMachine::UneVitesseIncorrecteEstRefusee() {
+    Essais essai;
+    Taper(*essai.fenetre, "txtIncrements_0", QStringLiteral("10"));
+    for (const char* vitesse : {"vite", "-1", "10.5"}) {
+        essai.poste.boites.boites.clear();
+        Taper(*essai.fenetre, "txtVitesseChoisieParam", QString::fromLatin1(vitesse));
+        Cliquer(*essai.fenetre, "cmdGoIncrements");
+        QCOMPARE(essai.poste.boites.boites.size(), std::size_t(1));
+        QCOMPARE(essai.poste.DerniereBoite().texte, std::string("Valeur de Vitesse incorrecte"));
+    }
+    QCOMPARE(essai.Position()[AxeX1], 0);
+    QCOMPARE(essai.virtuelle.Compter(CommandeFile, 128), std::size_t(0));
+}
+
+void EssaiMouvementsMachine::StopArreteLeMouvement() {
+    Essais essai;
+    Taper(*essai.fenetre, "txtIncrements_0", QStringLiteral("100"));
+    int pompages = 0;
+    bool cadresFermes = false;
+    essai.virtuelle.SurPompe = [&] {
+        if (++pompages != 40) return;
+        cadresFermes = !Controle<QWidget>(*essai.fenetre, "frameChoixMachine").isEnabled();
+        Cliquer(*essai.fenetre, "cmdStopIncrements");
+    };
+    Cliquer(*essai.fenetre, "cmdGoIncrements");
+    essai.virtuelle.SurPompe = {};
+    QVERIFY(cadresFermes);
+    QVERIFY(essai.Position()[AxeX1] > 0);
+    QVERIFY(essai.Position()[AxeX1] < 32000);
+    QCOMPARE(Controle<QLabel>(*essai.fenetre, "lblEtatMouvement").text(), QStringLiteral("Mouvement arrêté"));
+    const double montre =
+        Controle<QLabel>(*essai.fenetre, "lblPosition_0").text().section(u' ', 0, 0).toDouble();
+    QVERIFY(std::abs(montre - essai.Position()[AxeX1] / 320.0) < 0.5);
+    QVERIFY(Controle<QWidget>(*essai.fenetre, "frameChoixMachine").isEnabled());
+    QVERIFY(essai.poste.boites.boites.empty());
+}
+
+void EssaiMouvementsMachine::LeBoutonStopDeLaMachineCoupeLaChauffe() {
+    Essais essai;
+    Cliquer(*essai.fenetre, "optChauffeParam_1");
+    QVERIFY(essai.virtuelle.boite->Etat().pwmFil > 0);
+    Taper(*essai.fenetre, "txtIncrements_0", QStringLiteral("100"));
+    int pompages = 0;
+    essai.virtuelle.SurPompe = [&] {
+        if (++pompages == 40) essai.virtuelle.boite->AppuyerStop();
+    };
+    Cliquer(*essai.fenetre, "cmdGoIncrements");
+    essai.virtuelle.SurPompe = {};
+    QCOMPARE(int(essai.virtuelle.boite->Etat().pwmFil), 0);
+    QVERIFY(Controle<QRadioButton>(*essai.fenetre, "optChauffeParam_0").isChecked());
+    QCOMPARE(essai.poste.DerniereBoite().texte,
+             std::string("Arrêt chauffe et mouvements par appui sur bouton STOP de la machine."));
+    QCOMPARE(essai.poste.DerniereBoite().titre, std::string("Arrêt d'urgence"));
+}
+
+void EssaiMouvementsMachine::LesMoteursSeCoupent() {
+    Essais essai;
+    Cliquer(*essai.fenetre, "cmdMoteursOff");
+    QCOMPARE(essai.virtuelle.Compter(CommandeMoteurs, 0), std::size_t(1));
+}
+
+void EssaiMouvementsMachine::LaChauffeSuitSesBoutons() {
+    Essais essai;
+    auto& chauffe = Controle<QScrollBar>(*essai.fenetre, "hscChauffeParam");
+    QCOMPARE(chauffe.maximum(), 80);
+    chauffe.setValue(20);
+    QCOMPARE(int(essai.virtuelle.boite->Etat().pwmCommande), 0);
+    Cliquer(*essai.fenetre, "optChauffeParam_1");
+    QCOMPARE(int(essai.virtuelle.boite->Etat().pwmCommande), 51);
+    QVERIFY(Controle<QLabel>(*essai.fenetre, "lblWarningChauffe").isVisible());
+    chauffe.setValue(40);
+    QCOMPARE(int(essai.virtuelle.boite->Etat().pwmCommande), 102);
+    Cliquer(*essai.fenetre, "optChauffeParam_0");
+    QCOMPARE(int(essai.virtuelle.boite->Etat().pwmCommande), 0);
+    QVERIFY(!Controle<QLabel>(*essai.fenetre, "lblWarningChauffe").isVisible());
+    // The box's own switches forbid it.
+    simulateur::Commutateurs manu;
+    manu.chauffeManu = true;
+    essai.virtuelle.boite->FixerCommutateurs(manu);
+    Cliquer(*essai.fenetre, "optChauffeParam_1");
+    QCOMPARE(essai.poste.DerniereBoite().texte, TextesMessages(107));
+    QVERIFY(Controle<QRadioButton>(*essai.fenetre, "optChauffeParam_0").isChecked());
+}
+
+void EssaiMouvementsMachine::FermerAvecLeFilChaudLeRefroidit() {
+    Essais essai;
+    Cliquer(*essai.fenetre, "optChauffeParam_1");
+    QVERIFY(essai.virtuelle.boite->Etat().pwmCommande > 0);
+    simulateur::PanneProgrammee panne; // the first two answers are lost
+    panne.panne = simulateur::Panne::CommandePerdue;
+    panne.commande = CommandeChauffe;
+    panne.echange = 1;
+    panne.fois = 2;
+    essai.virtuelle.boite->Programmer(panne);
+    Cliquer(*essai.fenetre, "cmdQuitter");
+    QVERIFY(!essai.fenetre->isVisible());
+    QCOMPARE(int(essai.virtuelle.boite->Etat().pwmCommande), 0);
+    QVERIFY(essai.poste.boites.boites.empty());
+}
+
+void EssaiMouvementsMachine::FermerAvecLaBoiteDebrancheePrevient() {
+    Essais essai;
+    Cliquer(*essai.fenetre, "optChauffeParam_1");
+    essai.virtuelle.boite->Brancher(false);
+    QString alerte;
+    essai.virtuelle.SurPompe = [&] {
+        auto* boite = essai.fenetre->findChild<QMessageBox*>(QStringLiteral("alerteInterface"));
+        if (boite == nullptr || !alerte.isEmpty()) return;
+        alerte = boite->text();
+        QTest::mouseClick(boite->button(QMessageBox::Ok), Qt::LeftButton);
+    };
+    Cliquer(*essai.fenetre, "cmdQuitter");
+    essai.virtuelle.SurPompe = {};
+    QVERIFY(alerte.startsWith(QStringLiteral("La chauffe ne répond pas")));
+    QVERIFY(essai.poste.DerniereBoite().texte.starts_with("Attention, la chauffe n'est pas coupée!"));
+    QCOMPARE(essai.poste.DerniereBoite().titre, std::string("Problème de communication avec la machine"));
+    QVERIFY(essai.poste.DerniereBoite().icone == IconeBoite::Critique);
+}
+
+void EssaiMouvementsMachine::Images_data() {
+    QTest::addColumn<bool>("anglais");
+    QTest::addColumn<bool>("sombre");
+    QTest::addRow("fr-clair") << false << false;
+    QTest::addRow("fr-sombre") << false << true;
+    QTest::addRow("en-clair") << true << false;
+    QTest::addRow("en-sombre") << true << true;
+}
+void EssaiMouvementsMachine::Images() {
+    QFETCH(bool, anglais);
+    QFETCH(bool, sombre);
+    AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
+    Essais essai(anglais ? Langue::English : Langue::Francais);
+    QVERIFY(DefautsLibelles(*essai.fenetre, LibellesParametresTables()).empty());
+    Taper(*essai.fenetre, "txtIncrements_0", QStringLiteral("10"));
+    Cliquer(*essai.fenetre, "cmdGoIncrements");
+    Cliquer(*essai.fenetre, "optChauffeParam_1");
+    QApplication::processEvents();
+    QVERIFY2(MotsCoupes(*essai.fenetre).isEmpty(), qPrintable(MotsCoupes(*essai.fenetre).join(u' ')));
+    QVERIFY(SauverImage(*essai.fenetre, QStringLiteral("frmParametresTables-essais-") +
+                                            QString::fromLatin1(QTest::currentDataTag())));
+}
+
+QTEST_MAIN(EssaiMouvementsMachine)
+#include "essai_mouvements_machine.moc"
