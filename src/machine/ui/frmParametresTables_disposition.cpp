@@ -76,6 +76,9 @@ QWidget* frmParametresTables::DisposerEntete() {
     cmdEffacerTable = Nommer(new QPushButton, "cmdEffacerTable");
     lblNomReserve = Nommer(new QLabel, "lblNomReserve");
     lblNomReserve->setWordWrap(true);
+    QSizePolicy place = lblNomReserve->sizePolicy();
+    place.setRetainSizeWhenHidden(true); // the row keeps its shape from one machine to the next
+    lblNomReserve->setSizePolicy(place);
     lblEtatInterface = Nommer(new QLabel, "lblEtatInterface");
     lblEtatInterface->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     cmdRafraichirUsb = Nommer(new QToolButton, "cmdRafraichirUsb");
