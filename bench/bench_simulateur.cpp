@@ -3,15 +3,23 @@
 #include "link/simulateur/boite.h"
 #include "link/simulateur/journal.h"
 #include "link/simulateur/memoires_machine.h"
+#include "link/simulateur/poste_virtuel.h"
 #include "link/simulateur/vues_machine.h"
 #include "platform/horloge.h"
 
 #include <benchmark/benchmark.h>
 
+#include <atomic>
 #include <chrono>
 #include <cstdint>
+#include <cstdlib>
+#include <cstring>
 #include <random>
 #include <string>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <thread>
+#include <unistd.h>
 #include <vector>
 
 using namespace tessarel;
@@ -143,6 +151,66 @@ void LigneDuJournal(benchmark::State& etat) {
     }
 }
 BENCHMARK(LigneDuJournal);
+
+// One exchange there and back over a connected socket, from the program's side.
+void Echanger(benchmark::State& etat, int fd) {
+    Tampon t = Commande('I', 0);
+    for (auto _ : etat) {
+        if (::send(fd, t.data(), t.size(), MSG_NOSIGNAL) != 65 || ::recv(fd, t.data(), t.size(), 0) != 65) {
+            etat.SkipWithError("the socket failed");
+            break;
+        }
+        t[1] = 'I';
+    }
+    ::close(fd);
+}
+
+// The peer: a thread that sends each packet back as it came.
+void PingPongNu(benchmark::State& etat) {
+    int paire[2];
+    if (::socketpair(AF_UNIX, SOCK_SEQPACKET, 0, paire) != 0) return etat.SkipWithError("no socket");
+    std::jthread echo([fd = paire[1]] {
+        Tampon t;
+        while (::recv(fd, t.data(), t.size(), 0) == 65) (void)::send(fd, t.data(), t.size(), MSG_NOSIGNAL);
+        ::close(fd);
+    });
+    Echanger(etat, paire[0]);
+}
+BENCHMARK(PingPongNu)->UseRealTime();
+
+// The same with the box at the other end, without its log and with it.
+void EchangeSurLaPrise(benchmark::State& etat) {
+    char modele[] = "/tmp/bench-zelko-XXXXXX";
+    const std::string dossier = ::mkdtemp(modele);
+    OptionsPoste options;
+    options.prise = dossier + "/zelko.sock";
+    if (etat.range(0) != 0) options.fichierJournal = dossier + "/journal";
+    options.chercherMachine = [](const std::string& nom, TableMachine& t) {
+        return LireMachine(nom, t) == StatutSucces;
+    };
+    std::atomic<bool> pret = false;
+    std::atomic<bool> fini = false;
+    std::thread serveur([&] {
+        PosteVirtuel poste(options);
+        pret = true;
+        while (!fini) poste.Servir(std::chrono::milliseconds(20));
+    });
+    while (!pret) std::this_thread::yield();
+    const int fd = ::socket(AF_UNIX, SOCK_SEQPACKET, 0);
+    sockaddr_un adresse{};
+    adresse.sun_family = AF_UNIX;
+    std::memcpy(adresse.sun_path, options.prise.c_str(), options.prise.size() + 1);
+    if (::connect(fd, reinterpret_cast<const sockaddr*>(&adresse), sizeof adresse) == 0) {
+        Echanger(etat, fd);
+    } else {
+        etat.SkipWithError("no connection");
+    }
+    fini = true;
+    serveur.join();
+    ::unlink((dossier + "/journal").c_str());
+    ::rmdir(dossier.c_str());
+}
+BENCHMARK(EchangeSurLaPrise)->ArgName("journal")->Arg(0)->Arg(1)->UseRealTime();
 
 // The picture of a cut of 30000 frames in the block.
 void TraceDUneDecoupe(benchmark::State& etat) {

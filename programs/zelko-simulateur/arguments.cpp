@@ -10,10 +10,13 @@
 #include "platform/erreurs.h"
 #include "platform/fichiers.h"
 #include "platform/flux_standards.h"
+#include "platform/nombres.h"
 
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
+#include <fmt/format.h>
+#include <optional>
 #include <string_view>
 
 namespace tessarel::simulateur {
@@ -45,19 +48,17 @@ Langue ChoisirLangue(int argc, char** argv) {
 }
 
 // A number between two bounds, told as such: the parser's own sentence is in English.
-CLI::Validator Entre(double min, double max) {
+CLI::Validator Entre(double min, double max, bool entier = false) {
     return CLI::Validator(
-        [min, max](std::string& texte) {
-            std::size_t lus = 0;
-            double valeur = 0;
-            try {
-                valeur = std::stod(texte, &lus);
-            } catch (const std::exception&) {
-                lus = 0;
-            }
-            if (lus == texte.size() && lus > 0 && valeur >= min && valeur <= max) return std::string();
-            return texte + SelonLangue(" : nombre attendu, de ", ": number expected, from ") +
-                   CLI::detail::to_string(min) + SelonLangue(" à ", " to ") + CLI::detail::to_string(max);
+        [=](std::string& texte) -> std::string {
+            const std::optional<double> valeur = LireDecimal(texte);
+            if (!valeur || *valeur < min || *valeur > max)
+                return fmt::format("{}{}{} {} {}", texte,
+                                   SelonLangue(" : nombre attendu, de ", ": number expected, from "), min,
+                                   SelonLangue("à", "to"), max);
+            if (entier && *valeur != PartieEntiere(*valeur))
+                return texte + SelonLangue(" : nombre entier attendu", ": whole number expected");
+            return "";
         },
         "");
 }
@@ -109,7 +110,7 @@ void DeclarerOptions(CLI::App& programme, Arguments& a, std::string& langue,
         .add_option("--capacite", a.poste.capaciteFile,
                     SelonLangue("Salves que la file contient (128)", "Frames that the queue holds (128)"))
         ->type_name("N")
-        ->check(Entre(static_cast<double>(CapaciteFileMinimale), CapaciteMax));
+        ->check(Entre(static_cast<double>(CapaciteFileMinimale), CapaciteMax, true));
     programme
         .add_option("--panne", pannes,
                     SelonLangue("Panne voulue, par exemple reponse-perdue:echange=12:fois=3 ; répétable",

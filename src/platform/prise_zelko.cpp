@@ -11,6 +11,7 @@
 #include <sys/epoll.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/time.h>
 #include <sys/timerfd.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -20,10 +21,12 @@ namespace tessarel {
 
 namespace {
 
-// A program waits for each reply before it sends again: reading twice would be a call in vain.
-constexpr int PaquetsParTour = 1;
 // What may lie there when a client has gone and another knocks.
 constexpr int PaquetsAvantDepart = 256;
+// A program at work sends again within this time; one that has paused is waited for with all else.
+constexpr std::chrono::microseconds AttenteRafale{1000};
+// Other work of the caller, and a second client, wait no longer than this for their turn.
+constexpr std::chrono::milliseconds DureeRafale{5};
 
 [[noreturn]] void Refuser(const std::string& chemin, const std::string& raison) {
     throw FauteFichier(NumeroErreur::AccesRefuse, chemin, raison);
@@ -145,12 +148,15 @@ void PriseZelko::Raccrocher() {
 
 // A second client is hung up on at once: it sees that the box is taken.
 void PriseZelko::Accueillir() {
-    const int fd = ::accept4(m_ecoute, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
+    const int fd = ::accept4(m_ecoute, nullptr, nullptr, SOCK_CLOEXEC);
     if (fd < 0) return;
     if (m_client >= 0 || !EstDeCetUtilisateur(fd)) {
         ::close(fd);
         return;
     }
+    timeval attente{};
+    attente.tv_usec = static_cast<suseconds_t>(AttenteRafale.count());
+    ::setsockopt(fd, SOL_SOCKET, SO_RCVTIMEO, &attente, sizeof attente);
     m_client = fd;
     Guetter(fd);
 }
@@ -182,34 +188,43 @@ void PriseZelko::RendreLesTardives() {
     ReglerReveil();
 }
 
-void PriseZelko::Lire(int paquets) {
+// One packet, if there is one; false when there is none, or no client any more.
+bool PriseZelko::LireUn(bool attendre) {
     Tampon tampon = {};
-    for (int i = 0; i < paquets && m_client >= 0; ++i) {
-        const ssize_t n = ::recv(m_client, tampon.data(), tampon.size(), MSG_DONTWAIT | MSG_TRUNC);
-        if (n < 0 && errno == EINTR) continue;
-        if (n < 0 && (errno == EAGAIN || errno == EWOULDBLOCK)) return;
-        if (n <= 0) {
-            Raccrocher();
-            return;
-        }
-        if (static_cast<std::size_t>(n) != tampon.size()) {
-            if (m_ecarte) m_ecarte(static_cast<std::size_t>(n));
-            continue;
-        }
-        ReponsePrise reponse = m_traiter(tampon);
-        if (reponse.sort == ReponsePrise::Sort::Raccroche) {
-            Raccrocher();
-        } else if (reponse.sort == ReponsePrise::Sort::Rendue) {
-            // Replies keep their order: behind a late one all wait.
-            if (reponse.retard.count() <= 0 && m_tardives.empty()) {
-                Rendre(reponse);
-            } else {
-                auto quand = std::chrono::steady_clock::now() + reponse.retard;
-                if (!m_tardives.empty()) quand = std::max(quand, m_tardives.back().quand);
-                m_tardives.push_back({quand, reponse});
-                ReglerReveil();
-            }
-        }
+    const int drapeaux = MSG_TRUNC | (attendre ? 0 : MSG_DONTWAIT);
+    const ssize_t n = ::recv(m_client, tampon.data(), tampon.size(), drapeaux);
+    if (n < 0 && (errno == EINTR || errno == EAGAIN || errno == EWOULDBLOCK)) return false;
+    if (n <= 0) {
+        Raccrocher();
+        return false;
+    }
+    if (static_cast<std::size_t>(n) != tampon.size()) {
+        if (m_ecarte) m_ecarte(static_cast<std::size_t>(n));
+        return true;
+    }
+    const ReponsePrise reponse = m_traiter(tampon);
+    if (reponse.sort == ReponsePrise::Sort::Raccroche) Raccrocher();
+    if (reponse.sort == ReponsePrise::Sort::Rendue) RendreOuRetarder(reponse);
+    return m_client >= 0;
+}
+
+// Replies keep their order: behind a late one all wait.
+void PriseZelko::RendreOuRetarder(const ReponsePrise& reponse) {
+    if (reponse.retard.count() <= 0 && m_tardives.empty()) {
+        Rendre(reponse);
+        return;
+    }
+    auto quand = std::chrono::steady_clock::now() + reponse.retard;
+    if (!m_tardives.empty()) quand = std::max(quand, m_tardives.back().quand);
+    m_tardives.push_back({quand, reponse});
+    ReglerReveil();
+}
+
+// While exchanges follow one another the next one is waited for in the socket itself, which is the shorter
+// way.
+void PriseZelko::LireEnRafale() {
+    const auto fin = std::chrono::steady_clock::now() + DureeRafale;
+    while (m_tardives.empty() && LireUn(true) && std::chrono::steady_clock::now() < fin) {
     }
 }
 
@@ -226,14 +241,15 @@ bool PriseZelko::Servir(std::chrono::milliseconds attente) {
             if (::read(m_reveil, &fois, sizeof fois) > 0) RendreLesTardives();
         } else if (fd == m_client) {
             paquet = true;
-            Lire(PaquetsParTour);
+            if (LireUn(false) && attente.count() > 0) LireEnRafale();
         } else if (fd == m_ecoute) {
             nouveau = true;
         }
     }
     // Last, so that a client that has hung up makes room for the one that comes back.
     if (!nouveau || m_ecoute < 0) return paquet;
-    if (m_client >= 0) Lire(PaquetsAvantDepart);
+    for (int i = 0; i < PaquetsAvantDepart && m_client >= 0 && LireUn(false); ++i) {
+    }
     Accueillir();
     return paquet;
 }

@@ -43,8 +43,9 @@ public:
     [[nodiscard]] bool Branchee() const { return m_ecoute >= 0; }
     [[nodiscard]] bool AvecClient() const { return m_client >= 0; }
 
-    // Waits for something to do, at most so long (a signal ends the wait too), and does all there is. True
-    // when it was a packet.
+    // Waits for something to do, at most so long (a signal ends the wait too), and does all there is; where
+    // it may wait at all, it stays with a client whose packets follow one another for up to five
+    // milliseconds. True when there was a packet.
     bool Servir(std::chrono::milliseconds attente);
     [[nodiscard]] int Descripteur() const { return m_guet; }
     [[nodiscard]] const std::string& Chemin() const { return m_chemin; }
@@ -59,7 +60,9 @@ private:
     void CesserDEcouter();
     void Accueillir();
     void Raccrocher();
-    void Lire(int paquets);
+    bool LireUn(bool attendre);
+    void LireEnRafale();
+    void RendreOuRetarder(const ReponsePrise& reponse);
     void Rendre(const ReponsePrise& reponse);
     void RendreLesTardives();
     void ReglerReveil();

@@ -58,7 +58,7 @@ std::string RefusEtranger(const std::string& chemin, std::string_view entete) {
     if (CommencePar(chemin, "tests/pairs/") && CommencePar(entete, "dxflib/")) return "";
     // Benchmarks measure themselves against the bare library.
     if (CommencePar(chemin, "bench/") &&
-        (CommencePar(entete, "benchmark/") || CommencePar(entete, "dxflib/"))) {
+        (CommencePar(entete, "benchmark/") || CommencePar(entete, "dxflib/") || EstSysteme(entete))) {
         return "";
     }
     return "foreign header outside src/platform";

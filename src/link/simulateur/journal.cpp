@@ -146,11 +146,21 @@ void EcrireReponse(Sortie sortie, const Tampon& commande, const Tampon& r) {
     }
 }
 
-void EcrireOctets(Sortie sortie, const Tampon& octets) {
+void AjouterOctets(std::string& sortie, const Tampon& octets) {
+    constexpr const char* chiffres = "0123456789abcdef";
     std::size_t fin = octets.size();
     while (fin > PlaceCommande && octets[fin - 1] == 0) --fin;
-    if (fin == PlaceCommande) fmt::format_to(sortie, "-");
-    for (std::size_t i = PlaceCommande; i < fin; ++i) fmt::format_to(sortie, "{:02x}", octets[i]);
+    if (fin == PlaceCommande) sortie += '-';
+    for (std::size_t i = PlaceCommande; i < fin; ++i) {
+        sortie += chiffres[octets[i] >> 4U];
+        sortie += chiffres[octets[i] & 15U];
+    }
+}
+
+// Whole microseconds as seconds: a number with decimals would take longer than the rest of the line.
+void EcrireSecondes(Sortie sortie, std::uint64_t microsecondes) {
+    constexpr std::uint64_t parSeconde = 1000000;
+    fmt::format_to(sortie, "{}.{:06}\t", microsecondes / parSeconde, microsecondes % parSeconde);
 }
 
 void EcrireEvenement(Sortie sortie, const NoteJournal& note) {
@@ -195,8 +205,10 @@ std::string EnteteJournal() {
 
 void AjouterLigneJournal(std::string& sortie, const NoteJournal& note) {
     const Sortie bout = std::back_inserter(sortie);
-    const double secondes = std::chrono::duration<double>(note.temps).count();
-    fmt::format_to(bout, "{:.6f}\t{:.6f}\t", secondes, static_cast<double>(note.horloge) / HorlogeBoite);
+    constexpr auto horlogesParMicroseconde = static_cast<std::uint64_t>(HorlogeBoite / 1e6);
+    EcrireSecondes(bout, static_cast<std::uint64_t>(
+                             std::chrono::duration_cast<std::chrono::microseconds>(note.temps).count()));
+    EcrireSecondes(bout, note.horloge / horlogesParMicroseconde);
     if (!note.estEchange) {
         EcrireEvenement(bout, note);
     } else {
@@ -209,9 +221,9 @@ void AjouterLigneJournal(std::string& sortie, const NoteJournal& note) {
             sortie += '-';
         }
         sortie += '\t';
-        EcrireOctets(bout, note.commande);
+        AjouterOctets(sortie, note.commande);
         sortie += '\t';
-        EcrireOctets(bout, note.reponse);
+        AjouterOctets(sortie, note.reponse);
     }
     sortie += '\n';
 }
