@@ -56,6 +56,7 @@ void ReglerDecoupe(const ProjetCPX& conception, Projet4axes& stocke) {
     ParametresDecoupe4axes parametres = ParametresDecoupe4axesInitiaux(TableINI);
     parametres.CoteDecalage =
         TourneADroite(conception.E.Points) ? CoteDecalageD4X::Gauche : CoteDecalageD4X::Droite;
+    AppliquerAlignementZ(conception.Ecartement, TableINI, parametres);
     ReporterParametresProjet(parametres, stocke);
 }
 

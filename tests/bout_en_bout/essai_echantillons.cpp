@@ -12,12 +12,13 @@ namespace {
 
 const std::string ECHANTILLONS = std::string(TESSAREL_RACINE) + "/samples/";
 
-// Distance of a point of the table from the surface of NACA 2412: solved for the station whose upper or lower
-// point has this x, by bisection on the formula.
-double EcartAuProfil(double x, double y, bool extrados) {
-    const auto surface = [extrados](double s, double& xs, double& ys) {
-        const double e = 0.6 * (0.2969 * std::sqrt(s) - 0.1260 * s - 0.3516 * s * s + 0.2843 * s * s * s -
-                                0.1015 * s * s * s * s);
+// Distance of a point of the table from the surface of NACA 2412, or of one as thick as `epaisseur`: solved
+// for the station whose upper or lower point has this x, by bisection on the formula.
+double EcartAuProfil(double x, double y, bool extrados, double epaisseur = 0.12) {
+    const auto surface = [extrados, epaisseur](double s, double& xs, double& ys) {
+        const double e = 5 * epaisseur *
+                         (0.2969 * std::sqrt(s) - 0.1260 * s - 0.3516 * s * s + 0.2843 * s * s * s -
+                          0.1015 * s * s * s * s);
         const double c = s < 0.4 ? 0.125 * (0.8 * s - s * s) : (0.02 / 0.36) * (0.2 + 0.8 * s - s * s);
         const double pente = s < 0.4 ? 0.25 * (0.4 - s) : (0.04 / 0.36) * (0.4 - s);
         const double a = std::atan(pente);
@@ -38,21 +39,54 @@ double EcartAuProfil(double x, double y, bool extrados) {
     return std::abs(ys - y);
 }
 
-TEST(Echantillons, LeProfilSuitLaFormuleDuNaca2412) {
-    std::istringstream lignes(LireTout(ECHANTILLONS + "naca2412.dat"));
-    std::string nom;
-    std::getline(lignes, nom);
-    EXPECT_EQ(nom, "NACA 2412\r");
-    int points = 0;
-    double x = 0;
-    double y = 0;
-    while (lignes >> x >> y) {
-        ++points;
-        const bool extrados = points <= 61;
-        if (extrados && x < 0.01) continue;
-        EXPECT_LT(EcartAuProfil(x, y, extrados), 3e-6) << "point " << points;
+struct ProfilNaca {
+    const char* fichier;
+    const char* nom;
+    double epaisseur;
+    int points;
+};
+
+TEST(Echantillons, LesProfilsSuiventLaFormuleDeLeurNom) {
+    for (const ProfilNaca& naca : {ProfilNaca{"naca2412.dat", "NACA 2412\r", 0.12, 121},
+                                   ProfilNaca{"aile/naca2414.dat", "NACA 2414\r", 0.14, 161},
+                                   ProfilNaca{"aile/naca2410.dat", "NACA 2410\r", 0.10, 101}}) {
+        std::istringstream lignes(LireTout(ECHANTILLONS + naca.fichier));
+        std::string nom;
+        std::getline(lignes, nom);
+        EXPECT_EQ(nom, naca.nom);
+        int points = 0;
+        double x = 0;
+        double y = 0;
+        while (lignes >> x >> y) {
+            ++points;
+            const bool extrados = points <= (naca.points + 1) / 2;
+            if (extrados && x < 0.01) continue;
+            EXPECT_LT(EcartAuProfil(x, y, extrados, naca.epaisseur), 3e-6) << naca.nom << points;
+        }
+        EXPECT_EQ(points, naca.points);
     }
-    EXPECT_EQ(points, 121);
+}
+
+// Two airfoils of different point counts, thinned on reading, come out with one count, nose by nose.
+TEST(Echantillons, LAileEstPreteADecouper) {
+    const DossierProvisoire travail;
+    const Execution aile = Executer("tessarel-lot --documents doc aile --emplanture '" + ECHANTILLONS +
+                                        "aile/naca2414.dat' --saumon '" + ECHANTILLONS +
+                                        "aile/naca2410.dat' --corde 250 --corde-saumon 180 --ecartement 500 "
+                                        "--fleche 40 --vrillage -2 --bloc-auto 4 --synchroniser aile.tsr",
+                                    travail.Chemin());
+    EXPECT_EQ(aile.statut, 0) << aile.erreurs;
+    const Execution mesures = Executer("tessarel-lot --documents doc mesures aile.tsr", travail.Chemin());
+    const auto valeur = [&](const std::string& nom) {
+        const std::size_t ligne = mesures.sortie.find("\n" + nom + " = ");
+        return mesures.sortie.substr(ligne + nom.size() + 4,
+                                     mesures.sortie.find('\n', ligne + 1) - ligne - nom.size() - 4);
+    };
+    EXPECT_EQ(valeur("NbPointsE"), valeur("NbPointsS"));
+    EXPECT_EQ(valeur("IndiceXmaxE"), valeur("IndiceXmaxS"));
+    EXPECT_EQ(valeur("CordeE"), "250.0");
+    EXPECT_EQ(valeur("Fleche"), "40.0");
+    EXPECT_EQ(valeur("DistProfilDessousE"), "5.0");
 }
 
 TEST(Echantillons, LaConsoleACinqTracesFermes) {
