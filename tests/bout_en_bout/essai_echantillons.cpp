@@ -87,6 +87,13 @@ TEST(Echantillons, LAileEstPreteADecouper) {
     EXPECT_EQ(valeur("CordeE"), "250.0");
     EXPECT_EQ(valeur("Fleche"), "40.0");
     EXPECT_EQ(valeur("DistProfilDessousE"), "5.0");
+
+    const Execution coupe = Executer(
+        "tessarel-lot --documents doc decouper aile.tsr --auto-xy --gcode aile.gcode --apercu aile.png",
+        travail.Chemin());
+    EXPECT_EQ(coupe.statut, 0) << coupe.erreurs;
+    EXPECT_NE(LireTout(travail.Fichier("aile.gcode")).find("\r\nG93"), std::string::npos);
+    EXPECT_TRUE(LireTout(travail.Fichier("aile.png")).starts_with("\x89PNG\r\n\x1a\n"));
 }
 
 TEST(Echantillons, LaConsoleACinqTracesFermes) {
