@@ -60,6 +60,12 @@ const std::string& TexteOutilActif(const ParametresDecoupe4axes& parametres) {
     return parametres.chkDresser ? TitresMessages(157) : aucun;
 }
 
+bool QuitterOngletDecoupe(ParametresDecoupe4axes& parametres) {
+    const bool replacer = parametres.symetrie;
+    parametres.chkDresser = parametres.chkGuillotine = parametres.symetrie = false;
+    return replacer;
+}
+
 bool SauvegardePermise(const ParametresDecoupe4axes& parametres) {
     return PermisSansOutil(parametres, 150);
 }

@@ -39,6 +39,10 @@ void CocherGuillotine(bool coche, ParametresDecoupe4axes& parametres);
 const std::string& LegendeOutil(bool coche);
 const std::string& TexteOutilActif(const ParametresDecoupe4axes& parametres);
 
+// Leaving the cut tab: both tools are released and the mirror is taken off. True when the mirror was on, and
+// the placing must be done anew on the way back.
+bool QuitterOngletDecoupe(ParametresDecoupe4axes& parametres);
+
 // False, after its box, while a tool is on.
 bool SauvegardePermise(const ParametresDecoupe4axes& parametres);
 bool AccesParametresPermis(const ParametresDecoupe4axes& parametres);

@@ -1,6 +1,8 @@
 // The whole computation: placing, mirror, tools, passage, and what a failure leaves.
+#include "app/settings/parametres.h"
 #include "cut4x/controle4x.h"
 #include "cut4x/decoupe4x.h"
+#include "cut4x/decoupe_courante4x.h"
 #include "cut4x/fautes_d4x.h"
 #include "cut4x/placement4x.h"
 
@@ -397,4 +399,28 @@ TEST(Parametres4x, AllerRetourAvecUnProjet) {
     projet.TypePositionZ = 2;
     ReprendreParametresProjet(projet, Machine4axes(), parametres);
     EXPECT_EQ(parametres.OffsetBlocZ, 150);
+}
+
+TEST(DecoupeCourante4x, NeFaitRienHorsDeSonOnglet) {
+    TableINI = Machine4axes();
+    DecoupeCourante = Mousse();
+    InitialiserParametresDecoupe4axes();
+    ParametresD4X.TypePositionZ = AlignementZ::Centre;
+    DecoupeCouranteD4X = {};
+    const ProjetCPX projet = Coin();
+    EXPECT_EQ(ArriverEnDecoupe(projet, true), "");
+    EXPECT_EQ(ParametresD4X.ZSaumon, 250);
+    const std::string onglet = Parametres.OngletActif;
+    Parametres.OngletActif = "C4X";
+    CalculerDecoupeD4X(projet);
+    EXPECT_TRUE(DecoupeCouranteD4X.PaireChariots.E.empty());
+    Parametres.OngletActif = "D4X";
+    CalculerDecoupeD4X(projet);
+    EXPECT_EQ(DecoupeCouranteD4X.PaireChariots.E.size(), 12U);
+    Parametres.OngletActif = onglet;
+    EXPECT_EQ(ArriverEnDecoupe(Projet({{0, 0}, {9, 9}}, {{0, 0}, {9, 9}}, 900), true),
+              "Découpe impossible, l'écartement est plus large que la table.\r\n"
+              "Retournez dans l'onglet Conception 4 axes,\r\n"
+              "l'outil Profil Intermédiaire permet de découper en deux fois.");
+    EXPECT_FALSE(DecoupeCouranteD4X.DecoupePossible);
 }

@@ -138,6 +138,16 @@ TEST(EtatFenetre4x, AvecProjetTout) {
     EXPECT_EQ(TableDesCommandes(true, p, true), EtatCommandesD4X{});
 }
 
+TEST(EtatFenetre4x, QuitterLOngletRelacheLesOutilsEtOteLaSymetrie) {
+    ParametresDecoupe4axes p;
+    p.chkDresser = true;
+    EXPECT_FALSE(QuitterOngletDecoupe(p));
+    EXPECT_FALSE(p.chkDresser);
+    p.chkGuillotine = p.symetrie = true;
+    EXPECT_TRUE(QuitterOngletDecoupe(p));
+    EXPECT_FALSE(p.chkGuillotine || p.symetrie);
+}
+
 TEST(EtatFenetre4x, LesDeuxOutilsSExcluentEtFermentLeReste) {
     BoitesEnregistrees boites;
     ParametresDecoupe4axes p;
