@@ -14,6 +14,7 @@ function(bibliotheque_zelko nom genre)
   file(GLOB sources CONFIGURE_DEPENDS "${dossier}/*.cpp")
   add_library(${nom} ${genre} ${sources} "${CMAKE_SOURCE_DIR}/src/platform/adresse_zelko.cpp" ${B_SOURCES})
   target_include_directories(${nom} PRIVATE "${vue}")
+  target_include_directories(${nom} SYSTEM PRIVATE ${hidapi_INCLUDE_DIRS})
   target_compile_definitions(${nom} PRIVATE TESSAREL_USB_VENDEUR=${TESSAREL_USB_VENDEUR}
     TESSAREL_USB_PRODUIT=${TESSAREL_USB_PRODUIT})
   target_link_libraries(${nom} PRIVATE ${B_LIENS})

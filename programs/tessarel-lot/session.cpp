@@ -9,6 +9,7 @@
 #include "app/settings/cles_generales.h"
 #include "app/settings/gestion_ini.h"
 #include "app/texts/textes_programme.h"
+#include "link/commandes.h"
 #include "platform/dialogue.h"
 #include "platform/dossiers.h"
 #include "platform/erreurs.h"
@@ -72,16 +73,18 @@ Langue LangueDesReglages(const std::string& documents) {
 
 int Executer(const Commande& commande) {
     InstallerBoites(commande.oui);
-    return FaireAction([&commande] {
+    const int statut = FaireAction([&commande] {
         OptionsDemarrage options;
         options.DossierDocuments = commande.documents;
         options.LangueImposee = commande.langue;
         options.ChercherInterface = false;
         if (Demarrer(options).Termine()) return StatutRefuse;
-        const int statut = commande.action();
+        const int fait = commande.action();
         Progression::Effacer();
-        return statut;
+        return fait;
     });
+    CouperChauffeAvantDeQuitter();
+    return statut;
 }
 
 } // namespace tessarel::lot

@@ -104,7 +104,7 @@ std::string TexteComparaison(int numero, const TableMachine& memoire) {
                               (memoire.Nom.empty() ? Dire("vide", "empty") : memoire.Nom);
     if (memoire.Nom.empty()) return titre + "\n";
     std::string texte =
-        titre + " :" + (memoire.Nom == TableINI.Nom ? "" : Dire(" autre nom", " another name"));
+        titre + Dire(" :", ":") + (memoire.Nom == TableINI.Nom ? "" : Dire(" autre nom", " another name"));
     const std::vector<std::string> differences = DifferencesAvecMemoire(TableINI, memoire);
     if (differences.empty()) texte += Dire(" mêmes paramètres", " same parameters");
     for (const std::string& ligne : differences) texte += "\n  " + ligne;

@@ -4,6 +4,7 @@
 #include "app/texts/textes_programme.h"
 #include "app/ui/application.h"
 #include "app/ui/frmSplashScreen.h"
+#include "link/commandes.h"
 #include "machine/table_machine.h"
 #include "machine/ui/frmD4X_matieres.h"
 #include "machine/ui/frmParametresTables.h"
@@ -73,6 +74,7 @@ int main(int argc, char** argv) {
     AppliquerTheme(Theme::Systeme);
     InstallerBoitesQt();
     InstallerPompeQt();
+    int statut = 1;
     try {
         const VerrouInstance instance;
         if (!instance.Seule()) {
@@ -81,9 +83,10 @@ int main(int argc, char** argv) {
             return 0;
         }
         Fenetres fenetres;
-        return MontrerSplash(application, fenetres) ? ApplicationTessarel::exec() : 0;
+        statut = MontrerSplash(application, fenetres) ? ApplicationTessarel::exec() : 0;
     } catch (const std::exception& faute) {
         AnnoncerFaute(faute, "Form_Load", "frmSplashScreen");
     }
-    return 1;
+    CouperChauffeAvantDeQuitter();
+    return statut;
 }

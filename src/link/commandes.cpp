@@ -134,4 +134,11 @@ void SignalerChauffeNonCoupee() {
                      TextesDoubles(RangeeChauffeNonCoupee, 2));
 }
 
+void CouperChauffeAvantDeQuitter() {
+    if (!ChauffePeutEtreActive()) return;
+    const Instant fin = Maintenant() + std::chrono::seconds(5);
+    // The critical box at the end says all there is to say.
+    CouperChauffe({[fin] { return Maintenant() >= fin; }, [] {}});
+}
+
 } // namespace tessarel

@@ -65,4 +65,8 @@ FinChauffe CouperChauffe(const SuiviChauffe& suivi = {});
 // The critical box that says that the wire may still be hot.
 void SignalerChauffeNonCoupee();
 
+// Called when a program ends, whatever way: where the wire may be hot, CouperChauffe for at most five
+// seconds. Sends nothing where nothing was heated.
+void CouperChauffeAvantDeQuitter();
+
 } // namespace tessarel

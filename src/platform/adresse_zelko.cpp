@@ -21,23 +21,24 @@ bool EstSur(const std::string& dossier) {
            (infos.st_mode & (S_IWGRP | S_IWOTH)) == 0;
 }
 
-std::string Dossier(bool creer) {
+} // namespace
+
+std::string DossierZelko(bool creer) {
+    // The user's own word counts as it stands; who listens there is looked at when it is connected to.
     const char* variable = std::getenv("XDG_RUNTIME_DIR"); // NOLINT: read before any other thread exists
     if (variable != nullptr && *variable == '/') return variable;
     const std::string utilisateur = std::to_string(::geteuid());
     const std::string ordinaire = "/run/user/" + utilisateur;
     if (EstSur(ordinaire)) return ordinaire;
     const std::string dernier = "/tmp/tessarel-" + utilisateur;
-    if (creer) ::mkdir(dernier.c_str(), S_IRWXU); // one that exists already is looked at below
-    return dernier;
+    if (creer) ::mkdir(dernier.c_str(), S_IRWXU); // one that exists already is looked at all the same
+    return EstSur(dernier) ? dernier : "";
 }
 
-} // namespace
-
 std::string AdresseZelko(bool creer) {
-    const std::string dossier = Dossier(creer);
+    const std::string dossier = DossierZelko(creer);
     const std::string chemin = dossier + NomPrise;
-    return EstSur(dossier) && chemin.size() < sizeof(sockaddr_un::sun_path) ? chemin : "";
+    return !dossier.empty() && chemin.size() < sizeof(sockaddr_un::sun_path) ? chemin : "";
 }
 
 } // namespace tessarel

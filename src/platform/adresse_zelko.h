@@ -5,10 +5,14 @@
 
 namespace tessarel {
 
-// Path of the socket (AF_UNIX, SOCK_SEQPACKET): "zelko.sock" in $XDG_RUNTIME_DIR; without that variable in
-// /run/user/<user> where it exists, else in /tmp/tessarel-<user>. Empty when none is fit to use: the folder
-// must belong to the user and be closed to others, and the whole path must fit a socket address. `creer`
-// makes the last of these folders where it is absent (owner only); it is for the one who listens.
+// The folder of the socket, and of what else boxes keep for the time of a session: $XDG_RUNTIME_DIR; without
+// that variable /run/user/<user> where it exists, else /tmp/tessarel-<user>. Of these two only one that
+// belongs to the user and that nobody else can write to; empty when none is. `creer` makes the last one where
+// it is absent.
+std::string DossierZelko(bool creer = false);
+
+// Path of the socket (AF_UNIX, SOCK_SEQPACKET), "zelko.sock" in that folder; empty where there is none, or
+// where the path is too long for a socket.
 std::string AdresseZelko(bool creer = false);
 
 } // namespace tessarel

@@ -89,6 +89,10 @@ void RemplacerZelkoCom(FonctionsZelkoCom fonctions) {
     b.remplacante = std::move(fonctions);
 }
 
+bool ZelkoComRemplacee() {
+    return static_cast<bool>(Courante().remplacante.Envoyer);
+}
+
 EtatBibliotheque EtatZelkoCom() {
     const Bibliotheque& b = Courante();
     if (b.poignee == nullptr && !b.remplacante.Envoyer) return EtatBibliotheque::Absente;

@@ -43,6 +43,7 @@ struct FonctionsZelkoCom {
     std::function<std::int32_t(Tampon&)> Envoyer;
 };
 void RemplacerZelkoCom(FonctionsZelkoCom fonctions);
+bool ZelkoComRemplacee();
 EtatBibliotheque EtatZelkoCom();
 // The file that was loaded, or why none was: for the information window and for bug reports.
 const std::string& OrigineZelkoCom();

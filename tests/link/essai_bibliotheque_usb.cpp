@@ -3,9 +3,13 @@
 #include "ecouteur.h"
 #include "link/fausse/faux_hid.h"
 
+#include "platform/adresse_zelko.h"
 #include "platform/zelkocom.h"
 
 #include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <sys/file.h>
 
 #include <deque>
 #include <optional>
@@ -136,6 +140,24 @@ TEST_F(BibliothequeUsb, DebrancherEtRebrancherMarcheSansRelancer) {
     EXPECT_EQ(Envoyer(4, m_tampon), 1);
     EXPECT_EQ(m_appareil.ouvertures, 2);
     EXPECT_EQ(Zelko_IsConnected(), 1);
+}
+
+// Two programs on one device would take each other's replies.
+TEST_F(BibliothequeUsb, UnAutreProgrammeQuiTientLeBoitierLeGarde) {
+    const std::string verrou = DossierZelko() + "/zelko-usb.lock";
+    const int autre = ::open(verrou.c_str(), O_RDWR | O_CREAT, 0600);
+    ASSERT_EQ(::flock(autre, LOCK_EX | LOCK_NB), 0);
+    EXPECT_NE(Zelko_IsConnected(), 1);
+    EXPECT_NE(Envoyer(5, m_tampon), 1);
+    EXPECT_TRUE(etat.ecrits.empty());
+    ::close(autre);
+    EXPECT_EQ(Zelko_IsConnected(), 1);
+    EXPECT_EQ(Envoyer(5, m_tampon), 1);
+    const int encore = ::open(verrou.c_str(), O_RDWR);
+    EXPECT_NE(::flock(encore, LOCK_EX | LOCK_NB), 0); // ours now
+    Zelko_Close();
+    EXPECT_EQ(::flock(encore, LOCK_EX | LOCK_NB), 0);
+    ::close(encore);
 }
 
 TEST_F(BibliothequeUsb, LeVraiBoitierPasseAvantLeVirtuel) {

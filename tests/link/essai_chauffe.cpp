@@ -156,3 +156,27 @@ TEST_F(Chauffe, UneListeLanceePeutChauffer) {
     EXPECT_EQ(EnvoyerChauffe(9, {[] { return true; }, {}}), FinChauffe::Interrompue);
     EXPECT_TRUE(ChauffePeutEtreActive());
 }
+
+TEST_F(Chauffe, QuitterCoupeUneChauffeEnCoursEtRienDAutre) {
+    EchouerPuisRepondre(0);
+    CouperChauffe();
+    envois.clear();
+    CouperChauffeAvantDeQuitter();
+    EXPECT_TRUE(envois.empty());
+
+    EnvoyerChauffe(100);
+    EchouerPuisRepondre(3);
+    CouperChauffeAvantDeQuitter();
+    EXPECT_FALSE(ChauffePeutEtreActive());
+    EXPECT_TRUE(boites.boites.empty());
+
+    EnvoyerChauffe(100);
+    EchouerPuisRepondre(1000000, -200);
+    InstallerPompe([this] { heure += std::chrono::milliseconds(100); });
+    CouperChauffeAvantDeQuitter();
+    EXPECT_EQ(heure, std::chrono::seconds(5));
+    ASSERT_EQ(boites.boites.size(), 1U);
+    EXPECT_EQ(boites.boites[0].icone, IconeBoite::Critique);
+    EchouerPuisRepondre(0);
+    CouperChauffe();
+}

@@ -50,6 +50,10 @@ bool Continuer(EtatDemarrage& etat, bool bien, FinDemarrage sinon) {
 }
 
 bool TesterBibliotheque(const OptionsDemarrage& options, EtatDemarrage& etat) {
+    if (ZelkoComRemplacee()) {
+        etat.Bibliotheque = EtatZelkoCom();
+        return true;
+    }
     LibererZelkoCom();
     if (!options.ChercherInterface) return true;
     etat.Bibliotheque = TesterBibliothequeZelko(options.DossiersBibliotheque.value_or(DossiersZelkoCom()));

@@ -16,7 +16,7 @@ struct OptionsDemarrage {
     std::string DossierProgramme; // empty: found out
     std::optional<Langue> LangueImposee;
     // Without it the library isn't looked for, and nothing is said of it: for work that never moves a
-    // machine.
+    // machine. A box that stands in its place already stays.
     bool ChercherInterface = true;
     std::optional<std::vector<std::string>>
         DossiersBibliotheque; // where libZelkoCom.so may be; none: DossiersZelkoCom

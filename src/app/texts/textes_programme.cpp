@@ -73,6 +73,7 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
     {TexteProgramme::SplashCourses, "Courses : %1 × %2 mm", "Travel: %1 × %2 mm"},
     {TexteProgramme::SplashMemoireEgale, "mêmes paramètres", "same parameters"},
     {TexteProgramme::SplashMemoireDifferente, "paramètres différents", "different parameters"},
+    {TexteProgramme::SplashMemoireVide, "mémoire vide", "empty memory"},
 
     // Machines and materials
     {TexteProgramme::ChargementMachineImpossible,

@@ -31,6 +31,7 @@ enum class TexteProgramme {
     SplashCourses, // %1 and %2 travel in X and Y, mm
     SplashMemoireEgale,
     SplashMemoireDifferente,
+    SplashMemoireVide,
 
     // Machines and materials
     ChargementMachineImpossible, // %1 machine

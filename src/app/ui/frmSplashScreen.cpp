@@ -304,11 +304,17 @@ void frmSplashScreen::MontrerMemoires() {
         m_chkMemoiresZelko[i]->setText(QString::fromStdString(memoire.Nom));
         m_chkMemoiresZelko[i]->setChecked(memoire.Cochee);
         m_chkMemoiresZelko[i]->setVisible(memoire.Visible);
-        const TexteProgramme marque =
+        const bool vide = memoire.Visible && memoire.Nom.empty();
+        TexteProgramme marque =
             memoire.Differente ? TexteProgramme::SplashMemoireDifferente : TexteProgramme::SplashMemoireEgale;
+        if (vide) marque = TexteProgramme::SplashMemoireVide;
         m_lblMarqueMemoire[i]->setText(QString::fromStdString(Texte(marque)));
-        Colorer(*m_lblMarqueMemoire[i], memoire.Differente ? CouleurAlerte() : CouleurAccord());
-        m_lblMarqueMemoire[i]->setVisible(memoire.Visible && memoire.Cochee);
+        // A box without a caption leaves no room behind itself.
+        m_lblMarqueMemoire[i]->setContentsMargins(vide ? 5 : 0, 0, 0, 0);
+        const QColor encre = memoire.Differente ? CouleurAlerte() : CouleurAccord();
+        Colorer(*m_lblMarqueMemoire[i],
+                vide ? QApplication::palette().color(QPalette::PlaceholderText) : encre);
+        m_lblMarqueMemoire[i]->setVisible(memoire.Visible && (memoire.Cochee || vide));
     }
 }
 

@@ -1,7 +1,12 @@
 // HID reports through hidapi.
 #include "canal_usb.h"
 
-#include <hidapi/hidapi.h>
+#include "platform/adresse_zelko.h"
+
+#include <fcntl.h>
+#include <hidapi.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 #include <algorithm>
 
@@ -35,22 +40,42 @@ CanalUsb::~CanalUsb() {
     ::hid_exit();
 }
 
+// A device can be opened twice, and two programs would then take each other's replies: only one of them gets
+// it. Where there is no folder for the lock all go on without it.
+bool CanalUsb::Verrouiller() {
+    if (m_verrou >= 0) return true;
+    const std::string dossier = DossierZelko(true);
+    if (dossier.empty()) return true;
+    const int fd = ::open((dossier + "/zelko-usb.lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW,
+                          S_IRUSR | S_IWUSR);
+    if (fd < 0) return true;
+    if (::flock(fd, LOCK_EX | LOCK_NB) != 0) {
+        ::close(fd);
+        return false;
+    }
+    m_verrou = fd;
+    return true;
+}
+
 bool CanalUsb::Presente() {
-    const bool branche = EstBranche();
-    if (!branche) Fermer();
-    return branche;
+    if (EstBranche()) return Verrouiller();
+    Fermer();
+    return false;
 }
 
 void CanalUsb::Fermer() {
+    if (m_verrou >= 0) ::close(m_verrou);
+    m_verrou = -1;
     if (m_appareil != nullptr) ::hid_close(Appareil(m_appareil));
     m_appareil = nullptr;
 }
 
 std::int32_t CanalUsb::Ouvrir() {
     if (m_appareil != nullptr) return CanalSucces;
+    if (!EstBranche()) return CanalIntrouvable;
+    if (!Verrouiller()) return CanalFerme;
     m_appareil = ::hid_open(Vendeur, Produit, nullptr);
-    if (m_appareil != nullptr) return CanalSucces;
-    return EstBranche() ? CanalFerme : CanalIntrouvable;
+    return m_appareil != nullptr ? CanalSucces : CanalFerme;
 }
 
 // Throws away reports until none has come for that long; a reply that was due may be among them. False when
