@@ -2,6 +2,7 @@
 #include "decoupe_lot.h"
 
 #include "decoupe4x_lot.h"
+#include "decoupe_machine.h"
 #include "langue_lot.h"
 #include "machine_lot.h"
 #include "progression.h"
@@ -31,7 +32,6 @@ namespace {
 // Rows of the text tables.
 constexpr int DoublesPasDeTrace = 37;
 constexpr int DoublesRienDansLeBloc = 53;
-constexpr int MessagesPasDInterface = 108;
 constexpr int MessagesExtensionGcode = 175;
 constexpr int MessagesExtensionDxf = 202;
 
@@ -58,10 +58,6 @@ bool DemandeAcceptable(const DemandeDecoupe& demande) {
                 throw MauvaisUsage(Dire("un projet se découpe seul, sans autre fichier : ",
                                         "a project is cut on its own, without other files: ") +
                                    fichier);
-    if (demande.interface) {
-        AfficherExclamation(TextesMessages(MessagesPasDInterface), TitresMessages(MessagesPasDInterface));
-        return false;
-    }
     return SortiesAcceptables(demande);
 }
 
@@ -164,6 +160,7 @@ int Decouper(const DemandeDecoupe& demande) {
         throw MauvaisUsage(option + Dire(" va avec un projet 4 axes", " goes with a 4-axis project"));
     if (!DemandeAcceptable(demande)) return StatutRefuse;
     if (!ChoisirMachine(demande.machine) || !ChoisirMatiereNommee(demande.matiere)) return StatutRefuse;
+    if (demande.interface && !MachinePrete()) return StatutRefuse;
 
     Progression progression(static_cast<int>(demande.fichiers.size()) + 5);
     Espace2D espace = NouvelEspace2D(TableINI);
@@ -198,7 +195,10 @@ int Decouper(const DemandeDecoupe& demande) {
     if (!sorties.Ecrire(progression)) return StatutRefuse;
 
     Progression::Effacer();
-    return ImprimerResume(demande.fichiers, lecture, espace, decoupe, options, gcode, sorties.Chemins());
+    const int resume =
+        ImprimerResume(demande.fichiers, lecture, espace, decoupe, options, gcode, sorties.Chemins());
+    if (resume != StatutFait || !demande.interface) return resume;
+    return CouperSurMachine(decoupe, options, NomAffiche(MatiereCourante));
 }
 
 } // namespace tessarel::lot

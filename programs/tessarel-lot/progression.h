@@ -16,6 +16,8 @@ public:
 
     // Begins the next step.
     void Etape(const std::string& nom);
+    // A bar filled to `part`, 0 to 1, for work whose steps are not counted. Redrawn as often as it is called.
+    static void Montrer(double part, const std::string& texte);
     // Takes away the bar of the one that is under way, if any.
     static void Effacer();
 

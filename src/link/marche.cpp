@@ -85,6 +85,23 @@ bool Conclure(Marche& m, FinMarche fin) {
     return false;
 }
 
+void Retenir(Marche& m, const StatutZelko& statut) {
+    m.resultat.statut = statut;
+    // A box that shows no number any more leaves the last one standing.
+    if (statut.NumeroSalve > 0) m.resultat.NumeroSalve = statut.NumeroSalve;
+}
+
+bool DitPourquoi(const StatutZelko& statut) {
+    return statut.FinDeListe || statut.ArretDemande || statut.ArretBoutonStop ||
+           statut.OrigineOuverteEnMouvement || statut.FinCourseOuverteEnMouvement;
+}
+
+// The box stands, by itself. Always false.
+bool Arreter(Marche& m, const StatutZelko& statut) {
+    Retenir(m, statut);
+    return Conclure(m, DitPourquoi(statut) ? FinMarche::Finie : FinMarche::SansRaison);
+}
+
 // Empties and opens the queue and puts frames in until one is refused. A frame whose reply was lost makes it
 // begin anew: nothing moves yet. False when the run ends here.
 bool Remplir(Marche& m) {
@@ -96,8 +113,11 @@ bool Remplir(Marche& m) {
             ChargerSalveDansTampon(TamponEchange, m.salves[m.prochaine]);
             reussi = Echanger();
             if (!reussi) break;
-            if (LireStatut(TamponEchange).SalveAcceptee)
+            const StatutZelko statut = LireStatut(TamponEchange);
+            if (statut.SalveAcceptee)
                 ++m.prochaine;
+            else if (m.prochaine == 0 && statut.Fini)
+                return Arreter(m, statut); // the STOP button, or its power: the queue is closed again
             else
                 pleine = m.prochaine > 0; // an empty queue that refuses is asked again
             LaisserPasserEvenements();
@@ -189,12 +209,6 @@ bool Annoncer(const Marche& m) {
     return true;
 }
 
-void Retenir(Marche& m, const StatutZelko& statut) {
-    m.resultat.statut = statut;
-    // A box that shows no number any more leaves the last one standing.
-    if (statut.NumeroSalve > 0) m.resultat.NumeroSalve = statut.NumeroSalve;
-}
-
 void ChangerChauffe(const SuiviMarche& suivi) {
     if (suivi.demandes == nullptr || !suivi.demandes->ChauffeModifiee) return;
     suivi.demandes->ChauffeModifiee = false;
@@ -207,11 +221,6 @@ void Stopper(Marche& m, FinMarche fin) {
     const bool arretee = ArreterMarche(m.suivi, statut);
     if (arretee) Retenir(m, statut);
     m.resultat.fin = arretee ? fin : FinMarche::Abandonnee;
-}
-
-bool DitPourquoi(const StatutZelko& statut) {
-    return statut.FinDeListe || statut.ArretDemande || statut.ArretBoutonStop ||
-           statut.OrigineOuverteEnMouvement || statut.FinCourseOuverteEnMouvement;
 }
 
 void Suivre(Marche& m) {
@@ -227,7 +236,7 @@ void Suivre(Marche& m) {
         }
         Retenir(m, statut);
         if (statut.Fini) {
-            m.resultat.fin = DitPourquoi(statut) ? FinMarche::Finie : FinMarche::SansRaison;
+            Arreter(m, statut);
             return;
         }
         if (!Annoncer(m)) return Stopper(m, FinMarche::SansDuree);

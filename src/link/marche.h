@@ -52,7 +52,7 @@ struct SuiviMarche {
 
 enum class FinMarche {
     StopAvantMouvement, // asked before B 128: nothing moved, B 0 was sent
-    Arretee,            // S was sent and the box stands
+    Arretee,            // S was sent and the box stands; the status tells if it had ended by itself before
     Finie,              // ended by itself; the status says why
     SansRaison,         // stands, and does not say why: its power was cut, or another program talked to it
     SansDuree,          // a frame of no ticks came up, and the run was stopped there

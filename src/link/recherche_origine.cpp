@@ -31,7 +31,6 @@ constexpr std::uint8_t ModeOrigines = 1;
 // The one machine whose X2 has an origin switch of its own.
 constexpr const char* MachineAvecOrigineX2 = "QT4X v10";
 // Rows of TextesDoubles.
-constexpr int RangeeAnnulation = 25;
 constexpr int RangeeNouvelEssai = 33;
 constexpr int RangeeEchec = 34;
 
@@ -40,6 +39,7 @@ using Distances = std::array<double, 4>; // steps by Axe; 0: not sought, or done
 struct Recherche {
     const TableMachine& table;
     const SuiviMarche& suivi;
+    int rangeeAnnulation;
     Distances distances = {};
     FinOrigine fin = FinOrigine::Trouvee;
 };
@@ -88,13 +88,13 @@ bool MouvementUtilisable(Recherche& r, const ResultatMouvement& mouvement) {
     switch (mouvement.marche.fin) {
     case FinMarche::Finie:
         if (mouvement.marche.statut.ArretBoutonStop)
-            return Terminer(r, FinOrigine::Annulee, RangeeAnnulation);
+            return Terminer(r, FinOrigine::Annulee, r.rangeeAnnulation);
         return true;
     case FinMarche::StopAvantMouvement:
     case FinMarche::Arretee:
         if (r.suivi.demandes != nullptr)
             r.suivi.demandes->StopDemande = r.suivi.demandes->FinOrigineDemandee = false;
-        return Terminer(r, FinOrigine::Annulee, RangeeAnnulation);
+        return Terminer(r, FinOrigine::Annulee, r.rangeeAnnulation);
     case FinMarche::SansRaison:
     case FinMarche::SansDuree:
     case FinMarche::Abandonnee:
@@ -157,7 +157,7 @@ bool ToutDegage(const Recherche& r) {
 // The mode must be known: in homing mode no switch would stop the next travel. False when the user gives up.
 bool ChangerMode(Recherche& r, std::uint8_t mode) {
     if (EnvoyerJusquaReponse(CommandeOrigine, mode, r.suivi)) return true;
-    return Terminer(r, FinOrigine::Annulee, RangeeAnnulation);
+    return Terminer(r, FinOrigine::Annulee, r.rangeeAnnulation);
 }
 
 // One travel to the switches and out of them. False when the search ends here.
@@ -195,10 +195,11 @@ FinOrigine ChercherDirection(Recherche& r) {
 
 } // namespace
 
-FinOrigine RechercheOrigine(const TableMachine& table, AxesOrigine axes, const SuiviMarche& suivi) {
+FinOrigine RechercheOrigine(const TableMachine& table, AxesOrigine axes, const SuiviMarche& suivi,
+                            int rangeeAnnulation) {
     for (const bool directionY : {true, false}) {
         if (axes == (directionY ? AxesOrigine::X : AxesOrigine::Y)) continue;
-        Recherche r{table, suivi};
+        Recherche r{table, suivi, rangeeAnnulation};
         for (std::size_t axe = 0; axe < r.distances.size(); ++axe)
             if (EstY(axe) == directionY && EstPresent(table, axe))
                 r.distances[axe] = LongueDistance(table, axe);

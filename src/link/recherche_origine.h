@@ -24,7 +24,10 @@ enum class FinOrigine {
 // one after the other, Y first; the two ends of the wire travel together, or it would be torn. The first
 // switch stops both; then each end in turn backs off in small steps until the loop closes: that end is done.
 // An end whose switch was not the one travels again.
-FinOrigine RechercheOrigine(const TableMachine& table, AxesOrigine axes, const SuiviMarche& suivi);
+// `rangeeAnnulation` is the row of TextesDoubles that tells of a stop.
+inline constexpr int RangeeOrigineAnnulee = 25;
+FinOrigine RechercheOrigine(const TableMachine& table, AxesOrigine axes, const SuiviMarche& suivi,
+                            int rangeeAnnulation = RangeeOrigineAnnulee);
 
 // From the switches to the origin: PasToOrigine of each axis in `axes`, away from the switch.
 ResultatMouvement AllerDesInterrupteursALOrigine(const TableMachine& table, AxesOrigine axes,

@@ -8,26 +8,32 @@ namespace tessarel {
 
 namespace {
 
-volatile std::sig_atomic_t demandee = 0;
+volatile std::sig_atomic_t recus = 0;
+volatile std::sig_atomic_t secondTermine = 1;
 
 void Noter(int signal) {
-    if (demandee != 0 && signal == SIGINT) {
+    if (recus != 0 && signal == SIGINT && secondTermine != 0) {
         std::signal(signal, SIG_DFL);
         std::raise(signal);
     }
-    demandee = 1;
+    recus = recus + 1;
 }
 
 } // namespace
 
-void EcouterSignauxDeFin() {
+void EcouterSignauxDeFin(SecondSigint second) {
+    secondTermine = second == SecondSigint::Termine ? 1 : 0;
     struct sigaction action {};
     action.sa_handler = Noter; // without SA_RESTART: a wait ends
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) ::sigaction(signal, &action, nullptr);
 }
 
 bool FinDemandee() {
-    return demandee != 0;
+    return recus != 0;
+}
+
+int SignauxDeFinRecus() {
+    return recus;
 }
 
 } // namespace tessarel

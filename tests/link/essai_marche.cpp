@@ -172,7 +172,7 @@ TEST_F(Envoi, StopEnMarcheEnvoieSPuisIAuTourSuivant) {
                                            envoi.marche.statut.TicksRestants);
     ASSERT_EQ(p.lecture, LecturePosition::Faite);
     const PositionPas boite = m_poste.boite.Position();
-    for (std::size_t axe = 0; axe < 4; ++axe) EXPECT_LE(std::abs(boite[axe] - p.pas[axe]), 1) << axe;
+    for (std::size_t axe = 0; axe < 4; ++axe) EXPECT_EQ(boite[axe], p.pas[axe]) << axe;
 }
 
 TEST_F(Envoi, LaChauffeModifieePartUneFoisEtAuPlusTot) {

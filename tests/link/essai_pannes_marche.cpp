@@ -85,7 +85,7 @@ struct Coupe : Scene {
     }
     void EstEn(const PasAxes& pas) const {
         for (std::size_t axe = 0; axe < pas.size(); ++axe)
-            EXPECT_LE(std::abs(poste.boite.Position()[axe] - pas[axe]), 1) << axe;
+            EXPECT_EQ(poste.boite.Position()[axe], pas[axe]) << axe;
     }
     ListeDeDecoupe liste;
 };

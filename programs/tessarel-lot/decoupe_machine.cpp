@@ -1,0 +1,117 @@
+// Runs a cut on the machine and shows it on the terminal.
+#include "decoupe_machine.h"
+
+#include "langue_lot.h"
+#include "progression.h"
+#include "verbes.h"
+
+#include "app/texts/textes.h"
+#include "app/texts/textes_programme.h"
+#include "link/etat_interface.h"
+#include "platform/horloge.h"
+#include "platform/nombres.h"
+#include "platform/pompe.h"
+#include "platform/signaux_fin.h"
+#include "work2d/decoupe_interface.h"
+
+#include <cstdio>
+#include <utility>
+
+namespace tessarel::lot {
+
+namespace {
+
+constexpr int MessagesMiseEnTemperature = 189;
+constexpr int MessagesSegment = 190; // its second column
+constexpr int MessagesArret = 172;   // its second column
+// Between two drawings of the bar, so that it costs the run nothing.
+constexpr Instant EntreDeuxBarres = std::chrono::milliseconds(100);
+
+// While it lives, a signal that asks the program to end is a press of Stop, and each further one another
+// press.
+class StopParSignal {
+public:
+    explicit StopParSignal(DemandesMarche& demandes) {
+        EcouterSignauxDeFin(SecondSigint::Compte);
+        m_ancienne = InstallerPompe([this, &demandes] {
+            const int recus = SignauxDeFinRecus();
+            if (recus == m_vus) return;
+            m_vus = recus;
+            demandes.StopDemande = true;
+        });
+    }
+    ~StopParSignal() { InstallerPompe(std::move(m_ancienne)); }
+    StopParSignal(const StopParSignal&) = delete;
+    StopParSignal& operator=(const StopParSignal&) = delete;
+
+private:
+    int m_vus = 0;
+    Pompe m_ancienne;
+};
+
+// The bar of a run.
+struct Barre {
+    Instant derniere = -EntreDeuxBarres;
+
+    void Montrer(const AvanceeDecoupe& avancee) {
+        const Instant maintenant = Maintenant();
+        if (maintenant - derniere < EntreDeuxBarres) return;
+        derniere = maintenant;
+        if (avancee.phase == PhaseDecoupe::Chauffe) {
+            Progression::Montrer(avancee.fraction, TextesMessages(MessagesMiseEnTemperature) + " " +
+                                                       std::to_string(avancee.secondesRestantes) + "/" +
+                                                       std::to_string(avancee.secondesChauffe) + " s");
+            return;
+        }
+        // Frame k goes to vertex k; the first vertex is where the wire stands.
+        const double faits = avancee.NumSalveCourante - 2 + avancee.fraction;
+        Progression::Montrer(faits / (avancee.sommets - 1), TitresMessages(MessagesSegment) + " " +
+                                                                std::to_string(avancee.NumSalveCourante) +
+                                                                "/" + std::to_string(avancee.sommets));
+    }
+};
+
+std::string Coordonnee(Axe axe, const PositionDuFil& position) {
+    return FormaterNombre(MillimetresDePas(TableINI, axe, position.pas[axe]), "##0.00");
+}
+
+std::string TexteArret(const ResultatDecoupe& resultat) {
+    return TitresMessages(MessagesArret) + std::to_string(resultat.NumSalveCourante) +
+           Dire(", fil à X ", ", wire at X ") + Coordonnee(AxeX1, resultat.PositionStop) + " mm, Y " +
+           Coordonnee(AxeY1, resultat.PositionStop) + " mm\n";
+}
+
+} // namespace
+
+bool MachinePrete() {
+    return TesterBibliothequeZelko() != EtatBibliotheque::TropVieille &&
+           VerifierAvantDecoupe() == AvantDecoupe::Permise;
+}
+
+int CouperSurMachine(const Decoupe2D& decoupe, const OptionsDecoupe2D& options,
+                     const std::string& nomMatiere) {
+    const DecoupePreparee preparee = PreparerDecoupeTS2D(decoupe, options, TableINI, nomMatiere);
+    if (!preparee.possible) return StatutRefuse;
+    DemandesMarche demandes;
+    const StopParSignal stop(demandes);
+    Barre barre;
+    SuiviDecoupe suivi;
+    suivi.demandes = &demandes;
+    suivi.ChangerPhase = [](PhaseDecoupe phase) {
+        if (phase == PhaseDecoupe::Origine) Progression::Montrer(0, TextesEtats(EtatOrigine));
+    };
+    suivi.Avancer = [&barre](const AvanceeDecoupe& avancee) { barre.Montrer(avancee); };
+    suivi.Prevenir = [] {
+        Progression::Effacer();
+        std::fputs((Texte(TexteProgramme::BoitierMuet) + "\n").c_str(), stderr);
+    };
+    const ResultatDecoupe resultat =
+        LancerDecoupeTS2D(preparee, TableINI, TableINI.OrigineAutomatique, suivi);
+    Progression::Effacer();
+    if (resultat.PositionStop.lecture == LecturePosition::Faite && resultat.fin != FinDecoupe::Terminee)
+        Imprimer(TexteArret(resultat));
+    if (resultat.fin == FinDecoupe::Arretee) AnnulerReprise(suivi);
+    return resultat.fin == FinDecoupe::Terminee && resultat.chauffeCoupee ? StatutFait : StatutRefuse;
+}
+
+} // namespace tessarel::lot

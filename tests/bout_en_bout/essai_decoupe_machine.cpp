@@ -1,0 +1,70 @@
+// The batch program and the virtual machine as two programs on one socket: a cut to its end, and Ctrl-C in
+// the middle of one.
+#include "bout_en_bout/executer.h"
+#include "outils/dossiers.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace tessarel::essais {
+namespace {
+
+class DecoupeMachine : public testing::Test {
+protected:
+    void SetUp() override { EcrireTout(travail.Fichier("a.txt"), "A\r\n20:5\r\n30:5\r\n30:12\r\n20:5\r\n"); }
+
+    // The simulator for as long as `suite` runs; it ends with the script.
+    Execution AvecMachine(const std::string& facteur, const std::string& suite) {
+        return Executer("zelko-simulateur --documents sim --memoires memoires.json --journal journal.txt "
+                        "--sans-fenetre --facteur " +
+                            facteur +
+                            " > sim.log 2>&1 & sim=$!\n"
+                            "trap 'kill $sim; wait $sim || true' EXIT\n"
+                            "n=0; while [ ! -S \"$XDG_RUNTIME_DIR/zelko.sock\" ]; do\n"
+                            "  n=$((n+1)); [ $n -lt 200 ] || exit 99; sleep 0.05; done\n" +
+                            suite,
+                        travail.Chemin());
+    }
+
+    DossierProvisoire travail;
+};
+
+TEST_F(DecoupeMachine, VaAuBout) {
+    const Execution lot = AvecMachine("200", "tessarel-lot --documents doc decouper a.txt --interface");
+    EXPECT_EQ(lot.statut, 0) << lot.erreurs << LireTout(travail.Fichier("sim.log"));
+    EXPECT_EQ(lot.erreurs,
+              "machine disponible: Découpe terminée, fil en position de repos, chauffe coupée.\n");
+}
+
+TEST_F(DecoupeMachine, CtrlCArreteRefroiditEtDitOuEstLeFil) {
+    const Execution lot =
+        AvecMachine("8", "tessarel-lot --documents doc --langue en decouper a.txt --interface & lot=$!\n"
+                         "sleep 1.5; kill -INT $lot\n"
+                         "statut=0; wait $lot || statut=$?\n"
+                         "exit $statut");
+    EXPECT_EQ(lot.statut, 1) << lot.erreurs;
+    EXPECT_NE(lot.sortie.find("Stopped at segment no. "), std::string::npos) << lot.sortie << lot.erreurs;
+    EXPECT_NE(lot.sortie.find(", wire at X "), std::string::npos) << lot.sortie;
+    EXPECT_EQ(lot.erreurs, "Stopped in the working area: Warning: the wire is not in its rest position.\n");
+}
+
+TEST_F(DecoupeMachine, UnTerminalVoitLeDecompteEtLaBarre) {
+    if (!ProgrammePresent("script")) GTEST_SKIP() << "script (Debian package bsdutils) is not installed";
+    const Execution lot = AvecMachine(
+        "8", "TERM=xterm script -qec 'tessarel-lot --documents doc decouper a.txt --interface' /dev/null");
+    EXPECT_EQ(lot.statut, 0) << lot.sortie;
+    EXPECT_NE(lot.sortie.find("Mise en température du fil 2/2 s"), std::string::npos) << lot.sortie;
+    EXPECT_NE(lot.sortie.find("Découpe segment n° "), std::string::npos) << lot.sortie;
+}
+
+TEST_F(DecoupeMachine, UneMachineInconnueDeLInterfaceNeBougePas) {
+    const Execution lot = AvecMachine(
+        "200", "tessarel-lot --documents doc decouper a.txt --machine QT4X-m1 --interface --gcode a.gcode");
+    EXPECT_EQ(lot.statut, 1);
+    EXPECT_NE(lot.erreurs.find("Pas de correspondance entre la table"), std::string::npos) << lot.erreurs;
+    EXPECT_EQ(lot.sortie, ""); // refused before anything was read or written
+}
+
+} // namespace
+} // namespace tessarel::essais

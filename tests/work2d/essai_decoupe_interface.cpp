@@ -1,0 +1,504 @@
+// A 2D cut on the virtual machine: what is checked, what is said, where the wire is at each end, resume and
+// return; and every exchange of it broken in turn.
+#include "work2d/assemblage.h"
+#include "work2d/decoupe_interface.h"
+#include "work2d/mouvements_2d.h"
+
+#include "link/commandes.h"
+#include "link/echange.h"
+#include "link/memoires.h"
+#include "platform/pompe.h"
+
+#include "outils/boites.h"
+#include "outils_boite/boite_virtuelle.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <string>
+
+using namespace tessarel;
+using namespace tessarel::simulateur;
+using namespace std::chrono_literals;
+
+namespace {
+
+PointProfil Sommet(double x, double y, float vitesse, bool rapide = false) {
+    PointProfil p;
+    p.X = x;
+    p.Y = y;
+    p.Vitesse = vitesse;
+    p.Rapide = rapide;
+    return p;
+}
+
+// A small cut with a rapid way in and out, all in a few seconds of the machine.
+Decoupe2D PetiteDecoupe() {
+    Decoupe2D decoupe;
+    decoupe.SequenceDecoupe.Points = {Sommet(0, 0, 4, true), Sommet(0, 3, 8),    Sommet(2, 3, 4),
+                                      Sommet(2.5, 1.5, 4),   Sommet(1, 1.25, 4), Sommet(0.5, 2.125, 4),
+                                      Sommet(0, 2, 4, true), Sommet(0, 0, 8)};
+    CalculerBornesSequence(decoupe.SequenceDecoupe);
+    return decoupe;
+}
+
+OptionsDecoupe2D Options() {
+    OptionsDecoupe2D options;
+    options.chauffe = 50;
+    return options;
+}
+
+// One cut under the test's clock, with a user who may press Stop after a given exchange and who presses it
+// again and again while the box is gone.
+struct Poste {
+    explicit Poste(Instant pas = 10ms, std::size_t capacite = 4, const std::string& machine = "(Defaut)")
+        : boite(machine, capacite), anciennePompe(InstallerPompe([this] { Pomper(); })) {
+        TableMachine table = TableINI;
+        table.TempoChauffe = 1;
+        boite.PreparerMachine(table);
+        boite.PasParEchange = pas;
+        boite.AvantEchange = [this](const Tampon& t) {
+            ++echanges;
+            if (!MouvementsActifs && EstCommandeDeMouvement(t)) ++interdites;
+        };
+        suivi.demandes = &demandes;
+        suivi.ChangerPhase = [this](PhaseDecoupe phase) { phases.push_back(phase); };
+        suivi.Avancer = [this](const AvanceeDecoupe& a) { avancees.push_back(a); };
+        decoupe = PetiteDecoupe();
+    }
+    ~Poste() { InstallerPompe(anciennePompe); }
+    Poste(const Poste&) = delete;
+    Poste& operator=(const Poste&) = delete;
+
+    void Pomper() {
+        if (stopA != 0 && echanges >= stopA) {
+            demandes.StopDemande = true;
+            stopA = 0;
+        }
+        if (!boite.boite.Branchee() && ++toursSansBoite % 25 == 0) demandes.StopDemande = true;
+        if (SurPompe) SurPompe();
+    }
+    DecoupePreparee Preparer() { return PreparerDecoupeTS2D(decoupe, Options(), TableINI, "Mousse"); }
+    ResultatDecoupe Lancer(bool origine = false, GenreDecoupe genre = GenreDecoupe::Decoupe) {
+        preparee = Preparer();
+        return LancerDecoupeTS2D(preparee, TableINI, origine, suivi, genre);
+    }
+    [[nodiscard]] PasAxes Position() const {
+        PasAxes pas = {};
+        for (std::size_t axe = 0; axe < pas.size(); ++axe)
+            pas[axe] = static_cast<std::int32_t>(boite.boite.Position()[axe]);
+        return pas;
+    }
+    [[nodiscard]] std::string DernierTitre() const {
+        return boites.boites.empty() ? "" : boites.boites.back().titre;
+    }
+    void FilFroidOuDit() const {
+        const bool froid = boite.boite.Etat().pwmCommande == 0 && boite.boite.Etat().file == EtatFile::Repos;
+        const bool dit = std::ranges::any_of(boites.boites,
+                                             [](const Boite& b) { return b.icone == IconeBoite::Critique; });
+        EXPECT_TRUE(froid || dit);
+        EXPECT_EQ(interdites, 0);
+    }
+
+    essais::BoitesEnregistrees boites;
+    essais::BoiteVirtuelle boite;
+    DemandesMarche demandes;
+    SuiviDecoupe suivi;
+    Decoupe2D decoupe;
+    DecoupePreparee preparee;
+    std::vector<PhaseDecoupe> phases;
+    std::vector<AvanceeDecoupe> avancees;
+    Pompe anciennePompe;
+    std::function<void()> SurPompe;
+    std::uint64_t echanges = 0;
+    std::uint64_t stopA = 0;
+    int toursSansBoite = 0;
+    int interdites = 0;
+};
+
+// Steps that a path asks of each axis, both ways.
+std::array<std::uint64_t, 4> PasDuChemin(const TrajetPas& trajet) {
+    std::array<std::uint64_t, 4> pas = {};
+    const auto ecart = [](std::int32_t a, std::int32_t b) {
+        return static_cast<std::uint64_t>(std::abs(std::int64_t{a} - b));
+    };
+    for (std::size_t i = 2; i < trajet.bout1.size(); ++i) {
+        pas[0] += ecart(trajet.bout1[i].X, trajet.bout1[i - 1].X);
+        pas[1] += ecart(trajet.bout1[i].Y, trajet.bout1[i - 1].Y);
+        pas[2] += ecart(trajet.bout2[i].X, trajet.bout2[i - 1].X);
+        pas[3] += ecart(trajet.bout2[i].Y, trajet.bout2[i - 1].Y);
+    }
+    return pas;
+}
+
+// Stops anywhere in the path and resumes; gives the end and the steps that the box counted in all.
+void ReprendreApres(std::uint64_t n) {
+    Poste poste;
+    poste.stopA = n;
+    ResultatDecoupe r = poste.Lancer();
+    if (r.fin != FinDecoupe::Arretee) return;
+    const auto voulus = PasDuChemin(poste.preparee.liste.trajet);
+    ASSERT_EQ(r.PositionStop.pas, poste.Position());
+    poste.decoupe.SequenceDecoupe =
+        SequenceDeReprise(poste.decoupe.SequenceDecoupe, r.NumSalveCourante, r.PositionStop.pas, TableINI);
+    r = poste.Lancer();
+    EXPECT_EQ(r.fin, FinDecoupe::Terminee);
+    EXPECT_EQ(poste.Position(), PasAxes{});
+    EXPECT_EQ(poste.boite.boite.Comptes().pas, voulus);
+    poste.FilFroidOuDit();
+}
+
+} // namespace
+
+TEST(DecoupeInterface, VaAuBoutEtLeDit) {
+    Poste poste;
+    const ResultatDecoupe r = poste.Lancer();
+    EXPECT_EQ(r.fin, FinDecoupe::Terminee);
+    EXPECT_TRUE(r.chauffeCoupee);
+    EXPECT_EQ(poste.Position(), PasAxes{});
+    EXPECT_EQ(poste.boite.boite.Comptes().pas, PasDuChemin(poste.preparee.liste.trajet));
+    ASSERT_EQ(poste.boites.boites.size(), 1U);
+    EXPECT_EQ(poste.boites.boites[0].texte, "Découpe terminée, fil en position de repos, chauffe coupée.");
+    EXPECT_EQ(poste.boites.boites[0].titre, "machine disponible");
+    EXPECT_EQ(poste.phases, (std::vector{PhaseDecoupe::Chauffe, PhaseDecoupe::Decoupe, PhaseDecoupe::Repos}));
+}
+
+TEST(DecoupeInterface, LAvanceeDonneLaChauffePuisLaPlaceDuFil) {
+    Poste poste;
+    poste.Lancer();
+    const auto& a = poste.avancees;
+    ASSERT_GT(a.size(), 100U);
+    EXPECT_EQ(a.front().phase, PhaseDecoupe::Chauffe);
+    EXPECT_EQ(a.front().secondesRestantes, 1);
+    EXPECT_EQ(a.front().secondesChauffe, 1);
+    EXPECT_EQ(a.front().sommets, 8);
+    const auto milieu = std::ranges::find_if(
+        a, [](const AvanceeDecoupe& v) { return v.NumSalveCourante == 3 && v.fraction > 0.5; });
+    ASSERT_NE(milieu, a.end()); // from (0, 3) to (2, 3)
+    EXPECT_EQ(milieu->phase, PhaseDecoupe::Decoupe);
+    EXPECT_EQ(milieu->XDebut, 0);
+    EXPECT_EQ(milieu->YDebut, 3);
+    EXPECT_NEAR(milieu->X1, 2 * milieu->fraction, 1.0 / 320);
+    EXPECT_EQ(milieu->Y1, 3);
+    EXPECT_EQ(milieu->X2, milieu->X1);
+}
+
+TEST(DecoupeInterface, StopPendantLaChauffe) {
+    for (const std::uint64_t n : {2U, 5U, 30U}) { // filling, filling, heating
+        Poste poste;
+        poste.stopA = n;
+        const ResultatDecoupe r = poste.Lancer();
+        EXPECT_EQ(r.fin, FinDecoupe::StopAvantDecoupe);
+        ASSERT_EQ(poste.boites.boites.size(), 1U);
+        EXPECT_EQ(poste.boites.boites[0].titre, "Arrêt pendant la chauffe");
+        EXPECT_EQ(poste.boites.boites[0].texte,
+                  "Le bouton Stop a été appuyé avant le début du mouvement.\r\nLa chauffe est coupée.");
+        EXPECT_EQ(poste.Position(), PasAxes{});
+        EXPECT_EQ(poste.phases.back(), PhaseDecoupe::Repos);
+        poste.FilFroidOuDit();
+    }
+}
+
+TEST(DecoupeInterface, StopEnDecoupeAttendLOperateur) {
+    Poste poste;
+    poste.stopA = 220;
+    const ResultatDecoupe r = poste.Lancer();
+    EXPECT_EQ(r.fin, FinDecoupe::Arretee);
+    EXPECT_GE(r.NumSalveCourante, 3);
+    EXPECT_EQ(r.PositionStop.lecture, LecturePosition::Faite);
+    EXPECT_EQ(r.PositionStop.pas, poste.Position());
+    EXPECT_TRUE(poste.boites.boites.empty()); // the panel speaks, not a box
+    EXPECT_EQ(poste.phases.back(), PhaseDecoupe::Arretee);
+    poste.FilFroidOuDit();
+    AnnulerReprise(poste.suivi);
+    EXPECT_EQ(poste.DernierTitre(), "Arrêt dans la zone utile");
+    EXPECT_EQ(poste.boites.boites.back().texte, "Attention, le fil n'est pas à sa position de repos.");
+    EXPECT_EQ(poste.phases.back(), PhaseDecoupe::Repos);
+}
+
+TEST(DecoupeInterface, BoutonDeLaMachineEtInterrupteurs) {
+    struct Cas {
+        Panne panne;
+        std::uint32_t salve;
+        FinDecoupe fin;
+        const char* titre;
+    };
+    for (const Cas& cas :
+         {Cas{Panne::BoutonStop, 4, FinDecoupe::Arretee, "Arrêt en cours de découpe!"},
+          Cas{Panne::BoutonStop, 1, FinDecoupe::StopAvantDecoupe, "Arrêt d'urgence"},
+          Cas{Panne::OrigineOuverte, 4, FinDecoupe::SortieDesCourses, "Sortie des courses"},
+          Cas{Panne::FinCourseOuverte, 4, FinDecoupe::SortieDesCourses, "Sortie des courses"},
+          Cas{Panne::CoupureCourant, 4, FinDecoupe::Inexpliquee, "Arrêt inexpliqué"}}) {
+        Poste poste;
+        TableMachine table = TableINI;
+        table.SwitchsActifs = true;
+        poste.boite.PreparerMachine(table);
+        poste.boite.boite.Programmer(
+            {.panne = cas.panne, .salve = cas.salve, .tick = 300, .retablieApresEchanges = 4});
+        const ResultatDecoupe r = poste.Lancer();
+        EXPECT_EQ(r.fin, cas.fin) << cas.titre;
+        EXPECT_EQ(poste.DernierTitre(), cas.titre);
+        EXPECT_TRUE(r.chauffeCoupee);
+        poste.FilFroidOuDit();
+    }
+}
+
+TEST(DecoupeInterface, InterrupteurOuvertRefuseLaDecoupe) {
+    Poste poste;
+    TableMachine table = TableINI;
+    table.SwitchsActifs = true;
+    poste.boite.PreparerMachine(table);
+    poste.boite.boite.FixerCommutateurs({.origineForcee = true});
+    const ResultatDecoupe r = poste.Lancer();
+    EXPECT_EQ(r.fin, FinDecoupe::Refusee);
+    EXPECT_EQ(poste.DernierTitre(), "Impossible de faire la découpe.");
+    EXPECT_EQ(poste.boite.boite.Comptes().salvesAcceptees, 0U);
+}
+
+TEST(DecoupeInterface, ChauffeChangeeEnRoute) {
+    Poste poste;
+    poste.SurPompe = [&poste, fait = false]() mutable {
+        if (fait || poste.avancees.empty() || poste.avancees.back().NumSalveCourante < 3) return;
+        fait = poste.demandes.ChauffeModifiee = true;
+        poste.demandes.ChauffeVoulue = 51 / 2.0F; // the slider counts half percents
+    };
+    EXPECT_EQ(poste.Lancer().fin, FinDecoupe::Terminee);
+    EXPECT_TRUE(std::ranges::any_of(poste.boite.boite.HistoireChauffe(),
+                                    [](const NoteChauffe& n) { return n.pwm == 65; })); // 65.025
+}
+
+TEST(DecoupeInterface, UneListeImpossibleNePartPas) {
+    Poste poste;
+    TableMachine table = TableINI;
+    table.MmParTour[AxeX1] = 0;
+    poste.preparee = PreparerDecoupeTS2D(poste.decoupe, Options(), table, "Mousse");
+    EXPECT_FALSE(poste.preparee.possible);
+    EXPECT_EQ(poste.DernierTitre(), "Annulation");
+    EXPECT_EQ(poste.boites.boites[0].texte, "Un problème est survenu lors du calcul du temps de découpe.");
+    const ResultatDecoupe r = LancerDecoupeTS2D(poste.preparee, table, false, poste.suivi);
+    EXPECT_EQ(r.fin, FinDecoupe::Refusee);
+    EXPECT_EQ(poste.echanges, 0U);
+}
+
+TEST(DecoupeInterface, SansMouvementsActifsRefuseEtLeDit) {
+    Poste poste;
+    MouvementsActifs = false;
+    EXPECT_EQ(poste.Lancer().fin, FinDecoupe::Refusee);
+    EXPECT_EQ(poste.DernierTitre(), "Mouvements désactivés");
+    EXPECT_EQ(poste.interdites, 0);
+}
+
+TEST(Reprise, GardeLaSuiteDuChemin) {
+    const Decoupe2D d = PetiteDecoupe();
+    TableMachine table;
+    table.PasParTour = {12800, 12800, 12800, 12800, 0};
+    table.MmParTour = {40, 40, 40, 40};
+    // Frame 5 goes from vertex 4 to vertex 5, counted from 1.
+    const Sequence s = SequenceDeReprise(d.SequenceDecoupe, 5, {640, 448, 640, 448}, table);
+    ASSERT_EQ(s.Points.size(), 5U); // 8 less 5 - 2
+    EXPECT_EQ(s.Points[0].X, 2);
+    EXPECT_DOUBLE_EQ(s.Points[0].Y, 1.4);
+    EXPECT_FALSE(s.Points[0].Rapide);
+    EXPECT_EQ(s.Points[1], d.SequenceDecoupe.Points[4]);
+    // On the first segment the path keeps its length, and the first vertex is no longer rapid.
+    const Sequence premier = SequenceDeReprise(d.SequenceDecoupe, 2, {0, 320, 0, 320}, table);
+    ASSERT_EQ(premier.Points.size(), 8U);
+    EXPECT_EQ(premier.Points[0].Y, 1);
+    EXPECT_FALSE(premier.Points[0].Rapide);
+}
+
+TEST(Reprise, RetourDirectOuParLeBord) {
+    TableMachine table;
+    table.PasParTour = {12800, 12800, 12800, 12800, 0};
+    table.MmParTour = {40, 40, 40, 40};
+    table.CourseY = 510;
+    const PasAxes position = {3200, 6400, 3200, 6400}; // (10, 20)
+    Sequence s = SequenceDeRetour(5, position, TrajetRetour::Direct, 4, table);
+    ASSERT_EQ(s.Points.size(), 3U);
+    EXPECT_EQ(s.Points[0].X, 10);
+    EXPECT_EQ(s.Points[1].X, 5);
+    EXPECT_EQ(s.Points[1].Y, 10);
+    EXPECT_EQ(s.Points[2].X, 0);
+    EXPECT_EQ(s.Points[2].Y, 0);
+    EXPECT_EQ(s.Points[1].Vitesse, 4);
+    s = SequenceDeRetour(3, position, TrajetRetour::ParLeBord, 4, table);
+    EXPECT_EQ(s.Points[1].X, 0);
+    EXPECT_EQ(s.Points[1].Y, 20);
+    s = SequenceDeRetour(2, position, TrajetRetour::ParLeBord, 4, table);
+    ASSERT_EQ(s.Points.size(), 2U);
+    EXPECT_EQ(s.Points[1].Y, 0);
+    table.OrigineEnHaut = true;
+    s = SequenceDeRetour(5, position, TrajetRetour::Direct, 4, table);
+    EXPECT_EQ(s.Points[2].Y, 510);
+    EXPECT_EQ(s.Points[1].Y, 265);
+}
+
+TEST(Reprise, LeRetourRameneLeFilAuRepos) {
+    for (const TrajetRetour trajet : {TrajetRetour::Direct, TrajetRetour::ParLeBord}) {
+        Poste poste;
+        poste.stopA = 220;
+        const ResultatDecoupe r = poste.Lancer();
+        ASSERT_EQ(r.fin, FinDecoupe::Arretee);
+        poste.decoupe.SequenceDecoupe = SequenceDeRetour(r.NumSalveCourante, r.PositionStop.pas, trajet,
+                                                         TableINI.VitesseDecoupeParDefaut, TableINI);
+        EXPECT_EQ(poste.Lancer(false, GenreDecoupe::Retour).fin, FinDecoupe::Terminee);
+        EXPECT_EQ(poste.Position(), PasAxes{});
+        EXPECT_EQ(poste.boites.boites.back().texte, "Le fil est à la position de repos.");
+        EXPECT_EQ(poste.DernierTitre(), "Retour effectué");
+        EXPECT_TRUE(std::ranges::count(poste.phases, PhaseDecoupe::Retour) == 1);
+        poste.FilFroidOuDit();
+    }
+}
+
+TEST(Reprise, ApresUnStopAChaqueEchangeToutEstCoupeUneFois) {
+    Poste mesure;
+    mesure.Lancer();
+    for (std::uint64_t n = 1; n < mesure.echanges; ++n) {
+        SCOPED_TRACE("stop apres l'echange " + std::to_string(n));
+        ReprendreApres(n);
+        if (::testing::Test::HasFailure()) return;
+    }
+}
+
+TEST(DecoupeInterface, ChaquePanneAChaqueEchangeLaisseUnFilFroidOuLeDit) {
+    Poste mesure;
+    mesure.Lancer();
+    for (const Panne panne :
+         {Panne::CommandePerdue, Panne::ReponsePerdue, Panne::ReponseTardive, Panne::ReponseCorrompue,
+          Panne::SalveRefusee, Panne::BoutonStop, Panne::OrigineOuverte, Panne::FinCourseOuverte,
+          Panne::Debranchement, Panne::CoupureCourant, Panne::ChauffeManu}) {
+        for (std::uint64_t n = 1; n < mesure.echanges; ++n) {
+            SCOPED_TRACE("panne " + std::to_string(static_cast<int>(panne)) + " a l'echange " +
+                         std::to_string(n));
+            Poste poste;
+            TableMachine table = TableINI;
+            table.SwitchsActifs = true;
+            poste.boite.PreparerMachine(table);
+            poste.boite.boite.Programmer({.panne = panne, .echange = n, .retablieApresEchanges = 9});
+            const ResultatDecoupe r = poste.Lancer();
+            poste.FilFroidOuDit();
+            EXPECT_FALSE(poste.boites.boites.empty() && r.fin != FinDecoupe::Arretee);
+            if (r.fin == FinDecoupe::Terminee) {
+                EXPECT_EQ(poste.Position(), PasAxes{});
+                EXPECT_EQ(poste.boite.boite.Comptes().pas, PasDuChemin(poste.preparee.liste.trajet));
+            } else if (r.PositionStop.lecture == LecturePosition::Faite && panne != Panne::CoupureCourant) {
+                EXPECT_EQ(r.PositionStop.pas, poste.Position());
+            }
+            if (::testing::Test::HasFailure()) return;
+        }
+    }
+}
+
+TEST(DecoupeInterface, TrenteMilleSegmentsAuFacteurMille) {
+    Poste poste(1ms, CapaciteFileUsuelle);
+    poste.boite.boite.FixerFacteur(1000);
+    poste.suivi.Avancer = {};
+    Sequence& s = poste.decoupe.SequenceDecoupe;
+    s.Points = {Sommet(0, 0, 4)};
+    for (int i = 1; i <= 30000; ++i) s.Points.push_back(Sommet(0.01 * i, i % 2 == 0 ? 1 : 1.5, 4));
+    const ResultatDecoupe r = poste.Lancer();
+    EXPECT_EQ(r.fin, FinDecoupe::Terminee);
+    EXPECT_EQ(poste.Position(), (PasAxes{96000, 320, 96000, 320}));
+    EXPECT_EQ(poste.boite.boite.Comptes().salvesAcceptees, 30001U);
+    EXPECT_EQ(poste.boite.boite.Comptes().salvesFinies, 30001U);
+    EXPECT_EQ(poste.boite.boite.Comptes().pas, PasDuChemin(poste.preparee.liste.trajet));
+}
+
+TEST(DecoupeInterface, OrigineAutomatiqueAvantLaDecoupe) {
+    Poste poste(20ms, 8, "QT2d v12");
+    poste.boite.boite.PoserChariots({30 * 1600, 240 * 1600, 0, 240 * 1600});
+    for (PointProfil& p : poste.decoupe.SequenceDecoupe.Points) p.Y = 256 - p.Y;
+    const ResultatDecoupe r = poste.Lancer(true);
+    EXPECT_EQ(r.fin, FinDecoupe::Terminee);
+    EXPECT_EQ(poste.phases.front(), PhaseDecoupe::Origine);
+    // One or two back-off steps of 0.1 mm inside the place where the switch closes, each way.
+    const PasAxes p = poste.Position();
+    EXPECT_GE(p[AxeX1], 160);
+    EXPECT_LT(p[AxeX1], 320);
+    EXPECT_GE(256 * 1600 - p[AxeY1], 160);
+    EXPECT_LT(256 * 1600 - p[AxeY1], 320);
+
+    Poste arrete(20ms, 8, "QT2d v12");
+    arrete.boite.boite.PoserChariots({30 * 1600, 240 * 1600, 0, 240 * 1600});
+    arrete.stopA = 40;
+    EXPECT_EQ(arrete.Lancer(true).fin, FinDecoupe::Refusee);
+    EXPECT_EQ(arrete.boites.boites.at(0).texte, "Le bouton STOP a été appuyé, opération annulée.");
+    EXPECT_EQ(arrete.phases.back(), PhaseDecoupe::Repos);
+    arrete.FilFroidOuDit();
+}
+
+TEST(AvantDecoupe, LiaisonEtInterrupteurs) {
+    Poste poste;
+    ChargerMachine("(Defaut)");
+    poste.boite.PreparerMachine(TableINI);
+    EXPECT_EQ(VerifierAvantDecoupe(), AvantDecoupe::Permise);
+    EXPECT_TRUE(poste.boites.boites.empty());
+    poste.boite.boite.Brancher(false);
+    EXPECT_EQ(VerifierAvantDecoupe(), AvantDecoupe::SansInterface);
+    EXPECT_EQ(poste.boites.boites.back().texte, "Pas d'interface détectée");
+    EXPECT_EQ(poste.DernierTitre(), "Désactivation des mouvements");
+    poste.boite.boite.Brancher(true);
+    poste.boite.boite.EcrireMemoires({});
+    poste.boites.reponses = {ReponseBoite::Oui};
+    EXPECT_EQ(VerifierAvantDecoupe(), AvantDecoupe::OuvrirParametrage);
+    EXPECT_EQ(
+        poste.boites.boites.back().texte,
+        "Pas de correspondance entre la table en mémoire et les tables de l'interface\r\n\r\nVoulez-vous "
+        "ouvrir la fenêtre de paramétrage?");
+    poste.boites.reponses = {ReponseBoite::Non};
+    EXPECT_EQ(VerifierAvantDecoupe(), AvantDecoupe::SansCorrespondance);
+    EXPECT_FALSE(MouvementsActifs);
+}
+
+TEST(Mouvements2D, RetourEtRangement) {
+    Poste poste(20ms, 8, "QT2d v12");
+    poste.boite.PreparerMachine([] {
+        ChargerMachine("QT2d v12");
+        return TableINI;
+    }());
+    const SuiviMarche suivi = SuiviDeMarche(poste.suivi);
+    poste.boite.boite.PoserChariots({30 * 1600, 240 * 1600, 0, 240 * 1600});
+    poste.boites.reponses = {ReponseBoite::Non};
+    EXPECT_EQ(RetourOrigine(suivi), FinProcedure::Declinee);
+    EXPECT_EQ(poste.boites.boites.back().texte, "Exécuter la procédure de retour à la position de repos ?");
+    poste.boites.reponses = {ReponseBoite::Oui};
+    EXPECT_EQ(RetourOrigine(suivi), FinProcedure::Faite);
+    EXPECT_EQ(poste.DernierTitre(), "Retour effectué");
+    poste.boites.reponses = {ReponseBoite::Oui};
+    EXPECT_EQ(RangerLePortique(suivi), FinProcedure::Faite);
+    EXPECT_EQ(poste.boites.boites.back().texte, "Position de rangement atteinte.");
+    EXPECT_EQ(poste.DernierTitre(), "Mouvement effectué");
+    // (150, 0), less what is left of the back-off steps.
+    EXPECT_NEAR(poste.Position()[AxeX1], 150 * 1600, 320);
+    EXPECT_NEAR(poste.Position()[AxeY1], 0, 320);
+}
+
+TEST(Mouvements2D, SansOrigineAutomatiqueLeRetourEstRefuse) {
+    Poste poste;
+    poste.boite.PreparerMachine([] {
+        ChargerMachine("(Defaut)");
+        return TableINI;
+    }());
+    EXPECT_EQ(RetourOrigine(SuiviDeMarche(poste.suivi)), FinProcedure::Refusee);
+    EXPECT_EQ(poste.boites.boites.back().texte,
+              "Les paramètres de la machine ne permettent pas le retour automatique");
+}
+
+TEST(Mouvements2D, FlechesEtChauffe) {
+    Poste poste;
+    const SuiviMarche suivi = SuiviDeMarche(poste.suivi);
+    EXPECT_TRUE(DeplacerManuellement(TableINI, {1, 0, 1, 0}, 4, suivi));
+    EXPECT_EQ(poste.Position(), (PasAxes{320, 0, 320, 0}));
+    EXPECT_FALSE(DeplacerManuellement(TableINI, {1, 0, 1, 0}, 400, suivi));
+    EXPECT_TRUE(ChauffeManuellePermise());
+    EXPECT_TRUE(AllumerChauffeManuelle(50, suivi));
+    EXPECT_EQ(poste.boite.boite.Etat().pwmCommande, 127); // 50 x 2.55 falls just short of the half
+    poste.boite.boite.FixerCommutateurs({.chauffeManu = true});
+    poste.boites.reponses = {ReponseBoite::Non};
+    EXPECT_FALSE(ChauffeManuellePermise());
+    EXPECT_EQ(poste.DernierTitre(), "Attention à la position des interrupteurs");
+    EXPECT_TRUE(RefroidirFil(suivi));
+    poste.FilFroidOuDit();
+}
