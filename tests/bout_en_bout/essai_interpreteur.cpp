@@ -119,30 +119,50 @@ constexpr const char* MOTEURS = "FrequenceInterpolateur=50000\r\n"
                                 "MicroPasX1=64\r\nMicroPasY1=64\r\nMicroPasX2=64\r\nMicroPasY2=64\r\n"
                                 "VmaxSansAccXY=15\r\n";
 
+// Runs `prepare` in a folder with a 4-axis machine, cuts the aile.tsr that it leaves and has the file read.
+void VerifierAile(const std::string& prepare, const std::string& options, std::size_t mouvementsMin,
+                  bool avecArret) {
+    const DossierProvisoire travail;
+    std::filesystem::create_directories(travail.Fichier("doc/Tessarel/Datas"));
+    EcrireTout(travail.Fichier("doc/Tessarel/Datas/Tessarel.ini"), std::string(REGLAGES) + MOTEURS);
+    EcrireTout(travail.Fichier("aile.tsr"), Aile4axes());
+    const Execution lot =
+        Executer(prepare + "\ntessarel-lot --documents doc decouper aile.tsr --gcode sortie.gcode " + options,
+                 travail.Chemin());
+    ASSERT_EQ(lot.statut, 0) << lot.erreurs;
+    const auto ecrits = MouvementsDuFichier(LireTout(travail.Fichier("sortie.gcode")));
+    ASSERT_GT(ecrits.size(), mouvementsMin) << options;
+    EcrireTout(travail.Fichier("variables"), "");
+    const Execution rs274 = Executer("rs274 -g -v variables sortie.gcode", travail.Chemin());
+    EXPECT_EQ(rs274.statut, 0) << rs274.erreurs;
+    EXPECT_EQ(rs274.sortie.find("error"), std::string::npos) << rs274.sortie;
+    EXPECT_NE(rs274.sortie.find("SET_FEED_MODE(0, 0)"), std::string::npos);
+    EXPECT_EQ(rs274.sortie.find("PROGRAM_STOP()") != std::string::npos, avecArret) << options;
+    EXPECT_NE(rs274.sortie.find("PROGRAM_END()"), std::string::npos);
+    EXPECT_EQ(MouvementsInterpretes(rs274.sortie), ecrits) << options;
+}
+
 TEST(Interpreteur, ReconnaitUneAileSur4AxesAvecSesArrets) {
     if (!ProgrammePresent("rs274")) GTEST_SKIP() << "rs274 (Debian package linuxcnc-uspace) is not installed";
     for (const char* options : {"", "--TypeEntree 2 --TypeSortie 1", "--CoteDecalage 2 --symetrie",
                                 "--TypeAlgorithmeDecalage 0 --SortieIntermediaire 1 "
-                                "--CurseurSortieIntermediaire 61"}) {
-        const DossierProvisoire travail;
-        std::filesystem::create_directories(travail.Fichier("doc/Tessarel/Datas"));
-        EcrireTout(travail.Fichier("doc/Tessarel/Datas/Tessarel.ini"), std::string(REGLAGES) + MOTEURS);
-        EcrireTout(travail.Fichier("aile.tsr"), Aile4axes());
-        const Execution lot = Executer(
-            std::string("tessarel-lot --documents doc decouper aile.tsr --gcode sortie.gcode ") + options,
-            travail.Chemin());
-        ASSERT_EQ(lot.statut, 0) << lot.erreurs;
-        const auto ecrits = MouvementsDuFichier(LireTout(travail.Fichier("sortie.gcode")));
-        ASSERT_GT(ecrits.size(), 100U) << options;
-        EcrireTout(travail.Fichier("variables"), "");
-        const Execution rs274 = Executer("rs274 -g -v variables sortie.gcode", travail.Chemin());
-        EXPECT_EQ(rs274.statut, 0) << rs274.erreurs;
-        EXPECT_EQ(rs274.sortie.find("error"), std::string::npos) << rs274.sortie;
-        EXPECT_NE(rs274.sortie.find("SET_FEED_MODE(0, 0)"), std::string::npos);
-        EXPECT_NE(rs274.sortie.find("PROGRAM_STOP()"), std::string::npos) << options;
-        EXPECT_NE(rs274.sortie.find("PROGRAM_END()"), std::string::npos);
-        EXPECT_EQ(MouvementsInterpretes(rs274.sortie), ecrits) << options;
-    }
+                                "--CurseurSortieIntermediaire 61"})
+        VerifierAile("", options, 100, true);
+}
+
+TEST(Interpreteur, ReconnaitUneAileDeDeuxProfilsDAutrui) {
+    if (!ProgrammePresent("rs274")) GTEST_SKIP() << "rs274 (Debian package linuxcnc-uspace) is not installed";
+    const std::string corpus = DossierCorpus(TESSAREL_RACINE);
+    if (corpus.empty()) GTEST_SKIP() << "no folder of foreign files beside the checkout";
+    const auto prepare = [&](const std::string& emplanture, const std::string& saumon) {
+        return "tessarel-lot --documents doc aile --emplanture '" + corpus + "/dat/" + emplanture +
+               "' --saumon '" + corpus + "/dat/" + saumon +
+               "' --corde 250 --corde-saumon 180 --ecartement 400 --fleche 20 --bloc-auto 5 --synchroniser "
+               "aile.tsr";
+    };
+    const std::string options = "--TypePositionZ 2 --auto-xy";
+    VerifierAile(prepare("hotwingcore__e374.dat", "hotwingcore__naca4424.dat"), options, 50, false);
+    VerifierAile(prepare("airfoiloptimiz__clarky.dat", "hotwingcore__goe187.dat"), options, 50, false);
 }
 
 TEST(Interpreteur, ReconnaitLaConsoleDesEchantillons) {
