@@ -172,6 +172,7 @@ int Decouper(const DemandeDecoupe& demande) {
     }
 
     progression.Etape(Dire("assemblage", "assembly"));
+    if (!TransformerTout(demande.transformations, espace.TableauSequences)) return StatutRefuse;
     Placer(demande, espace);
     const OptionsDecoupe2D options = OptionsDeDecoupe(demande, espace);
     const Decoupe2D decoupe = AssemblerDecoupe2D(espace.TableauSequences, options, TableINI);

@@ -1,6 +1,7 @@
 // A cut from the command line: what is asked, and the doing of it; a 4-axis one goes on in decoupe4x_lot.
 #pragma once
 
+#include "transformations_lot.h"
 #include "work2d/placement.h"
 
 #include <optional>
@@ -31,6 +32,7 @@ struct DemandeDecoupe {
     std::string matiere; // empty: that of the settings
     std::optional<Bloc> bloc;
     bool blocAuto = false;
+    TransformationsLot transformations;
     ReglesPlacement regles; // margins are filled in from the settings
     int decalage = 0;       // as CoteDecalage2D
     int entree = -1;        // -1: that of the project

@@ -106,8 +106,9 @@ void DeclarerSorties(CLI::App& verbe, DemandeDecoupe& demande) {
 }
 
 std::string Option2DDonnee(const CLI::App& verbe) {
-    for (const char* nom : {"--bloc", "--ajuster", "--centrer-x", "--centrer-y", "--decalage", "--entree",
-                            "--sortie", "--approche", "--retour", "--dxf"})
+    for (const char* nom :
+         {"--bloc", "--ajuster", "--centrer-x", "--centrer-y", "--decalage", "--entree", "--sortie",
+          "--approche", "--retour", "--dxf", "--miroir", "--tourner", "--largeur", "--hauteur", "--inverser"})
         if (verbe.get_option(nom)->count() > 0) return nom;
     return "";
 }
@@ -120,6 +121,7 @@ void DeclarerDecouper(CLI::App& programme, const ChoisirAction& choisir) {
                                         "Prepares a 2D or 4-axis cut: summary, Gcode, DXF, preview"));
     const auto demande = std::make_shared<DemandeDecoupe>();
     DeclarerEntrees(*verbe, *demande);
+    DeclarerTransformations(*verbe, demande->transformations);
     DeclarerPlacement(*verbe, *demande);
     DeclarerCoupe(*verbe, *demande);
     DeclarerSorties(*verbe, *demande);

@@ -4,6 +4,7 @@
 #include "app/texts/textes_programme.h"
 #include "platform/dialogue.h"
 #include "platform/nombres.h"
+#include "work2d/affichage.h"
 
 #include <algorithm>
 
@@ -115,11 +116,9 @@ void AjusterAuBloc(std::vector<Sequence>& sequences, const Bloc& bloc, const Reg
 
 Bloc BlocAuto(std::vector<Sequence>& sequences, const ReglesPlacement& regles, const TableMachine& table,
               float& coeffTransf) {
-    // Without a path the framing is the table.
-    Etendue cadre = {0, EnSimple(table.CourseX), 0, EnSimple(table.CourseY)};
-    if (OntDesPoints(sequences)) cadre = CadrageSequences(sequences);
-    const Bloc bloc = {std::max(cadre.XMax - cadre.XMin, CoteMinimal),
-                       std::max(cadre.YMax - cadre.YMin, CoteMinimal)};
+    const ZoneVisible zone = CalculerZoneVisible(sequences, table);
+    const Bloc bloc = {std::max(zone.ZoneVisibleXMax - zone.ZoneVisibleXMin, CoteMinimal),
+                       std::max(zone.ZoneVisibleYMax - zone.ZoneVisibleYMin, CoteMinimal)};
     AjusterAuBloc(sequences, bloc, regles, table, coeffTransf);
     return bloc;
 }

@@ -53,7 +53,7 @@ frmTessarel2D::frmTessarel2D(QWidget* parent) : QMainWindow(parent) {
     RemplirMatieres();
     Relier();
     RendreLargeurs();
-    pctSequTS2D->FixerCadreComplet(CadreTable(TableINI));
+    CalculAffichageInitialTS2D();
     pctDecoupe->FixerCadreComplet(CadreTable(TableINI));
     FermerDecoupe();
     MontrerTout();

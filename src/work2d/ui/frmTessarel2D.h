@@ -117,7 +117,9 @@ private:
     [[nodiscard]] ReglesPlacement Regles() const;
     void MontrerBloc();
     void TraceSequTS2D();
+    void CalculAffichageInitialTS2D();
     void ZoomAutoToutVoir();
+    void TraceTableTS2D(double xMin, double xMax, double yMin, double yMax);
     [[nodiscard]] OptionsDessin OptionsAffichage(const Canevas& canevas) const;
     // After any change of the project: title, buttons, status bar.
     void MontrerEtat();

@@ -148,9 +148,8 @@ void frmTessarel2D::FermerApercu() {
     bandeauApercu->hide();
     ChangerAcces();
     raccourciFermerApercu->setEnabled(false);
-    pctSequTS2D->FixerCadreComplet(CadreTable(TableINI));
     TraceSequTS2D();
-    pctSequTS2D->ZoomTout();
+    CalculAffichageInitialTS2D();
     ZoomAutoToutVoir();
 }
 

@@ -4,6 +4,7 @@
 #include "platform/dialogue.h"
 #include "ui/canevas.h"
 #include "ui/champ_nombre.h"
+#include "work2d/affichage.h"
 #include "work2d/options_decoupe.h"
 #include "work2d/ui/atelier_2d.h"
 #include "work2d/ui/frmTessarel2D.h"
@@ -13,23 +14,12 @@
 #include <QLabel>
 #include <QToolButton>
 
-#include <algorithm>
-
 namespace tessarel {
 
 namespace {
 
 // "L'opération demandée est impossible, une dimension est égale à zéro."
 constexpr int DoublesDimensionNulle = 16;
-// Least width and height that a zoom on the paths shows, mm: a single point has none of its own.
-constexpr double CoteMiniZoom = 5;
-
-void Epaissir(double& bas, double& haut) {
-    if (haut - bas >= CoteMiniZoom) return;
-    const double milieu = (bas + haut) / 2;
-    bas = milieu - CoteMiniZoom / 2;
-    haut = milieu + CoteMiniZoom / 2;
-}
 
 } // namespace
 
@@ -57,7 +47,7 @@ void frmTessarel2D::AjusterBlocAuto() {
     m_atelier->OublierSiInchange();
     MontrerTout();
     if (chkZoomProjet->isChecked()) {
-        pctSequTS2D->Cadrer({0, m_espace.bloc.BlocX, 0, m_espace.bloc.BlocY});
+        TraceTableTS2D(0, m_espace.bloc.BlocX, 0, m_espace.bloc.BlocY);
     }
     MarquerModifie();
 }
@@ -116,21 +106,22 @@ void frmTessarel2D::TraceSequTS2D() {
     pctSequTS2D->Montrer(Canevas::CoucheTrace, std::move(traces));
 }
 
+// The table whole, as a project opens.
+void frmTessarel2D::CalculAffichageInitialTS2D() {
+    pctSequTS2D->FixerCadreComplet(CadreTable(TableINI));
+    pctSequTS2D->ZoomTout();
+}
+
 void frmTessarel2D::ZoomAutoToutVoir() {
     if (!chkZoomProjet->isChecked() || m_apercu) return;
-    CadreDessin cadre{0, static_cast<double>(TableINI.CourseX), 0, static_cast<double>(TableINI.CourseY)};
-    if (!m_espace.TableauSequences.empty()) {
-        // The framing of the paths, as far as the table reaches.
-        const Etendue etendue = CadrageSequences(m_espace.TableauSequences);
-        const CadreDessin vu{
-            std::max<double>(etendue.XMin, 0), std::min<double>(etendue.XMax, TableINI.CourseX),
-            std::max<double>(etendue.YMin, 0), std::min<double>(etendue.YMax, TableINI.CourseY)};
-        const bool surLaTable = vu.XMin <= vu.XMax && vu.YMin <= vu.YMax;
-        cadre = surLaTable ? vu : CadreDessin{etendue.XMin, etendue.XMax, etendue.YMin, etendue.YMax};
-    }
-    Epaissir(cadre.XMin, cadre.XMax);
-    Epaissir(cadre.YMin, cadre.YMax);
-    pctSequTS2D->Cadrer(cadre);
+    const ZoneVisible zone = CalculerZoneVisible(m_espace.TableauSequences, TableINI);
+    const CadreDessin cadre = CadreToutVoir(zone, TableINI);
+    TraceTableTS2D(cadre.XMin, cadre.XMax, cadre.YMin, cadre.YMax);
+}
+
+// The scale for a window of the table.
+void frmTessarel2D::TraceTableTS2D(double xMin, double xMax, double yMin, double yMax) {
+    pctSequTS2D->Cadrer({xMin, xMax, yMin, yMax});
 }
 
 } // namespace tessarel
