@@ -72,6 +72,13 @@ bool VeutLisere(Couleur couleur, std::size_t points, const OptionsDessin& option
     return options.sombre && points <= PointsMaxLisere && Luminance(couleur) < LuminanceSombre;
 }
 
+// Arrows and first points have no edge: where their path needs one they are lighter instead.
+Couleur CouleurMarques(Couleur couleur, std::size_t points, const OptionsDessin& options) {
+    if (!VeutLisere(couleur, points, options)) return couleur;
+    const auto eclaircir = [](std::uint8_t v) { return static_cast<std::uint8_t>((v + 255) / 2); };
+    return {eclaircir(couleur.rouge), eclaircir(couleur.vert), eclaircir(couleur.bleu), couleur.opacite};
+}
+
 void OuvrirTrait(Dessin& dessin, Couleur couleur, float epaisseur, bool tirets = false) {
     TraitDessin trait;
     trait.premier = static_cast<std::uint32_t>(dessin.points.size());
@@ -277,10 +284,11 @@ void DessinerSequences(Dessin& dessin, std::span<const Sequence> sequences, cons
         if (VeutLisere(couleur, points, options))
             AjouterPolyligne(dessin, sequence.Points, CouleurLisere, EpaisseurLisere, false);
         AjouterPolyligne(dessin, sequence.Points, couleur, EpaisseurNormale, false);
-        AjouterFleches(dessin, sequence.Points, options.voirSens ? FlechesDuSens : 1, couleur);
+        const Couleur marques = CouleurMarques(couleur, points, options);
+        AjouterFleches(dessin, sequence.Points, options.voirSens ? FlechesDuSens : 1, marques);
         const PointProfil& premier = sequence.Points.front();
-        AjouterMarque(dessin, GenreMarque::PremierPoint, premier.X, premier.Y, TaillePremierPoint, couleur);
-        if (options.voirPoints) AjouterPoints(dessin, sequence.Points, couleur);
+        AjouterMarque(dessin, GenreMarque::PremierPoint, premier.X, premier.Y, TaillePremierPoint, marques);
+        if (options.voirPoints) AjouterPoints(dessin, sequence.Points, marques);
     }
 }
 
@@ -302,11 +310,12 @@ void DessinerDecoupe(Dessin& dessin, const Decoupe2D& decoupe, const OptionsDess
     DessinerPartie(dessin, milieu, CouleurPremiereSequence, options);
     DessinerPartie(dessin, apres, CouleurSortie, options);
     AjouterFleches(dessin, avant, 1, CouleurEntree);
-    AjouterFleches(dessin, milieu, FlechesDuChemin, CouleurPremiereSequence);
+    const Couleur marques = CouleurMarques(CouleurPremiereSequence, milieu.size(), options);
+    AjouterFleches(dessin, milieu, FlechesDuChemin, marques);
     AjouterFleches(dessin, apres, 1, CouleurSortie);
     AjouterMarque(dessin, GenreMarque::PremierPoint, points[contact].X, points[contact].Y, TaillePremierPoint,
-                  CouleurPremiereSequence);
-    if (options.voirPoints) AjouterPoints(dessin, milieu, CouleurPremiereSequence);
+                  marques);
+    if (options.voirPoints) AjouterPoints(dessin, milieu, marques);
 }
 
 } // namespace tessarel

@@ -123,6 +123,9 @@ TEST(DessinTable, SurFondSombreLesCheminsGardentLeursCouleursPasLesRegles) {
     EXPECT_EQ(fonce.traits[0].epaisseur, 3);
     EXPECT_GT(fonce.traits[0].couleur.vert, 200);
     EXPECT_EQ(PointsDuTrait(fonce, fonce.traits[0]), PointsDuTrait(fonce, fonce.traits[1]));
+    // Its marks are halfway to white.
+    EXPECT_EQ(clair.marques[0].couleur, (Couleur{144, 0, 82}));
+    EXPECT_EQ(fonce.marques[0].couleur, (Couleur{199, 127, 168}));
 }
 
 TEST(DessinTable, UneCouleurClaireNAPasBesoinDeLisere) {
