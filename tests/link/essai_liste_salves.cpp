@@ -159,6 +159,15 @@ TEST(PositionAuStop, EntreLesDeuxSommetsDeLaSalve) {
     EXPECT_EQ(PositionAuStop(liste.trajet, liste.salves, 4, 279508).pas, (PasAxes{6400, 3200, 6400, 3200}));
 }
 
+TEST(PositionAuStop, LeTickEnCoursNEstPasFait) {
+    Salve salve;
+    EcrireOctets32(salve.octets, SalvePositionNBRt, 4);
+    EXPECT_EQ(FractionFaite(salve, 3), 0);
+    EXPECT_EQ(FractionFaite(salve, 1), 0.5);
+    EXPECT_EQ(FractionFaite(salve, 0), 0.75);
+    EXPECT_EQ(FractionFaite(Salve{}, 0), std::nullopt);
+}
+
 TEST(PositionAuStop, PendantLaPauseLeFilEstAuPremierSommet) {
     const ListeDeDecoupe liste = PreparerSalves(Chemin(), 2, 65, Machine());
     const PositionDuFil position = PositionAuStop(liste.trajet, liste.salves, 1, 50000);

@@ -125,7 +125,10 @@ TEST(Salve, ChaqueAxeASesConstantes) {
 TEST(Salve, LesLongueursSontSimples) {
     // 32 steps = 0.1 mm, which in 32 bits is a little more: 1250 ticks become 1251.
     EXPECT_EQ(NBRtDeSalve(Construire(4, 4, 4, {32, 0, 0, 0})), 1251U);
-    EXPECT_EQ(NBRtDeSalve(Construire(4, 4, 4, {16, 0, 0, 0})), 626U);  // 0.05, likewise: 625
+    EXPECT_EQ(NBRtDeSalve(Construire(4, 4, 4, {16, 0, 0, 0})), 626U); // 0.05, likewise: 625
+    // So is each coordinate: 4.715625 and 7.053125 mm become 4.71562481 and 7.05312490, and the length of
+    // both 8.48431969 in place of 8.48432064: 106054 ticks, not 106055.
+    EXPECT_EQ(NBRtDeSalve(Construire(4, 4, 4, {1509, 2257, 0, 0})), 106054U);
     EXPECT_EQ(NBRtDeSalve(Construire(4, 4, 4, {40, 0, 0, 0})), 1563U); // 0.125 exactly: 1562.5
 }
 
