@@ -26,6 +26,9 @@ constexpr int RegardsImmobiles = 50;
 // Status requests after an S before it is sent again: carriages take a while to slow down.
 constexpr int StatutsAvantNouvelArret = 100;
 constexpr int EssaisDeSecours = 5;
+// An open queue takes its first frame. One that refuses it again and again was closed by the STOP button or
+// by a power cut; once alone may be noise.
+constexpr int RefusPourConclure = 20;
 
 // One command without a box: what is lost here is tried again, and told in its own way.
 bool Envoyer(std::uint8_t code, std::uint8_t arg1 = 0) {
@@ -52,10 +55,12 @@ struct Marche {
     std::span<const Salve> salves;
     const SuiviMarche& suivi;
     EchecsConsecutifs echecs = {};
-    std::size_t prochaine = 0; // frames accepted so far; the one of this index is the next to send
-    bool doute = false;        // that one may be in the queue already
-    int regards = 0;           // looks at an unchanged status while in doubt
-    Instant depuis{0};         // of the first of them
+    std::size_t prochaine = 0;   // frames accepted so far; the one of this index is the next to send
+    bool finAvantDepart = false; // what the status said of an end and of a frame while the queue was filled
+    std::int32_t numeroAvantDepart = 0;
+    bool doute = false; // that one may be in the queue already
+    int regards = 0;    // looks at an unchanged status while in doubt
+    Instant depuis{0};  // of the first of them
     ResultatMarche resultat = {};
 };
 
@@ -109,14 +114,17 @@ bool Remplir(Marche& m) {
         m.prochaine = 0;
         bool reussi = Envoyer(CommandeFile, 0) && Envoyer(CommandeFile, 1);
         bool pleine = false;
+        int refus = 0; // of the first frame, by a box that stands
         while (reussi && !pleine && m.prochaine < m.salves.size()) {
             ChargerSalveDansTampon(TamponEchange, m.salves[m.prochaine]);
             reussi = Echanger();
             if (!reussi) break;
             const StatutZelko statut = LireStatut(TamponEchange);
+            m.finAvantDepart = statut.Fini;
+            m.numeroAvantDepart = statut.NumeroSalve;
             if (statut.SalveAcceptee)
                 ++m.prochaine;
-            else if (m.prochaine == 0 && statut.Fini)
+            else if (m.prochaine == 0 && statut.Fini && ++refus > RefusPourConclure)
                 return Arreter(m, statut); // the STOP button, or its power: the queue is closed again
             else
                 pleine = m.prochaine > 0; // an empty queue that refuses is asked again
@@ -143,7 +151,8 @@ bool Demarrer(Marche& m) {
             if (ArretVoulu(m.suivi)) return true;
             statut = DemanderStatut();
         }
-        if (statut.NumeroSalve > 0 || statut.Fini) return true;
+        // The run was seen to begin, or to be over already, by anything that has changed.
+        if (statut.Fini != m.finAvantDepart || statut.NumeroSalve != m.numeroAvantDepart) return true;
     }
     return true;
 }

@@ -268,6 +268,32 @@ TEST_F(Envoi, UneSalveSansDureeArreteLaMarche) {
     EXPECT_TRUE(envoi.chauffeCoupee);
 }
 
+TEST_F(Envoi, UnDepartPerduEstRepeteMemeSiLeStatutEstCeluiDAvant) {
+    // A box that shows the end of the run before, number included, until the next one begins; it does not
+    // hear the first B 128.
+    bool marche = false;
+    int departs = 0;
+    int restants = 0;
+    RemplacerZelkoCom({VersionMinimaleZelko, [] { return ZelkoBranchee; },
+                       [&](Tampon& t) -> std::int32_t {
+                           const std::uint8_t code = t[1];
+                           const std::uint8_t arg = t[2];
+                           if (code == 'B' && arg == 128 && ++departs == 1) return -202;
+                           if (code == 'B' && arg == 128) marche = (restants = 5) > 0;
+                           if (code == 'I' && marche) marche = --restants > 0;
+                           t.fill(0);
+                           t[2] = code == 'D' ? 1 : 0;
+                           t[4] = code == 'P' ? 0 : 1;
+                           t[12] = marche ? 0 : 2 + 128;
+                           return ResultatZelkoSucces;
+                       }});
+    const ResultatEnvoi envoi = Envoyer(Liste());
+    EXPECT_EQ(departs, 2);
+    EXPECT_EQ(restants, 0);
+    EXPECT_EQ(envoi.marche.fin, FinMarche::Finie);
+    EXPECT_TRUE(envoi.marche.statut.FinDeListe);
+}
+
 TEST_F(Envoi, BoitierDebranchePuisRebrancheFinitSansRienDoubler) {
     m_poste.boite.FixerCapaciteFile(4);
     m_poste.boite.Programmer(
