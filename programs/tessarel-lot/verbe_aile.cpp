@@ -119,8 +119,20 @@ void DeclarerFichiers(CLI::App& verbe, DemandeAile& demande) {
 
 void DeclarerDimensions(CLI::App& verbe, DemandeAile& demande) {
     PlanAile& plan = demande.plan;
+    // Comma or point, as in the fields of the windows.
+    const auto nombre = [&](const char* option, auto& valeur, const std::string& description) {
+        return verbe.add_option_function<std::string>(
+            option,
+            [&valeur, option](const std::string& texte) {
+                const std::optional<double> lu = LireDecimal(texte);
+                if (!lu)
+                    throw CLI::ValidationError(option, texte + Dire(" n'est pas un nombre", " is no number"));
+                valeur = *lu;
+            },
+            description);
+    };
     const auto longueur = [&](const char* option, auto& valeur, const char* francais, const char* english) {
-        return verbe.add_option(option, valeur, Dire(francais, english))->type_name("MM");
+        return nombre(option, valeur, Dire(francais, english))->type_name("MM");
     };
     longueur("--corde,--chord", plan.Corde, "Corde d'emplanture", "Chord of the root")->required();
     longueur("--corde-saumon,--tip-chord", demande.cordeSaumon, "Corde de saumon ; sinon celle d'emplanture",
@@ -130,17 +142,13 @@ void DeclarerDimensions(CLI::App& verbe, DemandeAile& demande) {
         ->required();
     longueur("--fleche,--sweep", plan.Fleche, "Recul du bord d'attaque du saumon ; 0 sinon",
              "How far the tip's leading edge stands back (default: 0)");
-    verbe
-        .add_option(
-            "--diedre,--dihedral", plan.DiedreMm,
-            Dire("Hauteur du point bas du saumon sur celui de l'emplanture ; sinon les cordes restent à la "
-                 "hauteur où elles sont dessinées",
-                 "Height of the tip's lowest point over the root's (default: chords stay as drawn)"))
-        ->type_name("MM");
-    verbe
-        .add_option("--vrillage,--twist", plan.Vrillage,
-                    Dire("Vrillage du saumon autour de son bord d'attaque, positif nez vers le haut",
-                         "Twist of the tip about its leading edge, positive nose up"))
+    longueur("--diedre,--dihedral", plan.DiedreMm,
+             "Hauteur du point bas du saumon sur celui de l'emplanture ; sinon les cordes restent à la "
+             "hauteur où elles sont dessinées",
+             "Height of the tip's lowest point over the root's (default: chords stay as drawn)");
+    nombre("--vrillage,--twist", plan.Vrillage,
+           Dire("Vrillage du saumon autour de son bord d'attaque, positif nez vers le haut",
+                "Twist of the tip about its leading edge, positive nose up"))
         ->type_name("DEG");
     verbe
         .add_option(

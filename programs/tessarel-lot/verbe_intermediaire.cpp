@@ -30,11 +30,10 @@ int Remplacer(const DemandeIntermediaire& demande) {
     ProjetCPX& conception = projet->conception.projet;
     ProfilIntermediaire intermediaire;
     if (!CalculerProfilIntermediaire(conception, *distance, intermediaire)) return StatutRefuse;
-    // A distance of 0 leaves the project as it is.
-    if (demande.vers == 0)
-        cmdIntermediaireToEmplanture(conception, intermediaire);
-    else
-        cmdIntermediaireToSaumon(conception, intermediaire);
+    const bool fait = demande.vers == 0 ? cmdIntermediaireToEmplanture(conception, intermediaire)
+                                        : cmdIntermediaireToSaumon(conception, intermediaire);
+    // A distance of 0 leaves the project as it is; any other refusal has told why.
+    if (!fait && intermediaire.DistanceIntermediaire != 0) return StatutRefuse;
     if (!EcrireProjet4x(*projet, demande.sortie, progression)) return StatutRefuse;
     Progression::Effacer();
     return Imprimer(LigneResume(Dire("Fichier", "File"), demande.entree) +

@@ -1,10 +1,13 @@
 // From two profiles to a wing.
 #include "aile_neuve.h"
 
+#include "app/texts/textes.h"
+#include "app/texts/textes_programme.h"
 #include "design4x/aile.h"
 #include "design4x/bloc.h"
-#include "design4x/selection.h"
+#include "design4x/boites_cpx.h"
 #include "paths/aile_importee.h"
+#include "platform/dialogue.h"
 
 #include <algorithm>
 
@@ -22,6 +25,10 @@ void Prendre(const ProfilLu& lu, ProfilCPX& profil) {
 bool ConstruireAile(const ProfilLu& emplanture, const ProfilLu& saumon, const PlanAile& plan,
                     ProjetCPX& projet) {
     projet = {};
+    if (!(plan.Corde > 0) || !(plan.CordeSaumon > 0)) {
+        AfficherCritique(Texte(TexteProgramme::CordeTropPetite), TitresMessages(MessageNombreAttendu));
+        return false;
+    }
     Prendre(emplanture, projet.E);
     Prendre(saumon, projet.S);
     CalculerExtremesCPX(projet);

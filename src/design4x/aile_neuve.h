@@ -28,7 +28,7 @@ struct PlanAile {
 };
 
 // Chords, spacing, twist of the tip, sweep, dihedral and block, in this order, each by its tool. False after
-// the box of the tool that refuses; `projet` then is of no use.
+// the box of the tool that refuses, or of a chord that is not above 0; `projet` then is of no use.
 bool ConstruireAile(const ProfilLu& emplanture, const ProfilLu& saumon, const PlanAile& plan,
                     ProjetCPX& projet);
 

@@ -7,6 +7,7 @@
 #include "design4x/compteurs.h"
 #include "platform/dialogue.h"
 
+#include <array>
 #include <charconv>
 #include <optional>
 #include <utility>
@@ -32,7 +33,22 @@ void ChargerProjetCPX(ConceptionCPX& conception, ProjetCPX projet) {
     InitialiserScrollbarsSuivantNbPoints(conception.projet);
     conception.ProjetCharge = true;
     conception.historique = {};
+    MemoPourUndo(conception);
+}
+
+void MemoPourUndo(ConceptionCPX& conception) {
+    std::array<bool, 3>& options = conception.projet.Options.optSelection;
+    for (std::size_t i = 0; i < options.size(); ++i)
+        options[i] = conception.ModeSelection == ModesSelection[i];
     MemoPourUndo(conception.historique, conception.projet);
+}
+
+bool cmdUndoCPX(ConceptionCPX& conception, int index) {
+    if (!cmdUndoCPX(conception.historique, conception.projet, index)) return false;
+    const std::array<bool, 3>& options = conception.projet.Options.optSelection;
+    for (std::size_t i = 0; i < options.size(); ++i)
+        if (options[i]) conception.ModeSelection = ModesSelection[i];
+    return true;
 }
 
 bool NouveauProjet4X(ConceptionCPX& conception, bool pourInsertion) {
@@ -56,9 +72,9 @@ bool NouveauProjet4X(ConceptionCPX& conception, bool pourInsertion) {
 }
 
 bool AppliquerOutilCPX(ConceptionCPX& conception, const OutilCPX& outil, int index, double valeur) {
-    if (outil.memoAvant) MemoPourUndo(conception.historique, conception.projet);
+    if (outil.memoAvant) MemoPourUndo(conception);
     const bool fait = outil.appliquer(conception, index, valeur);
-    if (fait && outil.memoApres) MemoPourUndo(conception.historique, conception.projet);
+    if (fait && outil.memoApres) MemoPourUndo(conception);
     return fait;
 }
 

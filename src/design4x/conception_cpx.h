@@ -27,6 +27,11 @@ struct ConceptionCPX {
 // undo store with this one state.
 void ChargerProjetCPX(ConceptionCPX& conception, ProjetCPX projet);
 
+// MemoPourUndo and cmdUndoCPX of a session: the selection mode goes into the options of the state, and comes
+// back with them where it is one of optSelection(0) to (2).
+void MemoPourUndo(ConceptionCPX& conception);
+bool cmdUndoCPX(ConceptionCPX& conception, int index);
+
 // Empties the project, after the question when one is loaded; spacing and block values return to those of a
 // new project, but stay when it is done `pourInsertion` of a profile (no question then). False when the user
 // says No.

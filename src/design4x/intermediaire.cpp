@@ -20,6 +20,10 @@ bool Remplacer(ProjetCPX& projet, ProfilCPX& profil, ProfilIntermediaire& interm
     if (intermediaire.DistanceIntermediaire == 0 || !intermediaire.Present() ||
         intermediaire.Points.size() != profil.Points.size())
         return false;
+    if (!(ecartement > 0)) {
+        BoiteArret(MessageEcartementNul);
+        return false;
+    }
     for (std::size_t k = 0; k < profil.Points.size(); ++k)
         intermediaire.Points[k].Drapeaux = profil.Points[k].Drapeaux;
     profil.Points = std::move(intermediaire.Points);

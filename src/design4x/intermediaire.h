@@ -22,7 +22,8 @@ bool CalculerProfilIntermediaire(const ProjetCPX& projet, double distance,
 
 // It takes the place of the root, or of the tip, with the flags of the profile that it replaces; the spacing
 // becomes what is left, or the distance. The measures are refreshed and `intermediaire` is emptied. False,
-// and nothing changed, when the distance is 0 or the profile is absent.
+// and nothing changed, when the distance is 0 or the profile is absent, and after the box of a spacing that
+// would not be above 0.
 bool cmdIntermediaireToEmplanture(ProjetCPX& projet, ProfilIntermediaire& intermediaire);
 bool cmdIntermediaireToSaumon(ProjetCPX& projet, ProfilIntermediaire& intermediaire);
 

@@ -21,8 +21,8 @@ inline constexpr std::uint16_t DrapeauAlignement = 2; // reference of cmdAligner
 inline constexpr std::uint16_t DrapeauSynchro = 4;    // end of a section to synchronise
 inline constexpr std::uint16_t DrapeauArret = 8;      // the cut stops here
 inline constexpr std::uint16_t DrapeauSansDecalage =
-    16;                                               // no kerf offset on the segment between two such points
-inline constexpr std::uint16_t DrapeauCorde = 32;     // defines the chord or the height
+    16;                                           // no kerf offset on the segment between two such points
+inline constexpr std::uint16_t DrapeauCorde = 32; // defines the chord or the height
 // DrapeauConserve, 128, the scratch bit of the cleaning tools, is that of paths/geometrie.h.
 
 struct PointEspace {

@@ -13,6 +13,12 @@ namespace tessarel {
 namespace {
 
 constexpr int TourComplet = 360;
+// Of the arrow beside the block, mm: how far it stands from the corner, its size, and how far beyond the
+// planes.
+constexpr double MarqueLoin = 10;
+constexpr double MarquePres = 2;
+constexpr double MarqueHaut = 8;
+constexpr double MarqueAuDela = 5;
 // A step of hscZoom in and out.
 constexpr double PasZoomAvant = 1.1;
 constexpr double PasZoomArriere = 0.9;
@@ -54,7 +60,8 @@ void VersEcran(const VueCPX& vue, TraceVue& trace) {
 }
 
 void ToutVersEcran(VueCPX& vue) {
-    for (TraceVue* trace : {&vue.E, &vue.S, &vue.BlocE, &vue.BlocS, &vue.Intermediaire})
+    for (TraceVue* trace :
+         {&vue.E, &vue.S, &vue.BlocE, &vue.BlocS, &vue.Intermediaire, &vue.MarqueE, &vue.MarqueS})
         VersEcran(vue, *trace);
 }
 
@@ -135,6 +142,18 @@ PointEspace ProjeterPoint(const VueCPX& vue, const ProjetCPX& projet, double x, 
     return Projection(vue, projet).Projeter(x, y, z);
 }
 
+std::vector<PointEspace> MarqueEntree(const ProjetCPX& projet) {
+    const ProfilCPX* bout = nullptr;
+    for (const ProfilCPX* profil : {&projet.E, &projet.S})
+        if (!profil->Points.empty() && (bout == nullptr || profil->Bloc[0].X < bout->Bloc[0].X))
+            bout = profil;
+    if (bout == nullptr) return {};
+    const PointEspace& coin = bout->Bloc[0];
+    return {{coin.X - MarqueLoin, coin.Y, 0},
+            {coin.X - MarquePres, coin.Y, 0},
+            {coin.X - MarquePres, coin.Y + MarqueHaut, 0}};
+}
+
 PointEcran VersEcran(const VueCPX& vue, const PointEspace& projete) {
     const double echelle = static_cast<double>(vue.Echelle);
     return {(projete.X - vue.CentreVueX) * echelle + vue.OrigineEcranX,
@@ -149,6 +168,9 @@ void CalculerCoordonneesPerspectiveCPX(VueCPX& vue, const ProjetCPX& projet, boo
     ProjeterTrace(vue.S, projection, projet.S.Points, -h);
     ProjeterTrace(vue.BlocE, projection, std::span(projet.E.Bloc).first(NombreBloc(projet.E)), h);
     ProjeterTrace(vue.BlocS, projection, std::span(projet.S.Bloc).first(NombreBloc(projet.S)), -h);
+    const std::vector<PointEspace> marque = MarqueEntree(projet);
+    ProjeterTrace(vue.MarqueE, projection, marque, h + MarqueAuDela);
+    ProjeterTrace(vue.MarqueS, projection, marque, -h - MarqueAuDela);
     if (intermediaire != nullptr && intermediaire->Present())
         ProjeterTrace(vue.Intermediaire, projection, intermediaire->Points,
                       h - static_cast<double>(intermediaire->DistanceIntermediaire));

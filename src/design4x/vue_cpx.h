@@ -45,6 +45,8 @@ struct VueCPX {
     TraceVue BlocE;
     TraceVue BlocS;
     TraceVue Intermediaire; // empty when there is none
+    TraceVue MarqueE;       // the arrow at the side where the wire comes in, 5 mm beyond the root's plane
+    TraceVue MarqueS;       // and beyond the tip's
 };
 
 // A named view sets both angles; a fit follows.
@@ -72,6 +74,9 @@ void CalculerCoordonneesPerspectiveCPX(VueCPX& vue, const ProjetCPX& projet, boo
 
 // One point in the plane `z`, in mm of the projected plane.
 PointEspace ProjeterPoint(const VueCPX& vue, const ProjetCPX& projet, double x, double y, double z);
+// The arrow beside the foot of the block, at the end that reaches further to the left: it points at the side
+// where the wire comes in, and nothing is computed from it. None without points.
+std::vector<PointEspace> MarqueEntree(const ProjetCPX& projet);
 // From the projected plane to the picture.
 PointEcran VersEcran(const VueCPX& vue, const PointEspace& projete);
 

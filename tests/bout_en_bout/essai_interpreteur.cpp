@@ -165,6 +165,39 @@ TEST(Interpreteur, ReconnaitUneAileDeDeuxProfilsDAutrui) {
     VerifierAile(prepare("airfoiloptimiz__clarky.dat", "hotwingcore__goe187.dat"), options, 50, false);
 }
 
+// From two airfoil files of different point counts, of other people's making, to what a controller moves.
+TEST(Interpreteur, ReconnaitDesAilesDeProfilsDAutrui) {
+    if (!ProgrammePresent("rs274")) GTEST_SKIP() << "rs274 (Debian package linuxcnc-uspace) is not installed";
+    const std::string corpus = DossierCorpus(TESSAREL_RACINE);
+    if (corpus.empty()) GTEST_SKIP() << "no folder of foreign files beside the checkout";
+    using Paire = std::pair<std::string, std::string>;
+    for (const auto& [emplanture, saumon] : {Paire("airfoiloptimiz__clarky", "hotwingcore__e374"),
+                                             Paire("bladeelementmo__e193", "gmshairfoil2d__naca0010"),
+                                             Paire("winggcode__mh30", "openscadairfoi__rcf517")}) {
+        const DossierProvisoire travail;
+        std::filesystem::create_directories(travail.Fichier("doc/Tessarel/Datas"));
+        EcrireTout(travail.Fichier("doc/Tessarel/Datas/Tessarel.ini"), std::string(REGLAGES) + MOTEURS);
+        const Execution aile =
+            Executer("tessarel-lot --documents doc aile --emplanture '" + corpus + "/dat/" + emplanture +
+                         ".dat' --saumon '" + corpus + "/dat/" + saumon +
+                         ".dat' --corde 220 --corde-saumon 150,5 --ecartement 400 --fleche 25 "
+                         "--vrillage -1.5 --bloc-auto 5 --synchroniser aile.tsr",
+                     travail.Chemin());
+        ASSERT_EQ(aile.statut, 0) << aile.erreurs;
+        const Execution lot =
+            Executer("tessarel-lot --documents doc decouper aile.tsr --auto-xy --gcode sortie.gcode",
+                     travail.Chemin());
+        ASSERT_EQ(lot.statut, 0) << emplanture << lot.erreurs;
+        const auto ecrits = MouvementsDuFichier(LireTout(travail.Fichier("sortie.gcode")));
+        ASSERT_GT(ecrits.size(), 80U) << emplanture;
+        EcrireTout(travail.Fichier("variables"), "");
+        const Execution rs274 = Executer("rs274 -g -v variables sortie.gcode", travail.Chemin());
+        EXPECT_EQ(rs274.statut, 0) << rs274.erreurs;
+        EXPECT_EQ(rs274.sortie.find("error"), std::string::npos) << rs274.sortie;
+        EXPECT_EQ(MouvementsInterpretes(rs274.sortie), ecrits) << emplanture;
+    }
+}
+
 TEST(Interpreteur, ReconnaitLaConsoleDesEchantillons) {
     VerifierDecoupe(std::string(TESSAREL_RACINE) + "/samples/console.dxf",
                     "--ajuster --centrer-x --centrer-y --decalage droite --approche rapide --retour rapide");

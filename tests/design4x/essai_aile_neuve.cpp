@@ -81,7 +81,11 @@ TEST(AileNeuve, RefusDesOutils) {
     plan.Ecartement = 0;
     EXPECT_FALSE(ConstruireAile(Racine(), Bout(), plan, p));
     EXPECT_FALSE(ConstruireAile({"x.dat", Points({{5, 5}})}, Bout(), Plan(), p));
-    ASSERT_EQ(b.boites.size(), 2U);
+    plan = Plan();
+    plan.CordeSaumon = -200;
+    EXPECT_FALSE(ConstruireAile(Racine(), Bout(), plan, p));
+    ASSERT_EQ(b.boites.size(), 3U);
+    EXPECT_EQ(b.boites[2].texte, "Une corde doit être supérieure à zéro.");
     EXPECT_EQ(b.boites[0].texte, "Il n'est pas possible d'entrer un écartement négatif ou nul.");
     EXPECT_EQ(b.boites[1].texte, "L'opération demandée est impossible, une dimension est égale à zéro.");
 }

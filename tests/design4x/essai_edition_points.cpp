@@ -150,10 +150,10 @@ TEST(Renumeroter, FermeAMoinsDe25Microns) {
 }
 
 TEST(Renumeroter, OuvertTourneSansSeFermer) {
-    ProjetCPX p = Projet({{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 0.03}}, {});
+    ProjetCPX p = Projet({{0, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 0.026}}, {});
     p.E.PointCourant = 1;
     EXPECT_TRUE(cmdRenumeroter(p));
-    EXPECT_EQ(Etat(p.E), (V{{10, 0, 0}, {10, 10, 0}, {0, 10, 0}, {0, 0.03, 0}, {0, 0, 0}}));
+    EXPECT_EQ(Etat(p.E), (V{{10, 0, 0}, {10, 10, 0}, {0, 10, 0}, {0, 0.026, 0}, {0, 0, 0}}));
 }
 
 TEST(Renumeroter, LaSelectionSeuleTourne) {

@@ -68,6 +68,20 @@ TEST(Intermediaire, ADistanceNulleRien) {
     EXPECT_EQ(p, Aile());
 }
 
+// Nothing is left of the wing beyond the tip, or before the root.
+TEST(Intermediaire, UnEcartementQuiNeResteraitPasEstRefuse) {
+    const essais::BoitesEnregistrees b;
+    ProjetCPX p = Aile();
+    ProfilIntermediaire i;
+    ASSERT_TRUE(CalculerProfilIntermediaire(p, 400, i));
+    EXPECT_FALSE(cmdIntermediaireToEmplanture(p, i));
+    ASSERT_TRUE(CalculerProfilIntermediaire(p, -1, i));
+    EXPECT_FALSE(cmdIntermediaireToSaumon(p, i));
+    EXPECT_EQ(p, Aile());
+    ASSERT_EQ(b.boites.size(), 2U);
+    EXPECT_EQ(b.boites[0].texte, "Il n'est pas possible d'entrer un écartement négatif ou nul.");
+}
+
 TEST(Intermediaire, DemandeDesNombresEgaux) {
     const essais::BoitesEnregistrees b;
     ProfilIntermediaire i;

@@ -91,6 +91,18 @@ TEST(Outils, LeModeDeSelectionSert) {
     EXPECT_EQ(c.historique.PositionUndo, 2);
 }
 
+TEST(Outils, LAnnulationRendLeModeDeSelection) {
+    ConceptionCPX c = Session();
+    Faire(c, {"txtDeplacer", "0", "1"}); // in the mode of the tools
+    Faire(c, {"optSelection", "1"});
+    Faire(c, {"cmdSelectAll", "1"});
+    EXPECT_EQ(c.ModeSelection, DrapeauAlignement);
+    EXPECT_TRUE(Faire(c, {"cmdUndoCPX", "0"}));
+    EXPECT_EQ(c.ModeSelection, DrapeauOutil);
+    EXPECT_TRUE(Faire(c, {"cmdUndoCPX", "1"}));
+    EXPECT_EQ(c.ModeSelection, DrapeauAlignement);
+}
+
 TEST(Outils, LaMesureVaDansLaBarreDEtat) {
     ConceptionCPX c = Session();
     c.projet.S.Points[0].Drapeaux = 1;

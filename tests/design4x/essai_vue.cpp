@@ -77,6 +77,19 @@ TEST(Projection, LesBlocsDansLeursPlansLIntermediaireDansLeSien) {
     EXPECT_TRUE(vue.Intermediaire.Projete.empty());
 }
 
+// The block of the root reaches to -10, further than that of the tip; its foot stands at -10.
+TEST(Projection, LaMarqueCinqMillimetresAuDelaDesPlans) {
+    VueCPX vue = Vue(VueDessus);
+    CalculerCoordonneesPerspectiveCPX(vue, Aile(), false);
+    const std::vector<PointEspace> marque = MarqueEntree(Aile());
+    EXPECT_EQ(marque, (std::vector<PointEspace>{{-20, -10, 0}, {-12, -10, 0}, {-12, -2, 0}}));
+    ASSERT_EQ(vue.MarqueE.Projete.size(), 3U);
+    EXPECT_NEAR(vue.MarqueE.Projete[0].X, -70, 1e-11);
+    EXPECT_NEAR(vue.MarqueE.Projete[0].Y, -255, 1e-11);
+    EXPECT_NEAR(vue.MarqueS.Projete[2].Y, 255, 1e-11);
+    EXPECT_TRUE(MarqueEntree(ProjetCPX()).empty());
+}
+
 TEST(Ecran, LeYDeLImageDescend) {
     VueCPX vue = Vue(VueCote);
     vue.Echelle = 2;

@@ -227,6 +227,8 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
      "The first button of the frame, \"Points for the tools\", must be pressed in order to use the Ctrl key "
      "to "
      "move points."},
+    {TexteProgramme::CordeTropPetite, "Une corde doit être supérieure à zéro.",
+     "A chord must be above zero."},
     {TexteProgramme::OutilInconnu, "Il n'y a pas d'outil nommé %1.", "There is no tool named %1."},
     {TexteProgramme::OutilSansIndice, "%1 demande un indice.", "%1 needs an index."},
     {TexteProgramme::OutilIndice, "%1 : l'indice doit être un nombre de 0 à %2, et non %3.",

@@ -100,6 +100,7 @@ enum class TexteProgramme {
     // 4-axis design
     IntermediaireNombres,
     CtrlSansPremierBouton,
+    CordeTropPetite,
     OutilInconnu,      // %1 control
     OutilSansIndice,   // %1 control
     OutilIndice,       // %1 control, %2 highest index, %3 index given
