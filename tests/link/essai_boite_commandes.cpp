@@ -312,6 +312,15 @@ TEST(BoiteCommandes, LaTableDUneMachineALesOctetsDuFil) {
     EXPECT_EQ(ram.axePresent, (std::array<bool, 4>{true, true, true, true}));
 }
 
+TEST(BoiteCommandes, LesAxesSansSortieSontReconnus) {
+    TableMachine t;
+    LireMachine("QT2d v12", t);
+    const TableRam ram = LireTable(MemoireDeMachine(t));
+    EXPECT_EQ(ram.axePresent, (std::array<bool, 4>{true, true, false, true}));
+    EXPECT_TRUE(ram.switchs);
+    EXPECT_EQ(ram.pasOrigine, (std::array<int, 4>{1600, 1600, 1600, 1600}));
+}
+
 TEST(BoiteCommandes, UneCommandeInconnueEstNoteeEtSansEffet) {
     Poste p;
     p.Envoyer({'Z', 1, 2});

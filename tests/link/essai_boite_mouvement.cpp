@@ -340,6 +340,18 @@ TEST(BoiteMouvement, TrenteMilleSalvesSansUnePerdueNiDoublee) {
     EXPECT_EQ(p.boite.Comptes().pas, pas);
 }
 
+TEST(BoiteMouvement, DesTranchesPlusCourtesQuUneHorlogeSAdditionnent) {
+    Poste p; // a clock lasts 166.7 ns, a tick at 50 kHz 20 microseconds
+    p.Envoyer('B', 1);
+    p.Envoyer(TrameEssai{.drapeaux = 15, .ticks = 100, .pas = {100, 0, 0, 0}});
+    p.Envoyer('B', 128);
+    for (int i = 0; i < 10050; ++i) {
+        p.Attendre(100ns);
+        p.boite.Actualiser();
+    }
+    EXPECT_EQ(p.boite.Position()[0], 50);
+}
+
 TEST(BoiteMouvement, PlusDUnPasParTickSeDitSansPerdreDePas) {
     Poste p;
     p.Envoyer('B', 1);

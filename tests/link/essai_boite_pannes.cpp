@@ -97,6 +97,10 @@ TEST(BoitePannes, UnePanneComptePourSaCommandeSeule) {
     EXPECT_EQ(p.Envoyer({'I', 0, 0}), 1);
     EXPECT_EQ(p.Envoyer({'P', 0, 0}), -203);
     EXPECT_EQ(p.Envoyer({'P', 0, 0}), 1);
+    p.boite.Programmer({.panne = Panne::ReponsePerdue, .echange = 2, .commande = 'O'});
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(p.Envoyer({'I', 0, 0}), 1);
+    EXPECT_EQ(p.Envoyer({'O', 0, 0}), 1) << "the first of its kind";
+    EXPECT_EQ(p.Envoyer({'O', 0, 0}), -203);
 }
 
 TEST(BoitePannes, SansNombreToutesLesReponsesSuivantesSePerdent) {

@@ -128,6 +128,14 @@ TEST(PosteVirtuel, LaMachineNommeeEntreDansLaPremiereMemoireLibre) {
     EXPECT_EQ(b.avertissements.size(), 1U);
     EXPECT_EQ(b.poste->Boite().MecaniqueEnPlace().courseX, 77);
     EXPECT_EQ(b.poste->Boite().MecaniqueEnPlace().courseY, 256);
+    pleines[1][0].fill(0xFF);
+    pleines[1][1].fill(0xFF);
+    pleines[1][2].fill(0xFF);
+    b.poste.reset();
+    EcrireMemoiresZelko(b.options.fichierMemoires, pleines);
+    b.Ouvrir();
+    EXPECT_EQ(NomMemoire(b.poste->Boite().Memoires()[1]), "QT2d v12");
+    EXPECT_EQ(b.poste->Boite().Memoires()[0].parties, pleines[0]);
     b.options.machine = "absente";
     b.poste.reset();
     EXPECT_THROW(b.Ouvrir(), FauteConversion);

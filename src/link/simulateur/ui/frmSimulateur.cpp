@@ -228,6 +228,7 @@ void frmSimulateur::MontrerEtat() {
                                              : Dire("Fin de course : fermée", "Limit loop: closed"));
     const auto teinter = [](QLabel* etiquette, bool alerte) {
         QPalette palette = etiquette->palette();
+        if (palette.color(QPalette::WindowText) == (alerte ? CouleurAlerte() : CouleurAccord())) return;
         palette.setColor(QPalette::WindowText, alerte ? CouleurAlerte() : CouleurAccord());
         etiquette->setPalette(palette);
     };
