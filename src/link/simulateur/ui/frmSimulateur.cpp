@@ -12,7 +12,6 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -38,9 +37,10 @@ constexpr std::chrono::milliseconds AttenteSuivant{1};
 constexpr std::size_t NotesGardees = 400; // waiting for the next picture
 constexpr double PleinPwm = 255;
 constexpr double Facteurs[] = {0.1, 0.5, 1, 2, 5, 10, 20, 50, 100, 1000};
-// Past so many corners the picture of the path is made anew less often.
-constexpr std::size_t CoinsLegers = 4000;
-constexpr std::size_t CoinsParImage = 500;
+// While the wire moves, the picture of a long path is made anew only after this many times what it took:
+// exchanges come first.
+constexpr qint64 ReposTrace = 12;
+constexpr std::size_t CoinsParTour = 8000;
 enum Quand { ToutDeSuite, ALEchange, ALaSalve };
 
 QString Dire(const char* francais, const char* english) {
@@ -162,8 +162,14 @@ void frmSimulateur::Tourner() {
     }
     m_poste.Servir(std::chrono::milliseconds(0));
     MontrerEtat();
-    MontrerVues(false);
     MontrerJournal();
+    // The views are painted whole: the longer the path in them, the more seldom while the wire moves.
+    const std::size_t coins = std::min(m_poste.Boite().Trajet().size(), CoinsDessines);
+    const bool immobile = m_poste.Boite().Etat().file != EtatFile::EnMarche;
+    if (immobile || ++m_tours > coins / CoinsParTour) {
+        m_tours = 0;
+        MontrerVues(false);
+    }
 }
 
 void frmSimulateur::ProvoquerPanne() {
@@ -277,16 +283,18 @@ void frmSimulateur::MontrerVues(bool tout) {
     const EtatBoite e = boite.Etat();
     const std::size_t coins = boite.TrajetOublies() + boite.Trajet().size();
     const bool nouveaux = coins != m_coinsTraces;
-    const std::size_t retard = coins - m_coinsTraces;
-    const bool leger =
-        boite.Trajet().size() < CoinsLegers || retard >= CoinsParImage || e.file != EtatFile::EnMarche;
-    if (tout || (nouveaux && leger)) {
+    const bool aTemps = e.file != EtatFile::EnMarche || m_depuisTrace.nsecsElapsed() >= m_reposTrace;
+    if (tout || (nouveaux && aTemps)) {
+        QElapsedTimer temps;
+        temps.start();
         const std::size_t debut =
             std::min(boite.Trajet().size(),
                      m_premierCoin > boite.TrajetOublies() ? m_premierCoin - boite.TrajetOublies() : 0);
         pctCote->Montrer(Canevas::CoucheTrace,
                          DessinerTrace(m_scene, std::span(boite.Trajet()).subspan(debut)));
         m_coinsTraces = coins;
+        m_reposTrace = ReposTrace * temps.nsecsElapsed();
+        m_depuisTrace.start();
     }
     const bool bouge = e.position != m_montre.position ||
                        std::abs(e.temperature - m_montre.temperature) > 0.002 || e.file != m_montre.file;

@@ -4,6 +4,7 @@
 #include "link/simulateur/poste_virtuel.h"
 #include "link/simulateur/vues_machine.h"
 
+#include <QElapsedTimer>
 #include <QWidget>
 
 #include <array>
@@ -68,8 +69,10 @@ private:
     SceneMachine m_scene;
     EtatBoite m_montre; // last state shown
     bool m_dejaMontre = false;
-    std::size_t m_coinsTraces = 0; // corners of the path in the picture
-    std::uint64_t m_oubliesTraces = 0;
+    std::size_t m_coinsTraces = 0;   // corners of the path in the picture
+    QElapsedTimer m_depuisTrace;     // since that picture was made
+    std::size_t m_tours = 0;         // since the views were painted
+    qint64 m_reposTrace = 0;         // ns until it may be made anew
     std::size_t m_premierCoin = 0;   // corners before it belong to another block
     std::deque<NoteJournal> m_notes; // not yet shown
     std::uint64_t m_notesPassees = 0;
