@@ -7,6 +7,7 @@
 #include "app/texts/textes.h"
 #include "link/etat_interface.h"
 #include "link/memoires.h"
+#include "link/rafraichir.h"
 #include "machine/matieres.h"
 #include "machine/table_machine.h"
 #include "outils/boites.h"

@@ -24,6 +24,8 @@ namespace tessarel {
 
 namespace {
 
+// Row of TextesMessages: its title says that moves are disabled.
+constexpr int RangeePasDInterface = 247;
 constexpr int PeriodeAnimation = 40; // ms
 constexpr double PartParPeriode = 0.05;
 
@@ -58,6 +60,7 @@ void frmD4X_matieres::RelierTest() {
         MontrerTranches();
     });
     connect(m_imageTranches, &VueDessinFixe::FondChange, this, &frmD4X_matieres::MontrerTranches);
+    TimerAnimation.setObjectName(QStringLiteral("TimerAnimation"));
     TimerAnimation.setInterval(PeriodeAnimation);
     connect(&TimerAnimation, &QTimer::timeout, this, &frmD4X_matieres::PasAnimation);
 }
@@ -104,7 +107,7 @@ void frmD4X_matieres::MontrerMouvementsPossibles() {
     cmdStopTranches->setEnabled(enMouvement);
     findChild<QGroupBox*>(QStringLiteral("frameChauffeMatieres"))->setEnabled(MouvementsActifs);
     findChild<QGroupBox*>(QStringLiteral("frameBase"))->setEnabled(!enMouvement);
-    if (!MouvementsActifs) lblEtatTranches->setText(TexteAffiche(TitresMessages(247)));
+    if (!MouvementsActifs) lblEtatTranches->setText(TexteAffiche(TitresMessages(RangeePasDInterface)));
 }
 
 // While nothing was cut yet, the picture shows how the whole test goes.
@@ -150,10 +153,11 @@ void frmD4X_matieres::PasAnimation() {
 }
 
 void frmD4X_matieres::MontrerSaignee() {
-    lblSaignee->setText(
-        QString::fromStdString(TexteSaignee(SaigneeMesuree(Dimensions()[1], txtEpaisseurObtenue->Valeur()))));
-    // At rapid speed nothing is measured.
-    cmdEnvoyerSaignee->setEnabled(VitesseChoisie() != VitesseTranche::Rapide);
+    // Nothing was measured yet, or at rapid speed, where a kerf means nothing.
+    const bool mesuree = txtEpaisseurObtenue->Valeur() > 0;
+    const double saignee = SaigneeMesuree(Dimensions()[1], txtEpaisseurObtenue->Valeur());
+    lblSaignee->setText(mesuree ? QString::fromStdString(TexteSaignee(saignee)) : QStringLiteral(" "));
+    cmdEnvoyerSaignee->setEnabled(mesuree && VitesseChoisie() != VitesseTranche::Rapide);
 }
 
 void frmD4X_matieres::EnvoyerSaignee() {
