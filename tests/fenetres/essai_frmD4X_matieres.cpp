@@ -1,6 +1,6 @@
 // The material window as a person uses it: the base, the import, the slice test with the virtual box, what
 // the measurement gives, and a wire that is cold when the window closes.
-#include "fenetres/boite_virtuelle.h"
+#include "fenetres/boite_des_fenetres.h"
 #include "fenetres/poste_machine.h"
 #include "machine/gestion_matieres.h"
 #include "machine/ui/explications.h"
@@ -64,7 +64,7 @@ void RepondreNom(const QString& nom, QStringList* vu = nullptr) {
 // The machine in memory 1 and the window open.
 struct Test {
     explicit Test(const std::string& fichier = AvecMatieres) : poste(Langue::Francais, fichier) {
-        virtuelle.Memoriser(0, TableINI);
+        virtuelle.Memoriser(TableINI);
         RafraichirUsb("TS2D");
         if (!MouvementsActifs) qFatal("moves are not enabled");
         fenetre = std::make_unique<frmD4X_matieres>();
@@ -73,7 +73,7 @@ struct Test {
     [[nodiscard]] simulateur::PositionPas Position() const { return virtuelle.boite->Position(); }
     [[nodiscard]] QString Etat() const { return Controle<QLabel>(*fenetre, "lblEtatTranches").text(); }
     PosteMachine poste;
-    BoiteVirtuelle virtuelle;
+    BoiteDesFenetres virtuelle;
     std::unique_ptr<frmD4X_matieres> fenetre;
 };
 
@@ -446,8 +446,7 @@ void EssaiMatieres::StopArreteEtUnInterrupteurSeDit() {
     };
     TableMachine avec = TableINI;
     avec.SwitchsActifs = true;
-    test.virtuelle.Memoriser(0, avec);
-    test.virtuelle.boite->ChargerEnRam(0);
+    test.virtuelle.Memoriser(avec);
     Cliquer(*test.fenetre, "cmdMvtTranches_5");
     QCOMPARE(test.poste.boites.boites.size(), std::size_t(1));
     QCOMPARE(test.poste.DerniereBoite().texte, TextesDoubles(27, 1));

@@ -3,7 +3,7 @@
 #include "app/demarrage/demarrage.h"
 #include "app/demarrage/etat_splash.h"
 #include "app/ui/frmSplashScreen.h"
-#include "fenetres/boite_virtuelle.h"
+#include "fenetres/boite_des_fenetres.h"
 #include "fenetres/images.h"
 #include "fenetres/poste_machine.h"
 #include "machine/dessin_sorties.h"
@@ -325,7 +325,7 @@ void EssaiParametresTables::SansInterfaceEnvoyerLeDit() {
 
 void EssaiParametresTables::UneInterfaceQuiVientDEtreBrancheeLeDit() {
     const PosteMachine poste;
-    const BoiteVirtuelle virtuelle;
+    const BoiteDesFenetres virtuelle;
     virtuelle.boite->Brancher(false);
     frmParametresTables fenetre;
     Exposer(fenetre);
@@ -339,7 +339,7 @@ void EssaiParametresTables::UneInterfaceQuiVientDEtreBrancheeLeDit() {
 
 void EssaiParametresTables::SansMemoireChoisieEnvoyerLeDit() {
     const PosteMachine poste;
-    const BoiteVirtuelle virtuelle;
+    const BoiteDesFenetres virtuelle;
     frmParametresTables fenetre;
     Exposer(fenetre);
     Cliquer(fenetre, "cmdValider_1");
@@ -356,7 +356,7 @@ void EssaiParametresTables::EnvoyerEnMemoire1ActiveLesMouvements_data() {
 void EssaiParametresTables::EnvoyerEnMemoire1ActiveLesMouvements() {
     QFETCH(bool, anglais);
     const PosteMachine poste(anglais ? Langue::English : Langue::Francais, DeuxMachines);
-    const BoiteVirtuelle virtuelle;
+    const BoiteDesFenetres virtuelle;
     frmParametresTables fenetre;
     Exposer(fenetre);
     QVERIFY(!MouvementsActifs);
@@ -394,7 +394,7 @@ void EssaiParametresTables::EnvoyerEnMemoire1ActiveLesMouvements() {
 
 void EssaiParametresTables::EnvoyerUneReserveeNEcritRienDansLeFichier() {
     const PosteMachine poste;
-    const BoiteVirtuelle virtuelle;
+    const BoiteDesFenetres virtuelle;
     frmParametresTables fenetre;
     Exposer(fenetre);
     const std::string avant = poste.Fichier();
@@ -407,7 +407,7 @@ void EssaiParametresTables::EnvoyerUneReserveeNEcritRienDansLeFichier() {
 
 void EssaiParametresTables::ValiderSansEnvoyerDesactiveLesMouvementsDUneAutreTable() {
     const PosteMachine poste;
-    const BoiteVirtuelle virtuelle;
+    const BoiteDesFenetres virtuelle;
     frmParametresTables fenetre;
     Exposer(fenetre);
     CreerMachine(fenetre, QStringLiteral("Atelier"));
@@ -426,7 +426,7 @@ void EssaiParametresTables::ValiderSansEnvoyerDesactiveLesMouvementsDUneAutreTab
 
 void EssaiParametresTables::UneMemoireQuiNeRepondPasLaisseLesMouvementsCoupes() {
     const PosteMachine poste;
-    const BoiteVirtuelle virtuelle;
+    const BoiteDesFenetres virtuelle;
     frmParametresTables fenetre;
     Exposer(fenetre);
     CreerMachine(fenetre, QStringLiteral("Atelier"));

@@ -1,6 +1,6 @@
 // The test moves of the parameter window with the virtual box: increments, positions, speeds, stops, heat,
 // and a wire that is cold when the window closes.
-#include "fenetres/boite_virtuelle.h"
+#include "fenetres/boite_des_fenetres.h"
 #include "fenetres/images.h"
 #include "fenetres/poste_machine.h"
 #include "machine/ui/frmParametresTables.h"
@@ -27,7 +27,7 @@ void Taper(const QWidget& fenetre, const char* champ, const QString& texte) {
 // The machine in memory 1, the page of the moves open.
 struct Essais {
     explicit Essais(Langue langue = Langue::Francais) : poste(langue) {
-        virtuelle.Memoriser(0, TableINI);
+        virtuelle.Memoriser(TableINI);
         fenetre = std::make_unique<frmParametresTables>();
         Exposer(*fenetre);
         if (!MouvementsActifs) qFatal("moves are not enabled");
@@ -35,7 +35,7 @@ struct Essais {
     }
     [[nodiscard]] simulateur::PositionPas Position() const { return virtuelle.boite->Position(); }
     PosteMachine poste;
-    BoiteVirtuelle virtuelle;
+    BoiteDesFenetres virtuelle;
     std::unique_ptr<frmParametresTables> fenetre;
 };
 

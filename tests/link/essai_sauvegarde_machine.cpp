@@ -7,13 +7,11 @@
 #include "link/echange.h"
 #include "link/memoires.h"
 #include "link/rafraichir.h"
-#include "link/simulateur/boite.h"
-#include "link/simulateur/memoires_machine.h"
 #include "machine/matieres.h"
 #include "outils/boites.h"
 #include "outils/dossiers.h"
+#include "outils_boite/boite_virtuelle.h"
 #include "platform/fichiers.h"
-#include "platform/horloge.h"
 
 #include <gtest/gtest.h>
 
@@ -29,13 +27,10 @@ class SauvegardeMachine : public ::testing::Test {
 protected:
     SauvegardeMachine() {
         ChargerMessages(Langue::Francais);
-        m_horloge = InstallerHorloge([this] { return m_heure; });
         Recommencer();
     }
     ~SauvegardeMachine() override {
-        LibererZelkoCom();
-        InstallerHorloge(std::move(m_horloge));
-        ReinitialiserEtatInterface();
+        m_virtuelle.reset();
         DossiersProgramme = {};
         TableauNomsMachines.clear();
     }
@@ -50,14 +45,11 @@ protected:
         ASSERT_EQ(ChargerMachine("(Defaut)"), StatutSucces);
         ASSERT_TRUE(ChargerBaseMatieres());
         ChoisirMatiere(MatieresMachine.front());
-        m_boite = std::make_unique<simulateur::BoiteZelko>();
-        m_commandes.clear();
-        RemplacerZelkoCom({VersionMinimaleZelko, [this] { return m_boite->Branchee() ? ZelkoBranchee : 0; },
-                           [this](Tampon& tampon) {
-                               m_commandes.push_back(tampon);
-                               m_heure += std::chrono::milliseconds(1);
-                               return m_boite->Echanger(tampon);
-                           }});
+        m_virtuelle.reset(); // the one before puts back what it found
+        m_virtuelle = std::make_unique<essais::BoiteVirtuelle>();
+        m_boite = &m_virtuelle->boite;
+        m_boite->EcrireMemoires({});
+        m_virtuelle->AvantEchange = [this](const Tampon& tampon) { m_commandes.push_back(tampon); };
         m_boite->Brancher(avecBoite);
         ReinitialiserEtatInterface();
         MemoiresZelko = {};
@@ -84,14 +76,13 @@ protected:
         return texte;
     }
 
-    std::unique_ptr<simulateur::BoiteZelko> m_boite;
+    std::unique_ptr<essais::BoiteVirtuelle> m_virtuelle;
+    simulateur::BoiteZelko* m_boite = nullptr;
     std::vector<Tampon> m_commandes;
     essais::BoitesEnregistrees m_boites;
 
 private:
     essais::DossierProvisoire m_dossier;
-    Instant m_heure{std::chrono::hours(1)};
-    SourceTemps m_horloge;
 };
 
 } // namespace

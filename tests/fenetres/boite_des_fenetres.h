@@ -1,0 +1,52 @@
+// The virtual box for tests of windows: blank at first, every command kept, and the window system's events
+// let run as the desktop program does.
+#pragma once
+
+#include "link/echange.h"
+#include "outils_boite/boite_virtuelle.h"
+#include "platform/pompe.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace tessarel::essais {
+
+class BoiteDesFenetres {
+public:
+    BoiteDesFenetres() {
+        m_virtuelle.boite.EcrireMemoires({});
+        m_virtuelle.PasParEchange = std::chrono::milliseconds(20); // a run ends after a few polls
+        m_virtuelle.AvantEchange = [this](const Tampon& tampon) { commandes.push_back(tampon); };
+        m_pompe = InstallerPompe([this] {
+            if (SurPompe) SurPompe();
+            QCoreApplication::processEvents();
+        });
+        ReinitialiserEtatInterface();
+    }
+    ~BoiteDesFenetres() { InstallerPompe(std::move(m_pompe)); }
+    BoiteDesFenetres(const BoiteDesFenetres&) = delete;
+    BoiteDesFenetres& operator=(const BoiteDesFenetres&) = delete;
+
+    // The machine lies in memory 1, as a save leaves it, and runs.
+    void Memoriser(const TableMachine& table) { m_virtuelle.PreparerMachine(TableMachine(table)); }
+    // How often a command went out, with its first argument.
+    [[nodiscard]] std::size_t Compter(std::uint8_t code, std::uint8_t argument) const {
+        return static_cast<std::size_t>(std::ranges::count_if(
+            commandes, [&](const Tampon& t) { return t[1] == code && t[2] == argument; }));
+    }
+
+private:
+    BoiteVirtuelle m_virtuelle;
+    Pompe m_pompe;
+
+public:
+    simulateur::BoiteZelko* boite = &m_virtuelle.boite;
+    std::vector<Tampon> commandes;
+    std::function<void()> SurPompe; // called whenever a loop lets events run
+};
+
+} // namespace tessarel::essais
