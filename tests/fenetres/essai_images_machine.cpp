@@ -39,6 +39,7 @@ private slots:
             onglets.setCurrentIndex(i);
             QApplication::processEvents();
             QVERIFY2(MotsCoupes(fenetre).isEmpty(), qPrintable(MotsCoupes(fenetre).join(u' ')));
+            if (i > 0) continue; // the first page stands for all in the documentation
             QVERIFY(SauverImage(fenetre, QStringLiteral("frmParametresTables-%1-").arg(i + 1) +
                                              QString::fromLatin1(QTest::currentDataTag())));
         }
