@@ -229,15 +229,21 @@ TEST_F(SauvegardeMachine, ChaqueEchangePerduTardifCorrompuOuDebranche) {
         for (std::size_t n = 1; n <= echanges; ++n) {
             SCOPED_TRACE(std::to_string(static_cast<int>(panne)) + " at exchange " + std::to_string(n));
             Recommencer();
+            // The machine was there and could move; now it takes another slope.
+            SauverParamMachineIniEtZelko(Saisie("Atelier"), 0);
+            ASSERT_TRUE(MouvementsActifs);
+            m_commandes.clear();
+            SaisieMachine saisie = Saisie("Atelier");
+            saisie.Textes["PenteAcceleration"] = "9";
             simulateur::PanneProgrammee reglage;
             reglage.panne = panne;
             reglage.echange = m_boite->Comptes().echanges + n;
             m_boite->Programmer(reglage);
-            const FinSauvegarde fin = SauverParamMachineIniEtZelko(Saisie("Atelier"), 0);
-            EXPECT_TRUE(Contient("[Machine_Atelier]"));
+            const FinSauvegarde fin = SauverParamMachineIniEtZelko(saisie, 0);
+            EXPECT_TRUE(Contient("PenteAcceleration=9\r\n"));
             if (fin == FinSauvegarde::EnregistreeEtEnvoyee) {
                 EXPECT_TRUE(MouvementsActifs);
-                EXPECT_EQ(NomEnMemoire(0), "Atelier");
+                EXPECT_EQ(simulateur::LireTable(m_boite->Memoires()[0]).pente, 9);
             } else {
                 EXPECT_EQ(fin, FinSauvegarde::MemoireManquee);
                 EXPECT_FALSE(MouvementsActifs);
