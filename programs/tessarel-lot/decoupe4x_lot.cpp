@@ -105,7 +105,7 @@ void DeclarerOutils(CLI::App& verbe, Demande4axes& demande) {
                 if (!hauteur || !angle)
                     throw CLI::ValidationError("--guillotine",
                                                Dire("deux nombres attendus", "two numbers expected"));
-                demande.guillotine = {EnSimple(*hauteur), EnSimple(*angle)};
+                demande.guillotine = {*hauteur, *angle};
             },
             Dire("4 axes : coupe droite, hauteur en mm et angle en degrés ; sans projet",
                  "4 axes: a straight cut, height in mm and angle in degrees; needs no project"))

@@ -18,7 +18,7 @@ struct Demande4axes {
     bool blocDresse = false;
     bool dresser = false;
     bool surfacer = false;
-    std::optional<std::pair<float, float>> guillotine; // height in mm, angle in degrees
+    std::optional<std::pair<double, double>> guillotine; // height in mm, angle in degrees
     bool armementRapide = false;
     bool autoXY = false;
     bool autoZ = false;

@@ -46,8 +46,8 @@ struct ParametresDecoupe4axes {
     bool chkSurfacer = false;   // with chkDresser: its top too
     bool chkGuillotine = false; // cut straight through the foam instead
     bool chkMonteeRapide = false;
-    float hauteurGuillotine = 0; // txtGuillotine(0), mm
-    float angleGuillotine = 90;  // txtGuillotine(1), degrees; 90 is upright
+    double hauteurGuillotine = 0; // txtGuillotine(0), mm; as typed, in 64 bits
+    double angleGuillotine = 90;  // txtGuillotine(1), degrees; 90 is upright
     // The variable offset doubles the points of a profile.
     [[nodiscard]] bool DecalageVariableActif() const {
         return CoteDecalage != CoteDecalageD4X::Aucun &&

@@ -226,6 +226,18 @@ TEST(Decoupe4x, GuillotineSansRangementATroisPointsEtDroiteA90) {
     EXPECT_EQ(ControlerDecoupeD4X(p.Contexte(), p.decoupe), 1);
 }
 
+// 103.8 mm times the tangent of 20.7 degrees is 39.22275152: a height or an angle cut to 32 bits would print
+// 39.2227 in a move.
+TEST(Decoupe4x, GuillotineTelleQueSaisie) {
+    Poste p;
+    p.parametres.chkGuillotine = true;
+    p.parametres.hauteurGuillotine = 103.8;
+    p.parametres.angleGuillotine = 69.3;
+    CalculerDecoupeD4X(p.Contexte(), p.decoupe);
+    EXPECT_NEAR(p.decoupe.PaireBloc.E[2].X, 39.2227515223, 1e-9);
+    EXPECT_EQ(p.decoupe.PaireBloc.E[2].Y, 103.8);
+}
+
 TEST(Decoupe4x, GuillotineAvecProjetSurLesFacesDuBloc) {
     Poste p;
     p.parametres.chkGuillotine = true;
