@@ -52,6 +52,8 @@ private slots:
     void StopArreteLeMouvement();
     void LeBoutonStopDeLaMachineCoupeLaChauffe();
     void LesMoteursSeCoupent();
+    void CouperPendantUnMouvementBaisseLaChauffePuisLaConfirme();
+    void CouperLesMoteursPendantUnMouvementLArreteDAbord();
     void LaChauffeSuitSesBoutons();
     void FermerAvecLeFilChaudLeRefroidit();
     void FermerAvecLaBoiteDebrancheePrevient();
@@ -112,6 +114,7 @@ void EssaiMouvementsMachine::UneVitesseIncorrecteEstRefusee() {
 
 void EssaiMouvementsMachine::StopArreteLeMouvement() {
     Essais essai;
+    Cliquer(*essai.fenetre, "optChauffeParam_1");
     Taper(*essai.fenetre, "txtIncrements_0", QStringLiteral("100"));
     int pompages = 0;
     bool cadresFermes = false;
@@ -123,6 +126,8 @@ void EssaiMouvementsMachine::StopArreteLeMouvement() {
     Cliquer(*essai.fenetre, "cmdGoIncrements");
     essai.virtuelle.SurPompe = {};
     QVERIFY(cadresFermes);
+    QCOMPARE(int(essai.virtuelle.boite->Etat().pwmCommande), 0); // a wire that stands melts on
+    QVERIFY(Controle<QRadioButton>(*essai.fenetre, "optChauffeParam_0").isChecked());
     QVERIFY(essai.Position()[AxeX1] > 0);
     QVERIFY(essai.Position()[AxeX1] < 32000);
     QCOMPARE(Controle<QLabel>(*essai.fenetre, "lblEtatMouvement").text(), QStringLiteral("Mouvement arrêté"));
@@ -149,6 +154,51 @@ void EssaiMouvementsMachine::LeBoutonStopDeLaMachineCoupeLaChauffe() {
     QCOMPARE(essai.poste.DerniereBoite().texte,
              std::string("Arrêt chauffe et mouvements par appui sur bouton STOP de la machine."));
     QCOMPARE(essai.poste.DerniereBoite().titre, std::string("Arrêt d'urgence"));
+}
+
+void EssaiMouvementsMachine::CouperPendantUnMouvementBaisseLaChauffePuisLaConfirme() {
+    Essais essai;
+    Cliquer(*essai.fenetre, "optChauffeParam_1");
+    Taper(*essai.fenetre, "txtIncrements_0", QStringLiteral("100"));
+    int pompages = 0;
+    std::size_t avant = 0;
+    int ensuite = -1;
+    essai.virtuelle.SurPompe = [&] {
+        ++pompages;
+        if (pompages == 40) {
+            avant = essai.virtuelle.commandes.size();
+            Cliquer(*essai.fenetre, "optChauffeParam_0");
+            // The handler sets a flag; no exchange starts inside another.
+            QCOMPARE(essai.virtuelle.commandes.size(), avant);
+        }
+        if (pompages == 45) ensuite = essai.virtuelle.boite->Etat().pwmCommande;
+    };
+    Cliquer(*essai.fenetre, "cmdGoIncrements");
+    essai.virtuelle.SurPompe = {};
+    QCOMPARE(ensuite, 0);
+    QCOMPARE(essai.Position()[AxeX1], 32000); // the move goes on
+    QCOMPARE(essai.virtuelle.Compter(CommandeChauffe, 0), std::size_t(1));
+    QVERIFY(Controle<QRadioButton>(*essai.fenetre, "optChauffeParam_0").isChecked());
+}
+
+void EssaiMouvementsMachine::CouperLesMoteursPendantUnMouvementLArreteDAbord() {
+    Essais essai;
+    Taper(*essai.fenetre, "txtIncrements_0", QStringLiteral("100"));
+    int pompages = 0;
+    essai.virtuelle.SurPompe = [&] {
+        if (++pompages == 40) Cliquer(*essai.fenetre, "cmdMoteursOff");
+    };
+    Cliquer(*essai.fenetre, "cmdGoIncrements");
+    essai.virtuelle.SurPompe = {};
+    QVERIFY(essai.Position()[AxeX1] < 32000);
+    QCOMPARE(essai.virtuelle.Compter(CommandeMoteurs, 0), std::size_t(1));
+    const auto& envois = essai.virtuelle.commandes;
+    const auto rang = [&envois](std::uint8_t code) {
+        return std::ranges::find_if(envois, [code](const Tampon& t) { return t[1] == code; }) -
+               envois.begin();
+    };
+    QVERIFY(rang(CommandeArret) < rang(CommandeMoteurs));
+    QVERIFY(essai.poste.boites.boites.empty());
 }
 
 void EssaiMouvementsMachine::LesMoteursSeCoupent() {

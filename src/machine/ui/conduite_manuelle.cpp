@@ -70,10 +70,9 @@ ConduiteManuelle::Resultat ConduiteManuelle::Mouvoir(const PasAxes& pas, const V
         delete alerte;
     }
     if (moteursOff) CouperMoteurs();
-    const bool parLUtilisateur =
-        mouvement.marche.fin == FinMarche::Arretee || mouvement.marche.fin == FinMarche::StopAvantMouvement;
-    const bool ordinaire = parLUtilisateur || mouvement.cause == CauseFin::FinDeListe;
-    if (!ordinaire) CouperSiChaud();
+    // A wire that stands must not go on melting, whoever stopped it.
+    if (m_coupureVoulue || mouvement.cause != CauseFin::FinDeListe) CouperSiChaud();
+    m_coupureVoulue = false;
     AnnoncerCause(mouvement.cause);
     emit FinMouvement();
     return {mouvement.marche.fin, mouvement.cause, PasFaits(mouvement, pas)};
@@ -161,7 +160,16 @@ bool ConduiteManuelle::EnvoyerChauffeVoulue() {
 }
 
 bool ConduiteManuelle::Couper() {
-    if (m_occupee) return false;
+    if (m_occupee) {
+        m_abandon = true; // a heat that is still being asked for ends in a heat-off
+        return false;
+    }
+    if (m_enMouvement) {
+        m_demandes.ChauffeVoulue = 0;
+        m_demandes.ChauffeModifiee = true;
+        m_coupureVoulue = true;
+        return false;
+    }
     bool coupee = false;
     {
         const Drapeau occupe(m_occupee);

@@ -25,8 +25,8 @@ public:
     // `fenetre` is what warnings stand over.
     explicit ConduiteManuelle(QWidget* fenetre);
 
-    // Runs one move and tells the end that is not the user's own doing; returns at its end. After the STOP
-    // button, a switch or a box that is lost, the heat is switched off and confirmed. Nothing starts while
+    // Runs one move and tells the end that is not the user's own doing; returns at its end. After any
+    // end but that of the move itself, the heat is switched off and confirmed. Nothing starts while
     // another command is under way.
     struct Resultat {
         FinMarche Fin = FinMarche::Impossible;
@@ -74,6 +74,7 @@ private:
     bool m_chaude = false;
     double m_chauffeVoulue = 0; // percent, as asked for last
     bool m_abandon = false;
+    bool m_coupureVoulue = false; // asked for during a move: confirmed after it
 };
 
 } // namespace tessarel

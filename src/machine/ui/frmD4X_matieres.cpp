@@ -127,10 +127,7 @@ void frmD4X_matieres::RelierChauffe() {
         if (!m_conduite->Chaude() && !m_conduite->Chauffer(hscChauffeParam->value()))
             optChauffeMatieres[0]->setChecked(true);
     });
-    connect(optChauffeMatieres[0], &QRadioButton::clicked, this, [this] {
-        if (m_conduite->EnMouvement()) m_conduite->DemanderArret();
-        m_conduite->Couper();
-    });
+    connect(optChauffeMatieres[0], &QRadioButton::clicked, m_conduite, &ConduiteManuelle::Couper);
     connect(hscChauffeParam, &QScrollBar::valueChanged, this, [this](int pourcent) {
         lblChauffeParam->setText(QStringLiteral("%1 %").arg(pourcent));
         m_conduite->ChangerChauffe(pourcent);

@@ -11,6 +11,7 @@
 #include "ui/boites_qt.h"
 #include "ui/champ_nombre.h"
 
+#include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -106,6 +107,7 @@ void frmD4X_matieres::MontrerMouvementsPossibles() {
     for (QPushButton* bouton : cmdMvtTranches) bouton->setEnabled(MouvementsActifs && !enMouvement);
     cmdStopTranches->setEnabled(enMouvement);
     findChild<QGroupBox*>(QStringLiteral("frameChauffeMatieres"))->setEnabled(MouvementsActifs);
+    chkDesactiverTimeOutMoteurs->setEnabled(!enMouvement);
     findChild<QGroupBox*>(QStringLiteral("frameBase"))->setEnabled(!enMouvement);
     if (!MouvementsActifs) lblEtatTranches->setText(TexteAffiche(TitresMessages(RangeePasDInterface)));
 }

@@ -207,10 +207,7 @@ void PanneauEssais::RelierChauffe() {
         if (!m_conduite->Chaude() && !m_conduite->Chauffer(hscChauffeParam->value()))
             optChauffeParam[0]->setChecked(true);
     });
-    connect(optChauffeParam[0], &QRadioButton::clicked, this, [this] {
-        if (m_conduite->Occupee()) return;
-        m_conduite->Couper();
-    });
+    connect(optChauffeParam[0], &QRadioButton::clicked, m_conduite, &ConduiteManuelle::Couper);
     connect(hscChauffeParam, &QScrollBar::valueChanged, this, [this](int pourcent) {
         lblChauffeParam->setText(QStringLiteral("%1 %").arg(pourcent));
         m_conduite->ChangerChauffe(pourcent);
