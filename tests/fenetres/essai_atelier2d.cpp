@@ -66,6 +66,7 @@ private slots:
     void CouperAuBoutEstRefuse();
     void LesOutilsSontEteintsPendantLaDecoupe();
     void LApercuSeRetourneAvantDEtreOuvert();
+    void UnProjetRetourneDansLApercuEstModifie();
     void LesAscenseursSuiventLaVue();
     void LaLargeurDeLaBibliothequeRevient();
 
@@ -461,7 +462,7 @@ void EssaiAtelier2D::LApercuSeRetourneAvantDEtreOuvert() {
     m_poste->Cliquer<QToolButton>("cmdInverserSensSequ");
     // Nothing of the project moves, and the hand is off.
     QCOMPARE(Espace().TableauSequences.size(), std::size_t{2});
-    m_souris->Cliquer({10, 15});
+    m_souris->Cliquer({0, 25}); // where a path of the project would be
     QCOMPARE(Choisis(), std::string("00"));
     m_poste->Cliquer<QToolButton>("cmdOuvrirApercu");
     QCOMPARE(Espace().TableauSequences.size(), std::size_t{3});
@@ -470,6 +471,24 @@ void EssaiAtelier2D::LApercuSeRetourneAvantDEtreOuvert() {
     QCOMPARE(p[0].X, 0.0); // (10, 30) mirrored, now first
     QCOMPARE(p[0].Y, 30.0);
     QCOMPARE(p[2].X, 10.0);
+}
+
+// The file does not hold what was turned over in the preview: closing must ask.
+void EssaiAtelier2D::UnProjetRetourneDansLApercuEstModifie() {
+    const std::string chemin = m_poste->dossier.Fichier("garde.tsr");
+    m_poste->reponsesFichier = {chemin};
+    m_poste->Cliquer<QToolButton>("cmdSauverTS2D");
+    QVERIFY(!Espace().modifie);
+    auto& bibliotheque = m_poste->Trouver<PanneauBibliotheque>("frameBibliotheque");
+    for (const bool retourner : {false, true}) {
+        emit bibliotheque.FichierRegarde(QByteArray::fromStdString(chemin));
+        if (retourner) m_poste->Cliquer<QToolButton>("cmdMiroirFichierSource");
+        m_poste->Cliquer<QToolButton>("cmdOuvrirApercu");
+        QCOMPARE(Espace().TableauSequences.size(), std::size_t{2});
+        QCOMPARE(Espace().modifie, retourner);
+        QCOMPARE(Trace(1).XMin, retourner ? 0.0F : 200.0F); // about the middle of both, at 110
+        QVERIFY(!PeutAnnuler(Atelier().Historique()));      // another project, another history
+    }
 }
 
 void EssaiAtelier2D::LesAscenseursSuiventLaVue() {
