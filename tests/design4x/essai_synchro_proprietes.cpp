@@ -98,11 +98,21 @@ TEST(SynchroProprietes, ProfilsAuHasard) {
     }
 }
 
-// So many segments that their sum in 32 bits is off by more than their length.
 TEST(SynchroProprietes, CentMillePointsContreSoixanteDixMille) {
     std::mt19937 hasard(8);
     const ProfilEssai e = ProfilAuHasard(hasard, 100'000, 0.1, 0);
     ControlerSynchronisation(e, ProfilAuHasard(hasard, 70'000, 0.1, 0));
+}
+
+// Equal segments, so many that their sum in 32 bits is off by hundreds of them: the same way in each
+// addition.
+TEST(SynchroProprietes, SommesEn32BitsDeNombreuxSegmentsEgaux) {
+    ProfilEssai e(100'001);
+    ProfilEssai s(70'002);
+    for (std::size_t i = 0; i < e.size(); ++i) e[i].X = 0.0123 * static_cast<double>(i);
+    for (std::size_t i = 0; i < s.size(); ++i) s[i].Y = 0.0171 * static_cast<double>(i);
+    for (ProfilEssai* p : {&e, &s}) p->front().Drapeaux = p->back().Drapeaux = DrapeauSynchro;
+    ControlerSynchronisation(e, s);
 }
 
 TEST(SynchroProprietes, UneSecondeFoisNeChangeRien) {

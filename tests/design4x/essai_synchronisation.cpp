@@ -104,12 +104,15 @@ TEST(Synchronisation, LesMarquesSeparentDesSections) {
     EXPECT_EQ(Traces(projet.S.Points), (Liste{{0, 0, 4}, {0.5, 0, 0}, {1, 0, 4}, {2, 0, 0}, {5, 0, 4}}));
 }
 
-// A third in 32 bits, and the vertex beside it in 64.
+// A third of the way from 0.1 on is held in 32 bits, the vertex beside it in 64.
 TEST(Synchronisation, UnPointInsereEstEnSimplePrecision) {
-    ProjetCPX projet = Projet({{0, 0}, {1, 0}}, {{0, 0}, {0.1, 0}, {0.3, 0}});
+    ProjetCPX projet = Projet({{0.1, 7.3}, {1.1, 8.3}}, {{0, 0}, {0.1, 0}, {0.3, 0}});
     EXPECT_EQ(SynchroniserProfils(projet), EtatSynchro::Faite);
-    EXPECT_EQ(projet.E.Points[1].X, static_cast<double>(static_cast<float>(projet.E.Points[1].X)));
-    EXPECT_NEAR(projet.E.Points[1].X, 1.0 / 3, 1e-7);
+    const PointProfil& p = projet.E.Points[1];
+    EXPECT_EQ(p.X, static_cast<double>(static_cast<float>(p.X)));
+    EXPECT_EQ(p.Y, static_cast<double>(static_cast<float>(p.Y)));
+    EXPECT_NEAR(p.X, 0.1 + 1.0 / 3, 1e-6);
+    EXPECT_NEAR(p.Y, 7.3 + 1.0 / 3, 1e-6);
     EXPECT_EQ(projet.S.Points[1].X, 0.1);
 }
 
