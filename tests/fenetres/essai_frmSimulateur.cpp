@@ -180,8 +180,11 @@ private slots:
         QCOMPARE(p.Trouver<QLabel>("lblEtatBoite").text(), QStringLiteral("En mouvement"));
         QCOMPARE(p.Trouver<QLabel>("lblPosition_0").text(), QStringLiteral("50.00"));
         QCOMPARE(p.Trouver<QLabel>("lblPosition_3").text(), QStringLiteral("0.00"));
+        QCOMPARE(p.Trouver<QLabel>("lblMoteurs").text(), QStringLiteral("Moteurs alimentés"));
         p.Passer(60s);
         QCOMPARE(p.Trouver<QLabel>("lblEtatBoite").text(), QStringLiteral("Liste terminée"));
+        // Its table lets them go a second later.
+        QCOMPARE(p.Trouver<QLabel>("lblMoteurs").text(), QStringLiteral("Moteurs relâchés"));
         QCOMPARE(p.Trouver<QLabel>("lblPosition_3").text(), QStringLiteral("50.00"));
     }
 

@@ -247,6 +247,8 @@ void frmSimulateur::MontrerEtat() {
     chkFinCourse->setChecked(c.finCourseForcee);
     combManu->setCurrentIndex(c.chauffeManu ? 1 : 0);
     combMarche->setCurrentIndex(c.chauffeEteinte ? 1 : 0);
+    lblMoteurs->setText(e.moteurs ? Dire("Moteurs alimentés", "Motors on")
+                                  : Dire("Moteurs relâchés", "Motors off"));
     cmdPoserOrigine->setEnabled(e.file != EtatFile::EnMarche);
     lblTemps->setText(Dire("%1 s de la machine", "%1 s of the machine").arg(e.secondes, 0, 'f', 1));
     lblPannes->setText(m_poste.Boite().PannesEnAttente()

@@ -88,6 +88,7 @@ private:
     QLabel* lblFinCourse = nullptr;
     QLabel* lblTemps = nullptr;
     QLabel* lblPannes = nullptr;
+    QLabel* lblMoteurs = nullptr;
     std::array<QLabel*, NombreAxes> lblPosition = {};
     QPushButton* cmdStopMachine = nullptr;
     QPushButton* cmdPoserOrigine = nullptr;

@@ -208,7 +208,8 @@ QWidget* frmSimulateur::DisposerReglages() {
         chariots->addWidget(lblPosition[a], rangee, colonne + 1);
         chariots->setColumnStretch(colonne + 1, 1);
     }
-    chariots->addWidget(cmdPoserOrigine = Creer<QPushButton>("cmdPoserOrigine"), 2, 0, 1, 4);
+    chariots->addWidget(lblMoteurs = Discret(Creer<QLabel>("lblMoteurs")), 2, 0, 1, 4);
+    chariots->addWidget(cmdPoserOrigine = Creer<QPushButton>("cmdPoserOrigine"), 3, 0, 1, 4);
 
     auto* bloc = Grille(Groupe("frameBloc", page));
     for (std::size_t i = 0; i < ChampsBloc; ++i) {

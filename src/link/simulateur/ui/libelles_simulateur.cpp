@@ -86,6 +86,7 @@ constexpr Libelle LIBELLES[] = {
     {"lblPosition_1", Variable},
     {"lblPosition_2", Variable},
     {"lblPosition_3", Variable},
+    {"lblMoteurs", Variable},
     {"cmdPoserOrigine", Texte, "Ramener à l'origine", "Put at the origin"},
     {"cmdPoserOrigine", Bulle, "Pousser les chariots à la main jusqu'à l'origine",
      "Push the carriages to the origin by hand"},
