@@ -1,4 +1,5 @@
 // Motion of the virtual box: every step counted, whatever the list, the clock's slices and the speed factor.
+#include "link/salves.h"
 #include "link/simulateur/boite.h"
 #include "link/table_rampe.h"
 #include "outils_boite/boite_virtuelle.h"
@@ -221,6 +222,42 @@ TEST(BoiteMouvement, LesPhasesValentLesTicksUnParUn) {
             }
         }
     }
+}
+
+// What the builder estimates and what the box takes: they count levels and the last tick of a level each in
+// its own way, so that they agree to a few levels, and in a frame without a ramp to a tick.
+TEST(BoiteMouvement, UneTrameDureCeQueSonConstructeurEstime) {
+    std::mt19937 hasard(11);
+    const auto tirer = [&](double a, double b) {
+        return std::uniform_real_distribution<double>(a, b)(hasard);
+    };
+    int rampes = 0;
+    for (int i = 0; i < 4000; ++i) {
+        TableMachine t;
+        LireMachine("(Defaut)", t);
+        t.Frequence = 10000 * (1 + static_cast<int>(hasard() % 5));
+        t.PenteAcceleration = static_cast<std::uint8_t>(hasard() % 10);
+        const double v0 = tirer(1, 8);
+        const double v1 = i % 3 == 0 ? v0 : v0 * tirer(1, 4);
+        const auto pas = static_cast<std::int32_t>(tirer(1, 30000));
+        const Salve s = ConstruireSalve(ParametresDeSalve(t), static_cast<float>(v0), static_cast<float>(v1),
+                                        static_cast<float>(v0), {pas, -pas / 2, pas / 3, 0});
+        ASSERT_EQ(s.Statut, StatutSucces);
+        const SalveBoite boite =
+            LireSalve(std::span<const std::uint8_t, TailleSalve>(s.octets.data(), TailleSalve));
+        const int f = t.Frequence / 10000;
+        DeroulementSalve d;
+        d.Preparer(boite, f, t.PenteAcceleration);
+        const double duree = static_cast<double>(d.Duree()) / HorlogeBoite;
+        const bool rampe = (boite.drapeaux & DrapeauRampe) != 0;
+        rampes += rampe ? 1 : 0;
+        const double niveau = std::exp2(t.PenteAcceleration + 8) / HorlogeBoite;
+        const double tick = TableRampe(std::min(boite.niveauDepart, boite.niveauFin), f) / HorlogeBoite;
+        ASSERT_NEAR(duree, s.Duree, rampe ? 6 * niveau + 4 * tick : 1.0 / t.Frequence)
+            << i << " slope " << int{t.PenteAcceleration} << " steps " << pas << " from " << v0 << " to "
+            << v1;
+    }
+    EXPECT_GT(rampes, 1000);
 }
 
 TEST(BoiteMouvement, UnAvanceSArreteAuTickDemande) {

@@ -1,6 +1,7 @@
 // A motion frame as the box runs it: its bytes read, the steps done after each tick, and how long ticks last.
 #pragma once
 
+#include "link/salves.h"
 #include "link/simulateur/memoires.h"
 
 #include <array>
@@ -10,7 +11,6 @@
 
 namespace tessarel::simulateur {
 
-inline constexpr std::size_t TailleSalve = 31; // bytes on the wire
 inline constexpr std::uint8_t DrapeauRampe = 32;
 inline constexpr std::uint8_t DrapeauPause = 64;
 inline constexpr std::uint8_t MarqueFinDeListe = 128;
