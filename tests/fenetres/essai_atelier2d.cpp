@@ -149,6 +149,14 @@ void EssaiAtelier2D::LeCadreVersLaDroitePrendLesEntiers() {
 }
 
 void EssaiAtelier2D::LeCadreVersLaGauchePrendCeQuIlTouche() {
+    m_souris->Appuyer({150, 80});
+    m_souris->Aller({90, 20});
+    QVERIFY(Etat().startsWith(QStringLiteral("Relâcher : choisir tous les tracés que le cadre touche")));
+    m_souris->Aller({300, 20});
+    QVERIFY(Etat().startsWith(QStringLiteral("Relâcher : choisir les tracés entiers")));
+    m_souris->Aller({151, 150});
+    m_souris->Relacher();
+    QCOMPARE(Choisis(), std::string("00"));
     m_souris->Glisser({150, 80}, {90, 20});
     QCOMPARE(Choisis(), std::string("10"));
     m_souris->Glisser({260, 60}, {190, 40}, Qt::ControlModifier); // touches nothing

@@ -212,6 +212,9 @@ enum class TexteProgramme {
     // 2D workshop: what the mouse would do now
     AtelierTableVide,
     AtelierSurTable,
+    AtelierCadreEntiers,
+    AtelierCadreTouches,
+    AtelierSurDecoupe,
     AtelierSurTrace,
     AtelierSurSelection,
     AtelierSurPoignee,

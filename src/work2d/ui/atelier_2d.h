@@ -94,6 +94,7 @@ private:
     bool PresserOutil(PointDessin ici);
     void PrendreTrace(std::size_t rang, Qt::KeyboardModifiers touches);
     void Suivre(QPointF pixels, Qt::KeyboardModifiers touches);
+    void SuivreCadre(const QMouseEvent& evenement);
     void SuivreGeste(PointDessin ici, Qt::KeyboardModifiers touches);
     bool Relacher(const QMouseEvent& evenement);
     void FinirGeste();

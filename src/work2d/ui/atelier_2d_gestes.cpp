@@ -37,6 +37,8 @@ bool Atelier2D::eventFilter(QObject*, QEvent* evenement) {
         // The view's own gestures, with another button, show nothing of ours.
         if (m_geste != Geste::Aucun || souris.buttons() == Qt::NoButton)
             Suivre(souris.position(), souris.modifiers());
+        else
+            SuivreCadre(souris);
         return false; // the canvas tells coordinates and marks its rulers
     }
     case QEvent::MouseButtonRelease:
@@ -146,6 +148,16 @@ void Atelier2D::Suivre(QPointF pixels, Qt::KeyboardModifiers touches) {
         if (m_geste == Geste::Rotation) m_rotation = CommencerRotation(m_boite, m_pressionMm);
     }
     SuivreGeste(ici, touches);
+}
+
+// The view's rubber band: which paths it would take.
+void Atelier2D::SuivreCadre(const QMouseEvent& evenement) {
+    const bool bande = evenement.buttons() == Qt::LeftButton && m_outil == OutilAtelier::Selection &&
+                       !evenement.modifiers().testFlag(Qt::ShiftModifier);
+    if (!bande || (evenement.position() - m_pression).manhattanLength() < DistanceGlisser) return;
+    const bool entieres = evenement.position().x() >= m_pression.x();
+    emit Indication(TexteAffiche(
+        Texte(entieres ? TexteProgramme::AtelierCadreEntiers : TexteProgramme::AtelierCadreTouches)));
 }
 
 // The keys are read anew at each move: letting one go in the middle of a drag changes the fixed point.

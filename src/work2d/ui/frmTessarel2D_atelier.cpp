@@ -74,6 +74,12 @@ void frmTessarel2D::RelierAtelier() {
             statusBar()->showMessage(texte);
         }
     });
+    // The cut is there to be looked at.
+    connect(pctDecoupe, &Canevas::PointeurDeplace, this, [this] {
+        const QString texte = TexteAffiche(Texte(TexteProgramme::AtelierSurDecoupe));
+        if (statusBar()->currentMessage() != texte) statusBar()->showMessage(texte);
+    });
+    connect(pctDecoupe, &Canevas::PointeurSorti, statusBar(), &QStatusBar::clearMessage);
     connect(m_atelier, &Atelier2D::PointVise, this, &frmTessarel2D::MontrerAjoutPoint);
     connect(m_atelier, &Atelier2D::OutilChoisi, this, [this] {
         pctAjoutPoint->setVisible(m_atelier->Outil() == OutilAtelier::InsererPoint);
