@@ -76,6 +76,8 @@ Json Analyser(const std::string& fichier, const std::string& texte) {
         const std::size_t fin = std::min(e.byte == 0 ? 0 : e.byte - 1, texte.size());
         const auto lignes = std::count(texte.begin(), texte.begin() + static_cast<std::ptrdiff_t>(fin), '\n');
         Refuser(fichier, SelonLangue("ce n'est pas du JSON", "this is not JSON"), lignes + 1);
+    } catch (const nlohmann::json::exception&) { // a number that no number can hold
+        Refuser(fichier, SelonLangue("ce n'est pas du JSON", "this is not JSON"));
     }
 }
 
@@ -96,10 +98,7 @@ OctetsMemoire LireMemoire(const std::string& fichier, const Json& objet, std::si
 
 } // namespace
 
-OctetsMemoires LireMemoiresZelko(const std::string& fichier) {
-    // A file of three memories is a thousand bytes; anything far larger is another file.
-    constexpr std::size_t raisonnable = 1U << 16U;
-    const std::string texte = LireDebutFichier(fichier, raisonnable);
+OctetsMemoires AnalyserMemoiresZelko(const std::string& texte, const std::string& fichier) {
     const Json json = Analyser(fichier, texte);
     if (!json.is_object() || json.value("format", Json()) != NomFormat)
         Refuser(fichier, SelonLangue("ce n'est pas un fichier de mémoires de l'interface",
@@ -114,7 +113,7 @@ OctetsMemoires LireMemoiresZelko(const std::string& fichier) {
     return memoires;
 }
 
-void EcrireMemoiresZelko(const std::string& fichier, const OctetsMemoires& memoires) {
+std::string ComposerMemoiresZelko(const OctetsMemoires& memoires) {
     Json liste = Json::array();
     for (const OctetsMemoire& memoire : memoires) {
         if (memoire == MemoireVierge()) {
@@ -129,7 +128,17 @@ void EcrireMemoiresZelko(const std::string& fichier, const OctetsMemoires& memoi
     json["format"] = NomFormat;
     json["version"] = VersionFormat;
     json["memoires"] = liste;
-    EcrireFichierAtomique(fichier, json.dump(2) + "\n");
+    return json.dump(2) + "\n";
+}
+
+OctetsMemoires LireMemoiresZelko(const std::string& fichier) {
+    // A file of three memories is a thousand bytes; anything far larger is another file.
+    constexpr std::size_t raisonnable = 1U << 16U;
+    return AnalyserMemoiresZelko(LireDebutFichier(fichier, raisonnable), fichier);
+}
+
+void EcrireMemoiresZelko(const std::string& fichier, const OctetsMemoires& memoires) {
+    EcrireFichierAtomique(fichier, ComposerMemoiresZelko(memoires));
 }
 
 } // namespace tessarel

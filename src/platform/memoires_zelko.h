@@ -13,6 +13,10 @@ inline constexpr std::size_t OctetsParPartie = 30;
 using OctetsMemoire = std::array<std::array<std::uint8_t, OctetsParPartie>, 3>;
 using OctetsMemoires = std::array<OctetsMemoire, 3>;
 
+// The content of such a file; `fichier` is only its name in a FauteLecture.
+OctetsMemoires AnalyserMemoiresZelko(const std::string& texte, const std::string& fichier);
+std::string ComposerMemoiresZelko(const OctetsMemoires& memoires);
+
 // FauteFichier when the file is absent or unreadable, FauteLecture when it is no such file.
 OctetsMemoires LireMemoiresZelko(const std::string& fichier);
 // In one step; FauteFichier when it can't be written. A memory of bytes 255 alone is written as null.

@@ -142,7 +142,7 @@ const Fleches& FlechesDeLaMaison() {
         {"tests/bout_en_bout", {"tests/outils", "paths"}},
         {"tests/fenetres", {"tests/outils_boite", "app/ui", "work2d/ui", "machine/ui", "link/simulateur/ui"}},
         {"bench", {"work2d", "work2d/ui", "cut4x", "link/simulateur"}},
-        {"fuzz", {"work2d"}},
+        {"fuzz", {"work2d", "link/simulateur"}},
     };
     return fleches;
 }

@@ -67,6 +67,7 @@ TEST(MemoiresZelko, UnFichierAbsentOuEtrangerEstRefuseAvecSaRaison) {
     EXPECT_THROW(LireMemoiresZelko("/absent/m.json"), FauteFichier);
     EXPECT_EQ(Refus(""), ", ligne 1 : ce n'est pas du JSON");
     EXPECT_EQ(Refus("{\n\n  \"format\": zut"), ", ligne 3 : ce n'est pas du JSON");
+    EXPECT_EQ(Refus("[1e99999]"), " : ce n'est pas du JSON");
     EXPECT_EQ(Refus("[]"), " : ce n'est pas un fichier de mémoires de l'interface");
     EXPECT_EQ(Refus(R"({"format": 3})"), " : ce n'est pas un fichier de mémoires de l'interface");
     EXPECT_EQ(Refus(R"({"format": "zelko-memoires", "version": 2, "memoires": []})"),
