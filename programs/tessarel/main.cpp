@@ -44,6 +44,7 @@ void Entrer2D(Fenetres& fenetres) {
     QObject::connect(&travail, &frmTessarel2D::GererMatieres, &travail,
                      [&travail] { OuvrirReglages<frmD4X_matieres>(travail); });
     travail.show();
+    travail.RafraichirInterface();
     fenetres.splash->hide();
 }
 

@@ -119,4 +119,22 @@ void DessinerFilm(Dessin& dessin, const Film2D& film, const PlaceFil& place) {
     Marquer(dessin, GenreMarque::Disque, fil, TailleFil, CouleurDejaCoupe);
 }
 
+void DessinerDejaCoupe(Dessin& dessin, std::span<const PointDessin> points) {
+    if (points.size() < 2) return;
+    Ouvrir(dessin, CouleurDejaCoupe, EpaisseurFine);
+    for (const PointDessin& p : points) Ajouter(dessin, p);
+}
+
+void DessinerSegmentEnCours(Dessin& dessin, PointDessin debut, PointDessin fil) {
+    Segment(dessin, debut, fil, Ombre, EpaisseurOmbre);
+    Segment(dessin, debut, fil, CouleurSegmentCoupe, EpaisseurSegmentCoupe);
+    Marquer(dessin, GenreMarque::Disque, fil, TailleFil, CouleurDejaCoupe);
+}
+
+void DessinerTrajetRetour(Dessin& dessin, std::span<const PointDessin> points) {
+    if (points.size() < 2) return;
+    Ouvrir(dessin, CouleurDejaCoupe, EpaisseurFine, true);
+    for (const PointDessin& p : points) Ajouter(dessin, p);
+}
+
 } // namespace tessarel

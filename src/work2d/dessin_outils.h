@@ -32,4 +32,10 @@ void DessinerPointVise(Dessin& dessin, PointDessin ou);
 // The part already cut, the segment under way, the wire.
 void DessinerFilm(Dessin& dessin, const Film2D& film, const PlaceFil& place);
 
+// A run on the machine: the way that is done, the done part of the segment under way with the wire at its
+// end, and the way of a return.
+void DessinerDejaCoupe(Dessin& dessin, std::span<const PointDessin> points);
+void DessinerSegmentEnCours(Dessin& dessin, PointDessin debut, PointDessin fil);
+void DessinerTrajetRetour(Dessin& dessin, std::span<const PointDessin> points);
+
 } // namespace tessarel

@@ -17,9 +17,10 @@ namespace tessarel::essais {
 
 class BoiteDesFenetres {
 public:
-    BoiteDesFenetres() {
+    // By default a run ends after a few polls.
+    explicit BoiteDesFenetres(Instant parEchange = std::chrono::milliseconds(20)) {
         m_virtuelle.boite.EcrireMemoires({});
-        m_virtuelle.PasParEchange = std::chrono::milliseconds(20); // a run ends after a few polls
+        m_virtuelle.PasParEchange = parEchange;
         m_virtuelle.AvantEchange = [this](const Tampon& tampon) { commandes.push_back(tampon); };
         m_pompe = InstallerPompe([this] {
             if (SurPompe) SurPompe();

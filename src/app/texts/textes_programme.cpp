@@ -389,6 +389,7 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
     {TexteProgramme::Fenetre2DEtatVide, "Ouvrez un fichier, ou déposez-le ici",
      "Open a file, or drop it here"},
     {TexteProgramme::Fenetre2DEtatMachine, "Machine : %1", "Machine: %1"},
+    {TexteProgramme::Fenetre2DMouvementsActifs, "Mouvements activés", "Motion enabled"},
     {TexteProgramme::Fenetre2DEtatSauve, "Projet enregistré : %1", "Project saved: %1"},
     {TexteProgramme::Fenetre2DEtatExporte, "Trajet exporté : %1", "Path exported: %1"},
     {TexteProgramme::Fenetre2DEtatOuvert, "%1 : tracés : %2, points : %3", "%1: paths: %2, points: %3"},

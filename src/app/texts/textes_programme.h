@@ -198,6 +198,7 @@ enum class TexteProgramme {
     Fenetre2DEtatProjet, // %1 paths, %2 points
     Fenetre2DEtatVide,
     Fenetre2DEtatMachine, // %1 machine
+    Fenetre2DMouvementsActifs,
     Fenetre2DEtatSauve,   // %1 path
     Fenetre2DEtatExporte, // %1 path
     Fenetre2DEtatOuvert,  // %1 file, %2 paths, %3 points

@@ -18,6 +18,7 @@
 #include "work2d/ui/libelles_2d.h"
 #include "work2d/ui/panneau_bibliotheque.h"
 #include "work2d/ui/panneau_simulation.h"
+#include "work2d/ui/trace_course.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -62,6 +63,8 @@ frmTessarel2D::frmTessarel2D(QWidget* parent) : QMainWindow(parent) {
     PlacerFenetre(*this);
 }
 
+frmTessarel2D::~frmTessarel2D() = default;
+
 void frmTessarel2D::Relier() {
     RelierFichiers();
     RelierProjet();
@@ -69,6 +72,7 @@ void frmTessarel2D::Relier() {
     RelierBibliotheque();
     RelierAtelier();
     RelierSource();
+    RelierCourse();
     for (Canevas* canevas : {pctSequTS2D, pctDecoupe}) {
         connect(canevas, &Canevas::PointeurDeplace, this, [this](double x, double y) {
             lblCoordonnees->setText(TexteAffiche(
@@ -152,6 +156,7 @@ void frmTessarel2D::RelierDecoupe() {
 }
 
 void frmTessarel2D::ActualiserMachine() {
+    MontrerLiaison();
     RemplirMatieres();
     for (Canevas* canevas : {pctSequTS2D, pctDecoupe}) canevas->FixerCadreComplet(CadreTable(TableINI));
     TraceSequTS2D();
@@ -192,6 +197,10 @@ void frmTessarel2D::MontrerTout() {
 }
 
 void frmTessarel2D::closeEvent(QCloseEvent* evenement) {
+    if (ArreterPourFermer()) {
+        evenement->ignore();
+        return;
+    }
     if (m_espace.modifie && !m_espace.TableauSequences.empty()) {
         const ReponseBoite reponse = AfficherBoite({TextesMessages(MessagesSauverAvantDeQuitter),
                                                     TitresMessages(MessagesSauverAvantDeQuitter),
@@ -203,6 +212,7 @@ void frmTessarel2D::closeEvent(QCloseEvent* evenement) {
             return;
         }
     }
+    if (m_course.arretee) AbandonnerDecoupe();
     m_simulation->Arreter();
     Parametres.OngletActif = TS2D;
     EcrireParametre("OngletActif", Parametres);

@@ -5,12 +5,15 @@
 #include "machine/matieres.h"
 #include "work2d/apercu.h"
 #include "work2d/decoupe2d.h"
+#include "work2d/decoupe_interface.h"
 #include "work2d/dessin_table.h"
 #include "work2d/espace2d.h"
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
 #include <array>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -20,6 +23,7 @@ class QComboBox;
 class QFrame;
 class QLabel;
 class QMenu;
+class QMessageBox;
 class QPushButton;
 class QShortcut;
 class QSplitter;
@@ -34,8 +38,22 @@ class BandeauAtelier;
 class Canevas;
 class ChampNombre;
 class PanneauBibliotheque;
+class PanneauCourse;
 class PanneauSaisie;
 class PanneauSimulation;
+class TraceCourse;
+
+// A cut on the machine, from its start until the window is idle again.
+struct CourseMachine {
+    bool enCours = false;       // its loop runs
+    bool arretee = false;       // the wire stands on its way, the operator decides
+    bool fermerEnsuite = false; // the window was closed meanwhile
+    GenreDecoupe genre = GenreDecoupe::Decoupe;
+    DemandesMarche demandes;
+    Decoupe2D decoupe; // its SequenceDecoupe is what is left of the way
+    DecoupePreparee preparee;
+    ResultatDecoupe arret; // of the stop that waits
+};
 
 // A thin skin over Espace2D: it reads controls, calls the engine on TableINI, the current material and the
 // general parameters, and shows the result. The start-up must have filled those.
@@ -43,6 +61,7 @@ class frmTessarel2D : public QMainWindow {
     Q_OBJECT
 public:
     explicit frmTessarel2D(QWidget* parent = nullptr);
+    ~frmTessarel2D() override;
 
     // The project under work, as the commands left it.
     [[nodiscard]] const Espace2D& Espace() const { return m_espace; }
@@ -52,6 +71,9 @@ public:
     // The hand on the paths, and the film of the cut.
     [[nodiscard]] const Atelier2D& Atelier() const { return *m_atelier; }
     [[nodiscard]] const PanneauSimulation& Simulation() const { return *m_simulation; }
+    // The run on the machine, idle or not, and what it has drawn.
+    [[nodiscard]] const CourseMachine& Course() const { return m_course; }
+    [[nodiscard]] const TraceCourse& TraceMachine() const { return *m_trace; }
 
     // Opens a file as if chosen in the dialog. False after a box that says why; the work is then as it was.
     bool OuvrirFichier(const std::string& chemin);
@@ -59,6 +81,8 @@ public:
 public slots:
     // Shows the current machine and materials anew: another window has changed them.
     void ActualiserMachine();
+    // Looks for the interface box and shows what was found. Not while a cut runs.
+    void RafraichirInterface();
 
 signals:
     // The user wants the window of the machine's parameters, or that of the materials.
@@ -71,6 +95,9 @@ protected:
     void dropEvent(QDropEvent* evenement) override;
 
 private:
+    // Of the values, in the order of the layout.
+    enum { PageProjet = 0, PageDecoupe = 1, PageCourse = 2 };
+
     // Layout (frmTessarel2D_disposition.cpp)
     void Disposer();
     QWidget* DisposerOutils();
@@ -150,6 +177,25 @@ private:
     void ExporterGcode();
     std::string ChoisirFichierGcodeTS2D();
 
+    // The cut on the machine (frmTessarel2D_machine.cpp)
+    void RelierCourse();
+    void MontrerLiaison();
+    void DecouperSurMachine();
+    bool LancerCourse(bool origineAuto, bool suite);
+    void FinirCourse(const ResultatDecoupe& resultat, bool memeArret);
+    void FermerSiDemande();
+    void AttendreOperateur(const ResultatDecoupe& resultat);
+    void ReprendreDecoupe();
+    void LancerRetour(TrajetRetour trajet);
+    void AbandonnerDecoupe();
+    void RetourAuRepos();
+    void InitialiserBoutonsDecoupe(int enMarche);
+    void PrevenirSilence();
+    [[nodiscard]] SuiviDecoupe SuiviCourse();
+    // Before the window closes: stops a cut that runs. True when there was one: the window closes by itself
+    // once it stands.
+    bool ArreterPourFermer();
+
     Espace2D m_espace;
     Decoupe2D m_decoupe;
     OptionsDecoupe2D m_options;
@@ -160,6 +206,12 @@ private:
     std::string m_cheminOuvert;            // last file opened, and what it brought
     OuvertureFichier m_ouverture;
     std::vector<std::string> m_fichiersImportes; // drawings of this project: no export replaces them
+
+    CourseMachine m_course;
+    std::unique_ptr<TraceCourse> m_trace;
+    PanneauCourse* m_panneauCourse = nullptr;
+    QPointer<QMessageBox> m_alerteInterface; // over the window while the box does not answer
+    QToolButton* cmdRafraichirUsbTS2D = nullptr;
 
     Canevas* pctSequTS2D = nullptr;
     Canevas* pctDecoupe = nullptr;

@@ -16,6 +16,7 @@
 #include "work2d/resume.h"
 #include "work2d/ui/frmTessarel2D.h"
 #include "work2d/ui/panneau_simulation.h"
+#include "work2d/ui/trace_course.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -34,7 +35,6 @@ constexpr int DoublesZoneDepassee = 17;
 constexpr int DoublesPasDeTrace = 37;
 constexpr int DoublesPasDeTraceDansLeBloc = 53;
 constexpr int MessagesParDefaut = 105;
-constexpr int MessagesPasDInterface = 108;
 constexpr int MessagesExporte = 168;
 constexpr int MessagesGcodeSous = 174;
 constexpr int MessagesExtensionGcode = 175;
@@ -42,8 +42,6 @@ constexpr int MessagesDecouperExporter = 253; // the text is "Découper", the ti
 
 // What the told routine gives when the user gives up.
 constexpr const char* ChoixAnnule = "-100";
-
-enum Page { PageProjet = 0, PageDecoupe = 1 };
 
 template <std::size_t N>
 int OptionMise(const std::array<QToolButton*, N>& options) {
@@ -61,7 +59,7 @@ void MettreOption(const std::array<QToolButton*, N>& options, int rang) {
 } // namespace
 
 bool frmTessarel2D::DecoupeOuverte() const {
-    return m_pages->currentIndex() == PageDecoupe;
+    return m_pages->currentIndex() != PageProjet;
 }
 
 void frmTessarel2D::RemplirMatieres() {
@@ -102,6 +100,7 @@ void frmTessarel2D::OuvrirDecoupe() {
 void frmTessarel2D::FermerDecoupe() {
     m_simulation->Charger(nullptr);
     m_decoupe = {};
+    m_trace->Effacer();
     for (const Canevas::Couche couche : {Canevas::CoucheFond, Canevas::CoucheTrace}) {
         pctDecoupe->Montrer(couche, {});
     }
@@ -138,7 +137,7 @@ void frmTessarel2D::CalculerDecoupe() {
     const bool rien = m_decoupe.SequenceDecalee.Points.empty();
     if (!rien) {
         const std::string matiere = comboMatieres->currentText().toStdString();
-        information = PreparerResume(m_decoupe, m_options, TableINI, matiere).texte;
+        information = PreparerDecoupeTS2D(m_decoupe, m_options, TableINI, matiere).resume.texte;
     } else if (information.empty() && m_decoupe.decalagePossible) {
         information = TextesDoubles(DoublesPasDeTraceDansLeBloc, 1);
     }
@@ -188,7 +187,7 @@ void frmTessarel2D::LancerDecoupe() {
         ExporterGcode();
         return;
     }
-    AfficherExclamation(TextesMessages(MessagesPasDInterface), TitresMessages(MessagesPasDInterface));
+    DecouperSurMachine();
 }
 
 // The told save dialog: the path, "-100" on Cancel, an empty text after a refusal.

@@ -6,8 +6,10 @@
 #include "work2d/ui/bandeau_atelier.h"
 #include "work2d/ui/frmTessarel2D.h"
 #include "work2d/ui/panneau_bibliotheque.h"
+#include "work2d/ui/panneau_course.h"
 #include "work2d/ui/panneau_saisie.h"
 #include "work2d/ui/panneau_simulation.h"
+#include "work2d/ui/trace_course.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
@@ -138,6 +140,8 @@ void frmTessarel2D::Disposer() {
     m_pages->setFixedWidth(LargeurPage);
     m_pages->addWidget(DisposerPageProjet());
     m_pages->addWidget(DisposerPageDecoupe());
+    m_panneauCourse = new PanneauCourse;
+    m_pages->addWidget(m_panneauCourse);
 
     auto* centre = new QWidget;
     auto* rangee = new QHBoxLayout(centre);
@@ -177,6 +181,7 @@ QWidget* frmTessarel2D::DisposerVueProjet() {
 QWidget* frmTessarel2D::DisposerVueDecoupe() {
     pctDecoupe = Nommer(new Canevas, QStringLiteral("pctDecoupe"));
     m_simulation = new PanneauSimulation(*pctDecoupe);
+    m_trace = std::make_unique<TraceCourse>(*pctDecoupe);
     auto* vue = new QWidget;
     auto* colonne = new QVBoxLayout(vue);
     colonne->setContentsMargins(0, 0, 0, 0);
@@ -339,6 +344,10 @@ void frmTessarel2D::DisposerBarreEtat() {
     cmdRapportOuverture->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     cmdRapportOuverture->setAutoRaise(true);
     statusBar()->addPermanentWidget(cmdRapportOuverture);
+    cmdRafraichirUsbTS2D = Nommer(new QToolButton, QStringLiteral("cmdRafraichirUsbTS2D"));
+    cmdRafraichirUsbTS2D->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    cmdRafraichirUsbTS2D->setAutoRaise(true);
+    statusBar()->addPermanentWidget(cmdRafraichirUsbTS2D);
     for (QLabel* etiquette : {lblProjet, lblMachine, lblCoordonnees}) {
         etiquette->setContentsMargins(8, 0, 8, 0);
         statusBar()->addPermanentWidget(etiquette);

@@ -291,6 +291,7 @@ void frmTessarel2D::ExporterDxf() {
 }
 
 void frmTessarel2D::dragEnterEvent(QDragEnterEvent* evenement) {
+    if (m_course.enCours || m_course.arretee) return; // nothing takes its path from under the wire
     if (!CheminsDeposes(*evenement->mimeData()).empty()) evenement->acceptProposedAction();
 }
 

@@ -1,0 +1,265 @@
+// The cut on the machine: the link, the run with its page and its drawing, what may follow a stop, and a
+// window that is closed meanwhile.
+#include "app/texts/textes.h"
+#include "app/texts/textes_programme.h"
+#include "link/etat_interface.h"
+#include "link/rafraichir.h"
+#include "ui/boites_qt.h"
+#include "ui/icones.h"
+#include "work2d/ui/frmTessarel2D.h"
+#include "work2d/ui/panneau_bibliotheque.h"
+#include "work2d/ui/panneau_course.h"
+#include "work2d/ui/panneau_simulation.h"
+#include "work2d/ui/trace_course.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QKeySequence>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QTimer>
+#include <QToolButton>
+
+namespace tessarel {
+
+namespace {
+
+constexpr int MessagesEtatLiaison = 247; // the text: no interface, the title: moves disabled
+constexpr int DoublesChauffeNonCoupee = 40;
+
+// Up while the loop of a run is under way, whatever way it ends.
+class Drapeau {
+public:
+    explicit Drapeau(bool& drapeau) : m_drapeau(drapeau) { m_drapeau = true; }
+    ~Drapeau() { m_drapeau = false; }
+    Drapeau(const Drapeau&) = delete;
+    Drapeau& operator=(const Drapeau&) = delete;
+
+private:
+    bool& m_drapeau;
+};
+
+} // namespace
+
+void frmTessarel2D::RelierCourse() {
+    connect(cmdRafraichirUsbTS2D, &QToolButton::clicked, this, &frmTessarel2D::RafraichirInterface);
+    connect(m_panneauCourse, &PanneauCourse::StopDemande, this,
+            [this] { m_course.demandes.StopDemande = true; });
+    connect(m_panneauCourse, &PanneauCourse::ChauffeVoulue, this, [this](double pourcent) {
+        m_course.demandes.ChauffeVoulue = static_cast<float>(pourcent);
+        m_course.demandes.ChauffeModifiee = true;
+    });
+    connect(m_panneauCourse, &PanneauCourse::RepriseDemandee, this, &frmTessarel2D::ReprendreDecoupe);
+    connect(m_panneauCourse, &PanneauCourse::RetourDemande, this, &frmTessarel2D::LancerRetour);
+    connect(m_panneauCourse, &PanneauCourse::AbandonDemande, this, &frmTessarel2D::AbandonnerDecoupe);
+    MontrerLiaison();
+}
+
+void frmTessarel2D::RafraichirInterface() {
+    if (m_course.enCours) return;
+    const std::string machine = TableINI.Nom;
+    RafraichirUsb(TS2D);
+    if (TableINI.Nom == machine) {
+        MontrerLiaison();
+        return;
+    }
+    // The steps of a stop say nothing to another machine.
+    if (m_course.arretee) AbandonnerDecoupe();
+    ActualiserMachine();
+}
+
+void frmTessarel2D::MontrerLiaison() {
+    std::string etat = Texte(TexteProgramme::Fenetre2DMouvementsActifs);
+    if (!InterfaceConnectee)
+        etat = TextesMessages(MessagesEtatLiaison);
+    else if (!MouvementsActifs)
+        etat = TitresMessages(MessagesEtatLiaison);
+    const QKeySequence touches = cmdRafraichirUsbTS2D->shortcut();
+    cmdRafraichirUsbTS2D->setText(TexteAffiche(etat));
+    cmdRafraichirUsbTS2D->setShortcut(touches); // other words take the keys away
+    cmdRafraichirUsbTS2D->setIcon(
+        Icone(InterfaceConnectee ? QStringLiteral("interface") : QStringLiteral("interface-absente")));
+    lblMachine->setText(TexteAffiche(TexteRempli(TexteProgramme::Fenetre2DEtatMachine, {TableINI.Nom})));
+}
+
+void frmTessarel2D::DecouperSurMachine() {
+    if (m_course.enCours || m_course.arretee) return;
+    const std::string machine = TableINI.Nom;
+    AvantDecoupe avant = AvantDecoupe::SansInterface;
+    {
+        const Drapeau occupee(m_course.enCours); // its boxes let events run
+        avant = VerifierAvantDecoupe();
+    }
+    // The settings gave another machine than the cut was made for: it is shown before anything moves.
+    if (TableINI.Nom != machine) {
+        ActualiserMachine();
+        return;
+    }
+    MontrerLiaison();
+    if (avant == AvantDecoupe::OuvrirParametrage) emit ParametrerMachine();
+    if (avant != AvantDecoupe::Permise) return;
+    m_course.genre = GenreDecoupe::Decoupe;
+    m_course.decoupe = m_decoupe;
+    LancerCourse(TableINI.OrigineAutomatique, false);
+}
+
+SuiviDecoupe frmTessarel2D::SuiviCourse() {
+    SuiviDecoupe suivi;
+    suivi.demandes = &m_course.demandes;
+    suivi.ChangerPhase = [this](PhaseDecoupe phase) { m_panneauCourse->MontrerPhase(phase); };
+    suivi.Avancer = [this](const AvanceeDecoupe& avancee) {
+        delete m_alerteInterface; // it answers
+        if (m_trace->Avancer(avancee)) m_panneauCourse->MontrerAvancee(avancee);
+    };
+    suivi.Prevenir = [this] { PrevenirSilence(); };
+    return suivi;
+}
+
+// Beside the loop, not instead of it: it goes on trying while the user reads.
+void frmTessarel2D::PrevenirSilence() {
+    if (m_alerteInterface) return;
+    m_alerteInterface = new QMessageBox(this);
+    PreparerBoite(*m_alerteInterface,
+                  {Texte(TexteProgramme::BoitierMuet), TextesDoubles(DoublesChauffeNonCoupee, 2),
+                   IconeBoite::Critique, BoutonsBoite::Ok});
+    m_alerteInterface->setObjectName(QStringLiteral("alerteInterface"));
+    m_alerteInterface->button(QMessageBox::Ok)
+        ->setText(TexteAffiche(Texte(TexteProgramme::BoutonAbandonner)));
+    connect(m_alerteInterface, &QMessageBox::buttonClicked, this, [this] {
+        m_course.demandes.StopDemande = true;
+        m_alerteInterface->deleteLater();
+        m_alerteInterface.clear(); // the next silence is told anew
+    });
+    m_alerteInterface->open();
+}
+
+// `suite`: the rest of a stopped cut, or the way back from it. False when the wire stands where it stood.
+bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
+    m_course.preparee = PreparerDecoupeTS2D(m_course.decoupe, m_options, TableINI,
+                                            comboMatieres->currentText().toStdString());
+    if (!m_course.preparee.possible) return false;
+    m_course.arretee = false;
+    m_course.fermerEnsuite = false;
+    m_course.demandes = {};
+    InitialiserBoutonsDecoupe(1);
+    m_panneauCourse->Commencer({m_course.genre, static_cast<double>(m_options.chauffe),
+                                static_cast<double>(TableINI.ChauffeMaxiSur100),
+                                m_course.preparee.resume.texte});
+    m_course.demandes.ChauffeModifiee = false;
+    m_trace->Commencer(m_course.decoupe.SequenceDecoupe, m_course.genre, suite);
+    ResultatDecoupe resultat;
+    try {
+        const Drapeau enCours(m_course.enCours);
+        resultat = LancerDecoupeTS2D(m_course.preparee, TableINI, origineAuto, SuiviCourse(), m_course.genre);
+        delete m_alerteInterface;
+    } catch (...) {
+        // The engine has stopped the wire and told of its heat; the fault itself is told further up.
+        delete m_alerteInterface;
+        RetourAuRepos();
+        throw;
+    }
+    const bool partie = resultat.fin != FinDecoupe::StopAvantDecoupe && resultat.fin != FinDecoupe::Refusee;
+    FinirCourse(resultat, suite && !partie);
+    return partie;
+}
+
+// `memeArret`: the rest of a cut did not begin to move, and the operator decides again.
+void frmTessarel2D::FinirCourse(const ResultatDecoupe& resultat, bool memeArret) {
+    if (memeArret)
+        AttendreOperateur(m_course.arret);
+    else if (resultat.fin == FinDecoupe::Arretee)
+        AttendreOperateur(resultat);
+    else
+        RetourAuRepos();
+    MontrerLiaison();
+    if (m_course.fermerEnsuite && m_course.arretee)
+        AbandonnerDecoupe();
+    else
+        FermerSiDemande();
+}
+
+void frmTessarel2D::FermerSiDemande() {
+    if (!m_course.fermerEnsuite) return;
+    m_course.fermerEnsuite = false;
+    // Not from here: whoever pressed the button that started the run is still in it.
+    QTimer::singleShot(0, this, &QWidget::close);
+}
+
+void frmTessarel2D::AttendreOperateur(const ResultatDecoupe& resultat) {
+    m_course.arretee = true;
+    m_course.arret = resultat;
+    cmdRafraichirUsbTS2D->setEnabled(true); // a box that was unplugged is found again
+    m_panneauCourse->MontrerArret(resultat.NumSalveCourante);
+}
+
+void frmTessarel2D::ReprendreDecoupe() {
+    if (m_course.enCours || !m_course.arretee) return;
+    const Sequence avant = m_course.decoupe.SequenceDecoupe;
+    m_course.decoupe.SequenceDecoupe =
+        SequenceDeReprise(avant, m_course.arret.NumSalveCourante, m_course.arret.PositionStop.pas, TableINI);
+    if (!LancerCourse(false, true) && m_course.arretee) m_course.decoupe.SequenceDecoupe = avant;
+}
+
+void frmTessarel2D::LancerRetour(TrajetRetour trajet) {
+    if (m_course.enCours || !m_course.arretee) return;
+    const Sequence avant = m_course.decoupe.SequenceDecoupe;
+    const GenreDecoupe genre = m_course.genre;
+    m_course.genre = GenreDecoupe::Retour;
+    m_course.decoupe.SequenceDecoupe =
+        SequenceDeRetour(m_course.arret.NumSalveCourante, m_course.arret.PositionStop.pas, trajet,
+                         VitesseEnVigueur(m_options, TableINI), TableINI);
+    if (LancerCourse(false, true) || !m_course.arretee) return;
+    m_course.decoupe.SequenceDecoupe = avant;
+    m_course.genre = genre;
+}
+
+void frmTessarel2D::AbandonnerDecoupe() {
+    if (m_course.enCours || !m_course.arretee) return;
+    m_course.demandes = {};
+    {
+        const Drapeau occupee(m_course.enCours);
+        AnnulerReprise(SuiviCourse());
+        delete m_alerteInterface;
+    }
+    RetourAuRepos();
+    FermerDecoupe();
+    FermerSiDemande();
+}
+
+void frmTessarel2D::RetourAuRepos() {
+    m_course.arretee = false;
+    m_course.decoupe = {};
+    m_course.arret = {};
+    m_panneauCourse->Finir();
+    m_trace->Effacer();
+    InitialiserBoutonsDecoupe(0);
+    TraceDecoupe();
+}
+
+// 1: a cut runs, and nothing is at hand that could touch it; 0: idle.
+void frmTessarel2D::InitialiserBoutonsDecoupe(int enMarche) {
+    const bool libre = enMarche == 0;
+    m_simulation->Arreter();
+    m_simulation->setEnabled(libre);
+    m_pages->setCurrentIndex(libre ? PageDecoupe : PageCourse);
+    cmdAnnulerDecoupe->setEnabled(libre);
+    m_bibliotheque->setEnabled(libre);
+    for (QToolButton* commande :
+         {cmdNouveauProjetTS2D, cmdOuvrirFichierTS2D, cmdRecents, cmdActualiserSauvegarde, cmdSauverTS2D,
+          cmdExporterDXF, cmdBibliotheque, cmdMatieres, cmdParametresMachine, cmdAide, cmdRapportOuverture,
+          cmdRafraichirUsbTS2D})
+        commande->setEnabled(libre);
+    raccourciEnregistrer->setEnabled(libre && m_espace.cheminProjet.empty());
+}
+
+bool frmTessarel2D::ArreterPourFermer() {
+    if (!m_course.enCours) return false;
+    m_course.fermerEnsuite = true;
+    m_course.demandes.StopDemande = true;
+    return true;
+}
+
+} // namespace tessarel

@@ -1,0 +1,245 @@
+// The page of a cut that runs on the machine.
+#include "work2d/ui/panneau_course.h"
+
+#include "app/texts/textes.h"
+#include "platform/nombres.h"
+#include "ui/boites_qt.h"
+
+#include <QGroupBox>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <cmath>
+
+namespace tessarel {
+
+namespace {
+
+// Rows of the messages.
+constexpr int MessagesArret = 172;             // its title: "Arrêt sur le segment n° "
+constexpr int MessagesMiseEnTemperature = 189; // "Mise en température du fil"
+constexpr int MessagesAvancee = 190;           // "Chauffe ", and its title "Découpe segment n°"
+// One step of the slider is half a percent.
+constexpr double PasParPourcent = 2;
+constexpr int BarrePleine = 1000;
+constexpr int HauteurBouton = 40; // pixels
+constexpr int HauteurStop = 64;
+// The one button that must be found without looking for it; the same on a light and on a dark ground.
+constexpr const char* StyleStop =
+    "QPushButton { background: #c92a2a; color: white; border: 1px solid #8f1d1d; border-radius: 6px; }"
+    "QPushButton:hover, QPushButton:focus { background: #e03131; }"
+    "QPushButton:pressed { background: #a51f1f; }"
+    "QPushButton:disabled { background: palette(button); color: palette(mid); border-color: palette(mid); }";
+
+template <typename Controle>
+Controle* Nommer(Controle* controle, const char* nom) {
+    controle->setObjectName(QString::fromLatin1(nom));
+    return controle;
+}
+
+QPushButton* Bouton(const char* nom, bool gras = false) {
+    auto* bouton = Nommer(new QPushButton, nom);
+    bouton->setMinimumHeight(HauteurBouton);
+    bouton->setIconSize({24, 24});
+    QFont police = bouton->font();
+    police.setBold(gras);
+    bouton->setFont(police);
+    return bouton;
+}
+
+QPushButton* BoutonStop(const char* nom) {
+    QPushButton* bouton = Bouton(nom, true);
+    bouton->setMinimumHeight(HauteurStop);
+    bouton->setStyleSheet(QString::fromLatin1(StyleStop));
+    return bouton;
+}
+
+QProgressBar* Barre(const char* nom) {
+    auto* barre = Nommer(new QProgressBar, nom);
+    barre->setRange(0, BarrePleine);
+    barre->setTextVisible(false);
+    return barre;
+}
+
+} // namespace
+
+PanneauCourse::PanneauCourse(QWidget* parent) : QWidget(parent) {
+    auto* page = new QVBoxLayout(this);
+    page->setSpacing(8);
+    page->addWidget(DisposerEtat());
+    page->addWidget(DisposerChauffe());
+    page->addWidget(DisposerReprise());
+    page->addStretch(1);
+    cmdSTOP = BoutonStop("cmdSTOP");
+    cmdStopRetourApresReprise = BoutonStop("cmdStopRetourApresReprise");
+    for (QPushButton* stop : {cmdSTOP, cmdStopRetourApresReprise}) {
+        page->addWidget(stop);
+        connect(stop, &QPushButton::clicked, this, &PanneauCourse::StopDemande);
+    }
+    Finir();
+}
+
+QGroupBox* PanneauCourse::DisposerEtat() {
+    auto* groupe = Nommer(new QGroupBox, "frameCourse");
+    auto* pose = new QVBoxLayout(groupe);
+    lblAvertissementDecoupe = Nommer(new QLabel, "lblAvertissementDecoupe");
+    QFont police = lblAvertissementDecoupe->font();
+    police.setBold(true);
+    police.setPointSizeF(police.pointSizeF() * 1.25);
+    lblAvertissementDecoupe->setFont(police);
+    lblAvertissementDecoupe->setWordWrap(true);
+    pose->addWidget(lblAvertissementDecoupe);
+    progrbarChauffe = Barre("progrbarChauffe");
+    progrbarDecoupe = Barre("progrbarDecoupe");
+    pose->addWidget(progrbarChauffe);
+    pose->addWidget(progrbarDecoupe);
+    lblResumeCourse = Nommer(new QLabel, "lblResumeCourse");
+    lblResumeCourse->setWordWrap(true);
+    lblResumeCourse->setTextFormat(Qt::PlainText);
+    pose->addWidget(lblResumeCourse);
+    return groupe;
+}
+
+QGroupBox* PanneauCourse::DisposerChauffe() {
+    optChauffePendantDecoupe = Nommer(new QGroupBox, "optChauffePendantDecoupe");
+    auto* pose = new QHBoxLayout(optChauffePendantDecoupe);
+    hscChauffePendantDecoupe = Nommer(new QScrollBar(Qt::Horizontal), "hscChauffePendantDecoupe");
+    hscChauffePendantDecoupe->setMinimumHeight(22);
+    hscChauffePendantDecoupe->setPageStep(static_cast<int>(PasParPourcent));
+    lblChauffePendantDecoupe = Nommer(new QLabel, "lblChauffePendantDecoupe");
+    lblChauffePendantDecoupe->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblChauffePendantDecoupe->setMinimumWidth(
+        lblChauffePendantDecoupe->fontMetrics().horizontalAdvance(QStringLiteral("100.0 %")));
+    pose->addWidget(hscChauffePendantDecoupe, 1);
+    pose->addWidget(lblChauffePendantDecoupe);
+    connect(hscChauffePendantDecoupe, &QScrollBar::valueChanged, this, &PanneauCourse::DemanderChauffe);
+    // Put back where it was, the heat goes out once more: that is how a user makes sure.
+    connect(hscChauffePendantDecoupe, &QScrollBar::sliderReleased, this, &PanneauCourse::DemanderChauffe);
+    return optChauffePendantDecoupe;
+}
+
+QGroupBox* PanneauCourse::DisposerReprise() {
+    pctRepriseDecoupe = Nommer(new QGroupBox, "pctRepriseDecoupe");
+    auto* pose = new QVBoxLayout(pctRepriseDecoupe);
+    lblNumSegmentStop = Nommer(new QLabel, "lblNumSegmentStop");
+    pose->addWidget(lblNumSegmentStop);
+    cmdRepriseDecoupe = Bouton("cmdRepriseDecoupe", true);
+    pose->addWidget(cmdRepriseDecoupe);
+    pose->addSpacing(12);
+    constexpr std::array<const char*, 2> noms = {"optTrajetRetour_0", "optTrajetRetour_1"};
+    for (std::size_t i = 0; i < noms.size(); ++i) {
+        optTrajetRetour[i] = Nommer(new QRadioButton, noms[i]);
+        pose->addWidget(optTrajetRetour[i]);
+    }
+    optTrajetRetour[0]->setChecked(true);
+    cmdLancerRetourApresStop = Bouton("cmdLancerRetourApresStop");
+    pose->addWidget(cmdLancerRetourApresStop);
+    pose->addSpacing(12);
+    cmdAnnulerReprise = Bouton("cmdAnnulerReprise");
+    pose->addWidget(cmdAnnulerReprise);
+    connect(cmdRepriseDecoupe, &QPushButton::clicked, this, &PanneauCourse::RepriseDemandee);
+    connect(cmdLancerRetourApresStop, &QPushButton::clicked, this, [this] {
+        emit RetourDemande(optTrajetRetour[1]->isChecked() ? TrajetRetour::ParLeBord : TrajetRetour::Direct);
+    });
+    connect(cmdAnnulerReprise, &QPushButton::clicked, this, &PanneauCourse::AbandonDemande);
+    return pctRepriseDecoupe;
+}
+
+void PanneauCourse::DemanderChauffe() {
+    const double pourcent = hscChauffePendantDecoupe->value() / PasParPourcent;
+    lblChauffePendantDecoupe->setText(
+        QString::fromStdString(PointVersSeparateur(FormaterNombre(pourcent, "##0.0")) + " %"));
+    emit ChauffeVoulue(pourcent);
+}
+
+void PanneauCourse::Commencer(const Depart& depart) {
+    m_genre = depart.genre;
+    lblResumeCourse->setText(TexteAffiche(depart.resume));
+    pctRepriseDecoupe->hide();
+    optChauffePendantDecoupe->hide();
+    progrbarChauffe->hide();
+    progrbarDecoupe->hide();
+    {
+        const QSignalBlocker muet(hscChauffePendantDecoupe);
+        hscChauffePendantDecoupe->setRange(
+            0, static_cast<int>(std::lround(depart.chauffeMaxi * PasParPourcent)));
+        hscChauffePendantDecoupe->setValue(static_cast<int>(std::lround(depart.chauffe * PasParPourcent)));
+        DemanderChauffe();
+    }
+    lblAvertissementDecoupe->clear();
+    PermettreStop(true);
+}
+
+void PanneauCourse::PermettreStop(bool permis) {
+    const bool retour = m_genre == GenreDecoupe::Retour;
+    cmdSTOP->setVisible(permis && !retour);
+    cmdStopRetourApresReprise->setVisible(permis && retour);
+    cmdSTOP->setEnabled(permis && !retour);
+    cmdStopRetourApresReprise->setEnabled(permis && retour);
+    if (permis) (retour ? cmdStopRetourApresReprise : cmdSTOP)->setFocus();
+}
+
+void PanneauCourse::MontrerPhase(PhaseDecoupe phase) {
+    switch (phase) {
+    case PhaseDecoupe::Origine:
+        lblAvertissementDecoupe->setText(TexteAffiche(TextesEtats(EtatOrigine)));
+        break;
+    case PhaseDecoupe::Chauffe:
+        lblAvertissementDecoupe->setText(TexteAffiche(TextesMessages(MessagesMiseEnTemperature)));
+        progrbarChauffe->setValue(0);
+        progrbarChauffe->show();
+        break;
+    case PhaseDecoupe::Decoupe:
+    case PhaseDecoupe::Retour:
+        progrbarChauffe->hide();
+        progrbarDecoupe->setValue(0);
+        progrbarDecoupe->show();
+        optChauffePendantDecoupe->show();
+        break;
+    case PhaseDecoupe::Repos:
+    case PhaseDecoupe::Arretee:
+        break;
+    }
+}
+
+void PanneauCourse::MontrerAvancee(const AvanceeDecoupe& avancee) {
+    if (avancee.phase == PhaseDecoupe::Chauffe) {
+        lblAvertissementDecoupe->setText(TexteAffiche(TextesMessages(MessagesAvancee) +
+                                                      std::to_string(avancee.secondesRestantes) + "/" +
+                                                      std::to_string(avancee.secondesChauffe)));
+        progrbarChauffe->setValue(static_cast<int>(avancee.fraction * BarrePleine));
+        return;
+    }
+    lblAvertissementDecoupe->setText(TexteAffiche(TitresMessages(MessagesAvancee) +
+                                                  std::to_string(avancee.NumSalveCourante) + "/" +
+                                                  std::to_string(avancee.sommets)));
+    // Frame k goes to vertex k; the wire stands on the first one.
+    const double faits = avancee.NumSalveCourante - 2 + avancee.fraction;
+    progrbarDecoupe->setValue(static_cast<int>(faits / (avancee.sommets - 1) * BarrePleine));
+}
+
+void PanneauCourse::MontrerArret(std::int32_t numero) {
+    PermettreStop(false);
+    progrbarChauffe->hide();
+    optChauffePendantDecoupe->hide();
+    lblAvertissementDecoupe->setText(TexteAffiche(TextesEtats(EtatArrete)));
+    lblNumSegmentStop->setText(TexteAffiche(TitresMessages(MessagesArret) + std::to_string(numero)));
+    pctRepriseDecoupe->show();
+    cmdRepriseDecoupe->setFocus();
+}
+
+void PanneauCourse::Finir() {
+    PermettreStop(false);
+    pctRepriseDecoupe->hide();
+    optChauffePendantDecoupe->hide();
+    progrbarChauffe->hide();
+    progrbarDecoupe->hide();
+    lblAvertissementDecoupe->clear();
+    lblNumSegmentStop->clear();
+}
+
+} // namespace tessarel

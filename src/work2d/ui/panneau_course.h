@@ -1,0 +1,73 @@
+// The page of a cut that runs on the machine: what it does now, its heat, Stop, and what may follow a stop.
+#pragma once
+
+#include "work2d/decoupe_interface.h"
+
+#include <QWidget>
+#include <array>
+
+class QGroupBox;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QRadioButton;
+class QScrollBar;
+class QVBoxLayout;
+
+namespace tessarel {
+
+// Shows and asks, drives nothing: its signals come while the loop of the run lets events go, so whoever hears
+// them sets flags, but for those of the stop panel, which come when the run has ended.
+class PanneauCourse : public QWidget {
+    Q_OBJECT
+public:
+    explicit PanneauCourse(QWidget* parent = nullptr);
+
+    // Heat in percent: at the start, and at most.
+    struct Depart {
+        GenreDecoupe genre = GenreDecoupe::Decoupe;
+        double chauffe = 0;
+        double chauffeMaxi = 0;
+        std::string resume;
+    };
+    void Commencer(const Depart& depart);
+    void MontrerPhase(PhaseDecoupe phase);
+    void MontrerAvancee(const AvanceeDecoupe& avancee);
+    // The run stands in frame `numero`: the operator decides.
+    void MontrerArret(std::int32_t numero);
+    // Nothing runs, nothing waits.
+    void Finir();
+
+signals:
+    void StopDemande();
+    void ChauffeVoulue(double pourcent);
+    void RepriseDemandee();
+    void RetourDemande(tessarel::TrajetRetour trajet);
+    void AbandonDemande();
+
+private:
+    QGroupBox* DisposerEtat();
+    QGroupBox* DisposerChauffe();
+    QGroupBox* DisposerReprise();
+    void DemanderChauffe();
+    void PermettreStop(bool permis);
+
+    GenreDecoupe m_genre = GenreDecoupe::Decoupe;
+    QLabel* lblAvertissementDecoupe = nullptr;
+    QProgressBar* progrbarChauffe = nullptr;
+    QProgressBar* progrbarDecoupe = nullptr;
+    QLabel* lblResumeCourse = nullptr;
+    QGroupBox* optChauffePendantDecoupe = nullptr;
+    QScrollBar* hscChauffePendantDecoupe = nullptr;
+    QLabel* lblChauffePendantDecoupe = nullptr;
+    QPushButton* cmdSTOP = nullptr;
+    QPushButton* cmdStopRetourApresReprise = nullptr;
+    QGroupBox* pctRepriseDecoupe = nullptr;
+    QLabel* lblNumSegmentStop = nullptr;
+    QPushButton* cmdRepriseDecoupe = nullptr;
+    std::array<QRadioButton*, 2> optTrajetRetour{};
+    QPushButton* cmdLancerRetourApresStop = nullptr;
+    QPushButton* cmdAnnulerReprise = nullptr;
+};
+
+} // namespace tessarel

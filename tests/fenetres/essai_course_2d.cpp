@@ -1,0 +1,463 @@
+// A cut on the virtual machine from the 2D window, button by button: heating, cutting, stop, resume, return,
+// giving up, a box that is lost, a window that is closed meanwhile. After each the box's own record says that
+// the wire is cold, or the user was told.
+#include "fenetres/boite_des_fenetres.h"
+#include "fenetres/images.h"
+#include "fenetres/poste_2d.h"
+#include "fenetres/poste_machine.h"
+#include "ui/boites_qt.h"
+#include "ui/theme.h"
+#include "work2d/ui/libelles_2d.h"
+#include "work2d/ui/panneau_bibliotheque.h"
+#include "work2d/ui/trace_course.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QToolButton>
+
+#include <algorithm>
+
+using namespace tessarel;
+using namespace tessarel::essais;
+
+namespace {
+
+// The rectangle in its block, the cut page open, the machine in memory 1 of the box.
+struct Coupe {
+    explicit Coupe(Langue langue = Langue::Francais)
+        : poste(langue), virtuelle(std::chrono::milliseconds(200)) {
+        virtuelle.Memoriser(TableINI);
+        poste.OuvrirFenetre();
+        poste.Deposer({poste.Fichier("rectangle.txt", RectangleTexte)});
+        for (const char* regle : {"chkCentrer_1", "chkCentrer_2"}) poste.Cliquer<QCheckBox>(regle);
+        poste.Cliquer<QPushButton>("cmdDecouper");
+    }
+    void Lancer() { poste.Cliquer<QPushButton>("cmdLancerLaDecoupeTS2D"); }
+    [[nodiscard]] QString Avertissement() const {
+        return poste.Trouver<QLabel>("lblAvertissementDecoupe").text();
+    }
+    // Runs `geste` once, when the words of the run first begin so.
+    void Quand(const QString& debut, std::function<void()> geste) {
+        fait = false;
+        virtuelle.SurPompe = [this, debut, geste = std::move(geste)] {
+            if (fait || !Avertissement().startsWith(debut)) return;
+            fait = true;
+            geste();
+        };
+    }
+    void StopQuand(const QString& debut) {
+        Quand(debut, [this] { poste.Cliquer<QPushButton>("cmdSTOP"); });
+    }
+    void Arreter() {
+        StopQuand(QStringLiteral("Découpe segment n°4/"));
+        Lancer();
+        virtuelle.SurPompe = {};
+    }
+    [[nodiscard]] bool FilFroid() const {
+        const auto etat = virtuelle.boite->Etat();
+        return etat.pwmCommande == 0 && etat.file == simulateur::EtatFile::Repos;
+    }
+    [[nodiscard]] bool Dit(IconeBoite icone) const {
+        return std::ranges::any_of(poste.boites.boites, [icone](const Boite& b) { return b.icone == icone; });
+    }
+    // Idle: the launch button is there, Stop is not.
+    [[nodiscard]] bool AuRepos() const {
+        return poste.Trouver<QPushButton>("cmdLancerLaDecoupeTS2D").isVisible() &&
+               poste.Trouver<QPushButton>("cmdAnnulerDecoupe").isEnabled() &&
+               !poste.Trouver<QPushButton>("cmdSTOP").isEnabled() &&
+               poste.Trouver<QToolButton>("cmdOuvrirFichierTS2D").isEnabled() &&
+               !poste.fenetre->Course().enCours && !poste.fenetre->Course().arretee;
+    }
+    // Steps that the cut shown asks of each axis, both ways together, as the box counts them.
+    [[nodiscard]] std::array<std::uint64_t, 4> PasVoulus() const {
+        const TrajetPas trajet =
+            CalculerTrajetPas(poste.fenetre->DecoupeMontree().SequenceDecoupe.Points, TableINI);
+        std::array<std::uint64_t, 4> pas = {};
+        const auto ecart = [](std::int32_t a, std::int32_t b) {
+            return static_cast<std::uint64_t>(std::abs(std::int64_t{a} - b));
+        };
+        for (std::size_t i = 2; i < trajet.bout1.size(); ++i) {
+            pas[AxeX1] += ecart(trajet.bout1[i].X, trajet.bout1[i - 1].X);
+            pas[AxeY1] += ecart(trajet.bout1[i].Y, trajet.bout1[i - 1].Y);
+            pas[AxeX2] += ecart(trajet.bout2[i].X, trajet.bout2[i - 1].X);
+            pas[AxeY2] += ecart(trajet.bout2[i].Y, trajet.bout2[i - 1].Y);
+        }
+        return pas;
+    }
+    Poste2D poste;
+    BoiteDesFenetres virtuelle;
+    bool fait = false;
+};
+
+} // namespace
+
+class EssaiCourse2D : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { AppliquerTheme(Theme::Clair); }
+
+    void UneDecoupeVaAuBout();
+    void PendantLaDecoupeRienDAutreNEstAPortee();
+    void StopPendantLaChauffe();
+    void LaChauffeSuitLeCurseur();
+    void RepriseApresStop();
+    void StopPendantLaChauffeDeLaReprise();
+    void RetourApresStop_data();
+    void RetourApresStop();
+    void StopPendantLeRetour();
+    void AbandonApresStop();
+    void LaBoitePerdueEstDite();
+    void LeBoutonDeLaMachineArrete();
+    void SansInterfaceLaDecoupeEstRefusee();
+    void FermerEnPleineDecoupe();
+    void FermerApresUnStop();
+    void SansCorrespondanceOnPeutOuvrirLesReglages();
+    void LInterfaceSeRafraichit();
+    void Images_data();
+    void Images();
+};
+
+void EssaiCourse2D::UneDecoupeVaAuBout() {
+    Coupe coupe;
+    QStringList vus;
+    int pwm = 0;
+    std::size_t traces = 0;
+    bool barre = false;
+    coupe.virtuelle.SurPompe = [&] {
+        const QString mot = coupe.Avertissement();
+        if (vus.isEmpty() || vus.back() != mot) vus << mot;
+        pwm = std::max(pwm, int(coupe.virtuelle.boite->Etat().pwmCommande));
+        traces = std::max(traces, coupe.poste.fenetre->TraceMachine().DejaCoupe().size());
+        const auto& chauffe = coupe.poste.Trouver<QProgressBar>("progrbarChauffe");
+        barre = barre || (chauffe.isVisible() && chauffe.value() > 500);
+    };
+    coupe.Lancer();
+    coupe.virtuelle.SurPompe = {};
+    const auto sommets = coupe.poste.fenetre->DecoupeMontree().SequenceDecoupe.Points.size();
+    const QString tempo = QString::number(TempoChauffePourChauffe(0, TableINI));
+    QVERIFY(vus.contains(QStringLiteral("Mise en température du fil")));
+    QVERIFY2(vus.contains(QStringLiteral("Chauffe 1/%1").arg(tempo)), qPrintable(vus.join(u'|')));
+    for (std::size_t k = 2; k <= sommets; ++k)
+        QVERIFY2(vus.contains(QStringLiteral("Découpe segment n°%1/%2").arg(k).arg(sommets)),
+                 qPrintable(vus.join(u'|')));
+    QVERIFY(barre);
+    QVERIFY(pwm > 0);
+    QCOMPARE(traces, sommets - 1);
+    QCOMPARE(coupe.poste.NombreBoites(), std::size_t(1));
+    QCOMPARE(coupe.poste.DerniereBoite().texte,
+             std::string("Découpe terminée, fil en position de repos, chauffe coupée."));
+    QCOMPARE(coupe.poste.DerniereBoite().titre, std::string("machine disponible"));
+    QVERIFY(coupe.FilFroid());
+    QVERIFY(coupe.virtuelle.boite->Comptes().pas == coupe.PasVoulus());
+    QVERIFY(coupe.virtuelle.boite->Position() == simulateur::PositionPas{});
+    QVERIFY(coupe.AuRepos());
+}
+
+void EssaiCourse2D::PendantLaDecoupeRienDAutreNEstAPortee() {
+    Coupe coupe;
+    const std::size_t avant = coupe.poste.fenetre->Espace().TableauSequences.size();
+    coupe.Quand(QStringLiteral("Découpe segment n°3/"), [&] {
+        for (const char* nom : {"cmdNouveauProjetTS2D", "cmdOuvrirFichierTS2D", "cmdParametresMachine",
+                                "cmdMatieres", "cmdAide", "cmdRafraichirUsbTS2D", "cmdSimulation"})
+            QVERIFY2(!coupe.poste.Trouver<QToolButton>(nom).isEnabled(), nom);
+        QVERIFY(!coupe.poste.Trouver<QPushButton>("cmdAnnulerDecoupe").isEnabled());
+        QVERIFY(!coupe.poste.Trouver<QWidget>("frameDecalage").isVisible());
+        QVERIFY(coupe.poste.Trouver<QPushButton>("cmdSTOP").isEnabled());
+        coupe.poste.Deposer({coupe.poste.Fichier("autre.txt", DeuxTracesTexte)});
+    });
+    coupe.Lancer();
+    QVERIFY(coupe.fait);
+    QCOMPARE(coupe.poste.fenetre->Espace().TableauSequences.size(), avant);
+    QVERIFY(coupe.AuRepos());
+}
+
+void EssaiCourse2D::StopPendantLaChauffe() {
+    Coupe coupe;
+    coupe.StopQuand(QStringLiteral("Chauffe "));
+    coupe.Lancer();
+    QVERIFY(coupe.fait);
+    QCOMPARE(coupe.poste.DerniereBoite().titre, std::string("Arrêt pendant la chauffe"));
+    QCOMPARE(
+        coupe.poste.DerniereBoite().texte,
+        std::string("Le bouton Stop a été appuyé avant le début du mouvement.\r\nLa chauffe est coupée."));
+    QVERIFY(coupe.FilFroid());
+    QVERIFY(coupe.virtuelle.boite->Position() == simulateur::PositionPas{});
+    QVERIFY(coupe.AuRepos());
+    QVERIFY(
+        coupe.poste.Trouver<QLabel>("lblInformationDecoupe").text().startsWith(QStringLiteral("Vitesse")));
+}
+
+void EssaiCourse2D::LaChauffeSuitLeCurseur() {
+    Coupe coupe;
+    std::size_t avant = 0;
+    coupe.Quand(QStringLiteral("Découpe segment n°3/"), [&] {
+        auto& curseur = coupe.poste.Trouver<QScrollBar>("hscChauffePendantDecoupe");
+        QVERIFY(curseur.isVisible());
+        QCOMPARE(curseur.maximum(), 2 * TableINI.ChauffeMaxiSur100);
+        curseur.setValue(51);
+        QCOMPARE(coupe.poste.Trouver<QLabel>("lblChauffePendantDecoupe").text(), QStringLiteral("25.5 %"));
+        avant = coupe.virtuelle.Compter(CommandeChauffe, 1);
+    });
+    int pwm = -1;
+    const auto geste = coupe.virtuelle.SurPompe;
+    coupe.virtuelle.SurPompe = [&] {
+        geste();
+        if (coupe.Avertissement().startsWith(QStringLiteral("Découpe segment n°4/")))
+            pwm = coupe.virtuelle.boite->Etat().pwmCommande;
+    };
+    coupe.Lancer();
+    QVERIFY(coupe.fait);
+    QCOMPARE(pwm, 65); // 25.5 x 2.55 = 65.025
+    QCOMPARE(coupe.virtuelle.Compter(CommandeChauffe, 1), avant + 1);
+    QVERIFY(coupe.FilFroid());
+}
+
+void EssaiCourse2D::RepriseApresStop() {
+    Coupe coupe;
+    const auto voulus = coupe.PasVoulus();
+    coupe.Arreter();
+    QVERIFY(coupe.fait);
+    QVERIFY(coupe.poste.Trouver<QWidget>("pctRepriseDecoupe").isVisible());
+    QCOMPARE(coupe.poste.Trouver<QLabel>("lblNumSegmentStop").text(),
+             QStringLiteral("Arrêt sur le segment n° 4"));
+    QVERIFY(!coupe.poste.Trouver<QPushButton>("cmdSTOP").isEnabled());
+    QVERIFY(coupe.FilFroid());
+    QVERIFY(coupe.virtuelle.boite->Comptes().pas != voulus);
+    QCOMPARE(coupe.poste.NombreBoites(), std::size_t(0));
+    coupe.poste.Cliquer<QPushButton>("cmdRepriseDecoupe");
+    QCOMPARE(coupe.poste.DerniereBoite().titre, std::string("machine disponible"));
+    QVERIFY(coupe.FilFroid());
+    QVERIFY(coupe.virtuelle.boite->Comptes().pas == voulus); // each part once
+    QVERIFY(coupe.virtuelle.boite->Position() == simulateur::PositionPas{});
+    QVERIFY(coupe.AuRepos());
+    // The next launch cuts the whole path again.
+    coupe.Lancer();
+    QCOMPARE(coupe.virtuelle.boite->Comptes().pas[AxeX1], 2 * voulus[AxeX1]);
+}
+
+void EssaiCourse2D::StopPendantLaChauffeDeLaReprise() {
+    Coupe coupe;
+    const auto voulus = coupe.PasVoulus();
+    coupe.Arreter();
+    coupe.StopQuand(QStringLiteral("Chauffe "));
+    coupe.poste.Cliquer<QPushButton>("cmdRepriseDecoupe");
+    QVERIFY(coupe.fait);
+    QCOMPARE(coupe.poste.DerniereBoite().titre, std::string("Arrêt pendant la chauffe"));
+    QVERIFY(coupe.FilFroid());
+    // The wire still stands in the foam: the operator decides again, at the same stop.
+    QVERIFY(coupe.poste.Trouver<QWidget>("pctRepriseDecoupe").isVisible());
+    QCOMPARE(coupe.poste.Trouver<QLabel>("lblNumSegmentStop").text(),
+             QStringLiteral("Arrêt sur le segment n° 4"));
+    coupe.virtuelle.SurPompe = {};
+    coupe.poste.Cliquer<QPushButton>("cmdRepriseDecoupe");
+    QVERIFY(coupe.virtuelle.boite->Comptes().pas == voulus);
+    QVERIFY(coupe.AuRepos());
+}
+
+void EssaiCourse2D::RetourApresStop_data() {
+    QTest::addColumn<int>("trajet");
+    QTest::addRow("straight") << 0;
+    QTest::addRow("along the table") << 1;
+}
+void EssaiCourse2D::RetourApresStop() {
+    QFETCH(int, trajet);
+    Coupe coupe;
+    coupe.Arreter();
+    const auto arret = coupe.virtuelle.boite->Position();
+    QVERIFY(arret[AxeX1] != 0 && arret[AxeY1] != 0);
+    coupe.poste.Cliquer<QRadioButton>(trajet == 0 ? "optTrajetRetour_0" : "optTrajetRetour_1");
+    bool parLeBord = false;
+    coupe.virtuelle.SurPompe = [&] {
+        const auto position = coupe.virtuelle.boite->Position();
+        parLeBord = parLeBord || (position[AxeX1] == 0 && position[AxeY1] == arret[AxeY1]);
+        QVERIFY(!coupe.poste.Trouver<QPushButton>("cmdSTOP").isVisible());
+    };
+    coupe.poste.Cliquer<QPushButton>("cmdLancerRetourApresStop");
+    QVERIFY(coupe.virtuelle.boite->Position() == simulateur::PositionPas{});
+    QCOMPARE(coupe.virtuelle.boite->Position()[AxeX1], 0);
+    QVERIFY(trajet == 1 || !parLeBord);
+    QCOMPARE(coupe.poste.DerniereBoite().texte, TextesDoubles(44, 1));
+    QVERIFY(coupe.FilFroid());
+    QVERIFY(coupe.AuRepos());
+}
+
+void EssaiCourse2D::StopPendantLeRetour() {
+    Coupe coupe;
+    coupe.Arreter();
+    coupe.Quand(QStringLiteral("Découpe segment n°2/3"),
+                [&] { coupe.poste.Cliquer<QPushButton>("cmdStopRetourApresReprise"); });
+    coupe.poste.Cliquer<QPushButton>("cmdLancerRetourApresStop");
+    QVERIFY(coupe.fait);
+    coupe.virtuelle.SurPompe = {};
+    QVERIFY(coupe.FilFroid());
+    QVERIFY(coupe.poste.Trouver<QWidget>("pctRepriseDecoupe").isVisible());
+    coupe.poste.Cliquer<QPushButton>("cmdRepriseDecoupe");
+    QVERIFY(coupe.virtuelle.boite->Position() == simulateur::PositionPas{});
+    QCOMPARE(coupe.poste.DerniereBoite().texte, TextesDoubles(44, 1));
+    QVERIFY(coupe.AuRepos());
+}
+
+void EssaiCourse2D::AbandonApresStop() {
+    Coupe coupe;
+    coupe.Arreter();
+    coupe.poste.Cliquer<QPushButton>("cmdAnnulerReprise");
+    QCOMPARE(coupe.poste.DerniereBoite().texte,
+             std::string("Attention, le fil n'est pas à sa position de repos."));
+    QCOMPARE(coupe.poste.DerniereBoite().titre, std::string("Arrêt dans la zone utile"));
+    QVERIFY(coupe.FilFroid());
+    QVERIFY(!coupe.poste.fenetre->DecoupeOuverte());
+    QVERIFY(coupe.poste.fenetre->DecoupeMontree().SequenceDecoupe.Points.empty());
+    QVERIFY(coupe.poste.Trouver<QToolButton>("cmdOuvrirFichierTS2D").isEnabled());
+    coupe.poste.Cliquer<QPushButton>("cmdDecouper");
+    QVERIFY(coupe.AuRepos());
+}
+
+void EssaiCourse2D::LaBoitePerdueEstDite() {
+    Coupe coupe;
+    QString alerte;
+    coupe.virtuelle.SurPompe = [&] {
+        if (coupe.Avertissement().startsWith(QStringLiteral("Découpe segment n°4/")))
+            coupe.virtuelle.boite->Brancher(false);
+        auto* boite = coupe.poste.fenetre->findChild<QMessageBox*>(QStringLiteral("alerteInterface"));
+        if (boite == nullptr || !boite->isVisible()) {
+            if (!alerte.isEmpty()) coupe.poste.Trouver<QPushButton>("cmdSTOP").click();
+            return;
+        }
+        alerte = boite->text();
+        QTest::mouseClick(boite->button(QMessageBox::Ok), Qt::LeftButton);
+    };
+    coupe.Lancer();
+    coupe.virtuelle.SurPompe = {};
+    QVERIFY(alerte.startsWith(QStringLiteral("L'interface ne répond plus.")));
+    QVERIFY(coupe.Dit(IconeBoite::Critique));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!coupe.poste.fenetre->Course().enCours);
+    QVERIFY(coupe.poste.fenetre->findChild<QMessageBox*>(QStringLiteral("alerteInterface")) == nullptr);
+}
+
+void EssaiCourse2D::LeBoutonDeLaMachineArrete() {
+    Coupe coupe;
+    coupe.Quand(QStringLiteral("Découpe segment n°4/"), [&] { coupe.virtuelle.boite->AppuyerStop(); });
+    coupe.Lancer();
+    QVERIFY(coupe.fait);
+    QVERIFY(coupe.FilFroid());
+    QVERIFY(coupe.poste.Trouver<QWidget>("pctRepriseDecoupe").isVisible());
+    QCOMPARE(coupe.poste.DerniereBoite().texte, TextesDoubles(48, 1));
+}
+
+void EssaiCourse2D::SansInterfaceLaDecoupeEstRefusee() {
+    Coupe coupe;
+    coupe.virtuelle.boite->Brancher(false);
+    coupe.Lancer();
+    QCOMPARE(coupe.poste.DerniereBoite().texte, std::string("Pas d'interface détectée"));
+    QVERIFY(coupe.AuRepos());
+    QCOMPARE(coupe.poste.Trouver<QToolButton>("cmdRafraichirUsbTS2D").text(),
+             QStringLiteral("Pas d'interface"));
+}
+
+void EssaiCourse2D::FermerEnPleineDecoupe() {
+    Coupe coupe;
+    coupe.poste.boites.reponses = {ReponseBoite::Ok, ReponseBoite::Non};
+    coupe.Quand(QStringLiteral("Découpe segment n°4/"), [&] { QVERIFY(!coupe.poste.fenetre->close()); });
+    coupe.Lancer();
+    QVERIFY(coupe.fait);
+    QVERIFY(coupe.FilFroid());
+    QCOMPARE(coupe.poste.boites.boites.front().titre, std::string("Arrêt dans la zone utile"));
+    coupe.virtuelle.SurPompe = {};
+    QApplication::processEvents();
+    QVERIFY(!coupe.poste.fenetre->isVisible());
+}
+
+void EssaiCourse2D::FermerApresUnStop() {
+    Coupe coupe;
+    coupe.Arreter();
+    coupe.poste.boites.reponses = {ReponseBoite::Non};
+    QVERIFY(coupe.poste.fenetre->close());
+    QCOMPARE(coupe.poste.DerniereBoite().titre, std::string("Arrêt dans la zone utile"));
+    QVERIFY(coupe.FilFroid());
+}
+
+void EssaiCourse2D::SansCorrespondanceOnPeutOuvrirLesReglages() {
+    Coupe coupe;
+    TableMachine autre = TableINI;
+    autre.PenteAcceleration = 3;
+    coupe.virtuelle.Memoriser(autre);
+    const QSignalSpy reglages(coupe.poste.fenetre.get(), &frmTessarel2D::ParametrerMachine);
+    coupe.poste.boites.reponses = {ReponseBoite::Non, ReponseBoite::Oui};
+    coupe.Lancer();
+    QCOMPARE(reglages.count(), 0);
+    coupe.Lancer();
+    QCOMPARE(reglages.count(), 1);
+    QCOMPARE(
+        coupe.poste.DerniereBoite().texte,
+        std::string("Pas de correspondance entre la table en mémoire et les tables de l'interface\r\n\r\n"
+                    "Voulez-vous ouvrir la fenêtre de paramétrage?"));
+    QVERIFY(coupe.AuRepos());
+    QCOMPARE(coupe.virtuelle.Compter(CommandeChauffe, 1), std::size_t(0));
+}
+
+void EssaiCourse2D::LInterfaceSeRafraichit() {
+    Coupe coupe;
+    auto& bouton = coupe.poste.Trouver<QToolButton>("cmdRafraichirUsbTS2D");
+    QCOMPARE(bouton.text(), QStringLiteral("Pas d'interface"));
+    coupe.poste.Cliquer<QToolButton>("cmdRafraichirUsbTS2D");
+    QCOMPARE(bouton.text(), QStringLiteral("Mouvements activés"));
+    coupe.virtuelle.boite->EcrireMemoires({});
+    coupe.poste.Cliquer<QToolButton>("cmdRafraichirUsbTS2D");
+    QCOMPARE(bouton.text(), QStringLiteral("Mouvements désactivés"));
+    coupe.virtuelle.boite->Brancher(false);
+    coupe.poste.Cliquer<QToolButton>("cmdRafraichirUsbTS2D");
+    QCOMPARE(bouton.text(), QStringLiteral("Pas d'interface"));
+}
+
+void EssaiCourse2D::Images_data() {
+    QTest::addColumn<bool>("anglais");
+    QTest::addColumn<bool>("sombre");
+    QTest::addRow("fr-clair") << false << false;
+    QTest::addRow("fr-sombre") << false << true;
+    QTest::addRow("en-clair") << true << false;
+    QTest::addRow("en-sombre") << true << true;
+}
+void EssaiCourse2D::Images() {
+    QFETCH(bool, anglais);
+    QFETCH(bool, sombre);
+    AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
+    Coupe coupe(anglais ? Langue::English : Langue::Francais);
+    QVERIFY(DefautsLibelles(*coupe.poste.fenetre, LibellesTessarel2D()).empty());
+    const auto prendre = [&](const char* etat) {
+        QVERIFY2(MotsCoupes(*coupe.poste.fenetre).isEmpty(),
+                 qPrintable(MotsCoupes(*coupe.poste.fenetre).join(u' ')));
+        QVERIFY(SauverImage(*coupe.poste.fenetre,
+                            QStringLiteral("frmTessarel2D-%1-").arg(QString::fromLatin1(etat)) +
+                                QString::fromLatin1(QTest::currentDataTag())));
+    };
+    const QString segment = TexteAffiche(TitresMessages(190)) + QStringLiteral("5/");
+    const QString chauffe = TexteAffiche(TextesMessages(190)) + QStringLiteral("1/");
+    bool chauffePrise = false;
+    bool decoupePrise = false;
+    coupe.virtuelle.SurPompe = [&] {
+        if (!chauffePrise && coupe.Avertissement().startsWith(chauffe)) {
+            chauffePrise = true;
+            prendre("chauffe");
+        }
+        if (!decoupePrise && coupe.Avertissement().startsWith(segment) &&
+            coupe.poste.fenetre->TraceMachine().DejaCoupe().size() > 3) {
+            decoupePrise = true;
+            prendre("course");
+            coupe.poste.Cliquer<QPushButton>("cmdSTOP");
+        }
+    };
+    coupe.Lancer();
+    coupe.virtuelle.SurPompe = {};
+    QVERIFY(chauffePrise && decoupePrise);
+    prendre("arret");
+}
+
+QTEST_MAIN(EssaiCourse2D)
+#include "essai_course_2d.moc"
