@@ -73,6 +73,7 @@ void frmTessarel2D::Relier() {
     RelierAtelier();
     RelierSource();
     RelierCourse();
+    RelierManuel();
     for (Canevas* canevas : {pctSequTS2D, pctDecoupe}) {
         connect(canevas, &Canevas::PointeurDeplace, this, [this](double x, double y) {
             lblCoordonnees->setText(TexteAffiche(

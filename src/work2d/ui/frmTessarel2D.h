@@ -13,6 +13,7 @@
 #include <QPointer>
 #include <QTimer>
 #include <array>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -39,6 +40,7 @@ class Canevas;
 class ChampNombre;
 class PanneauBibliotheque;
 class PanneauCourse;
+class PanneauManuel;
 class PanneauSaisie;
 class PanneauSimulation;
 class TraceCourse;
@@ -96,7 +98,7 @@ protected:
 
 private:
     // Of the values, in the order of the layout.
-    enum { PageProjet = 0, PageDecoupe = 1, PageCourse = 2 };
+    enum { PageProjet = 0, PageDecoupe = 1, PageCourse = 2, PageManuel = 3 };
 
     // Layout (frmTessarel2D_disposition.cpp)
     void Disposer();
@@ -190,11 +192,20 @@ private:
     void AbandonnerDecoupe();
     void RetourAuRepos();
     void InitialiserBoutonsDecoupe(int enMarche);
+    void PermettreCommandes(bool libre);
     void PrevenirSilence();
     [[nodiscard]] SuiviDecoupe SuiviCourse();
     // Before the window closes: stops a cut that runs. True when there was one: the window closes by itself
     // once it stands.
     bool ArreterPourFermer();
+
+    // Moves by hand (frmTessarel2D_manuel.cpp)
+    void RelierManuel();
+    void OuvrirManuel();
+    void FermerManuel();
+    void DeplacerParFleche(int x, int y);
+    // Runs one move with `etat`, a row of TextesEtats, as what is shown of it.
+    void Mouvoir(int etat, const std::function<void(const SuiviMarche&)>& mouvement);
 
     Espace2D m_espace;
     Decoupe2D m_decoupe;
@@ -210,6 +221,8 @@ private:
     CourseMachine m_course;
     std::unique_ptr<TraceCourse> m_trace;
     PanneauCourse* m_panneauCourse = nullptr;
+    PanneauManuel* m_panneauManuel = nullptr;
+    QToolButton* cmdDeplacementsManuels = nullptr;
     QPointer<QMessageBox> m_alerteInterface; // over the window while the box does not answer
     QToolButton* cmdRafraichirUsbTS2D = nullptr;
 

@@ -59,7 +59,7 @@ void MettreOption(const std::array<QToolButton*, N>& options, int rang) {
 } // namespace
 
 bool frmTessarel2D::DecoupeOuverte() const {
-    return m_pages->currentIndex() != PageProjet;
+    return m_vues->currentIndex() == PageDecoupe;
 }
 
 void frmTessarel2D::RemplirMatieres() {

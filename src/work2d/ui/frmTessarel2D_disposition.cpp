@@ -7,6 +7,7 @@
 #include "work2d/ui/frmTessarel2D.h"
 #include "work2d/ui/panneau_bibliotheque.h"
 #include "work2d/ui/panneau_course.h"
+#include "work2d/ui/panneau_manuel.h"
 #include "work2d/ui/panneau_saisie.h"
 #include "work2d/ui/panneau_simulation.h"
 #include "work2d/ui/trace_course.h"
@@ -142,6 +143,8 @@ void frmTessarel2D::Disposer() {
     m_pages->addWidget(DisposerPageDecoupe());
     m_panneauCourse = new PanneauCourse;
     m_pages->addWidget(m_panneauCourse);
+    m_panneauManuel = new PanneauManuel;
+    m_pages->addWidget(m_panneauManuel);
 
     auto* centre = new QWidget;
     auto* rangee = new QHBoxLayout(centre);
@@ -214,6 +217,7 @@ QWidget* frmTessarel2D::DisposerOutils() {
     cmdBibliotheque->setChecked(true);
     ajouter(cmdMatieres, "cmdMatieres");
     ajouter(cmdParametresMachine, "cmdParametresMachine");
+    ajouter(cmdDeplacementsManuels, "cmdDeplacementsManuels");
     colonne->addStretch(1);
     ajouter(cmdZoomTout, "cmdZoomTout");
     auto* loupes = new QHBoxLayout;

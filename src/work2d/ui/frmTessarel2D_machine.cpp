@@ -246,11 +246,15 @@ void frmTessarel2D::InitialiserBoutonsDecoupe(int enMarche) {
     m_simulation->setEnabled(libre);
     m_pages->setCurrentIndex(libre ? PageDecoupe : PageCourse);
     cmdAnnulerDecoupe->setEnabled(libre);
+    PermettreCommandes(libre);
+}
+
+void frmTessarel2D::PermettreCommandes(bool libre) {
     m_bibliotheque->setEnabled(libre);
     for (QToolButton* commande :
          {cmdNouveauProjetTS2D, cmdOuvrirFichierTS2D, cmdRecents, cmdActualiserSauvegarde, cmdSauverTS2D,
-          cmdExporterDXF, cmdBibliotheque, cmdMatieres, cmdParametresMachine, cmdAide, cmdRapportOuverture,
-          cmdRafraichirUsbTS2D})
+          cmdExporterDXF, cmdBibliotheque, cmdMatieres, cmdParametresMachine, cmdDeplacementsManuels, cmdAide,
+          cmdRapportOuverture, cmdRafraichirUsbTS2D})
         commande->setEnabled(libre);
     raccourciEnregistrer->setEnabled(libre && m_espace.cheminProjet.empty());
 }
