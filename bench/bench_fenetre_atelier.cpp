@@ -129,6 +129,22 @@ void Indexer100000(benchmark::State& etat) {
     for (auto _ : etat) benchmark::DoNotOptimize(IndexerPoints(sequences));
 }
 
+// The pointer along a path of 100 000 points, without the repaint.
+void SurvolerGribouillis100000(benchmark::State& etat) {
+    Canevas canevas;
+    canevas.resize(Ecran);
+    canevas.FixerCadreComplet({-60, 1040, -60, 570});
+    Espace2D espace;
+    espace.TableauSequences = Gribouillis(100000);
+    const Atelier2D atelier(canevas, espace, nullptr);
+    const std::vector<PointProfil>& p = espace.TableauSequences[0].Points;
+    std::size_t i = 0;
+    for (auto _ : etat) {
+        i = (i + 1) % p.size();
+        Envoyer(canevas, QEvent::MouseMove, canevas.EnPixels({p[i].X, p[i].Y}), Qt::NoButton);
+    }
+}
+
 // A hundred deeds on all of 100 000 points, and all the way back.
 void CentPasEtRetour(benchmark::State& etat) {
     std::size_t octets = 0;
@@ -197,6 +213,7 @@ BENCHMARK(RedimensionnerContours50000)->Unit(benchmark::kMillisecond);
 BENCHMARK(DeplacerGribouillis50000)->Unit(benchmark::kMillisecond);
 BENCHMARK(ChercherContours100000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(ChercherGribouillis100000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(SurvolerGribouillis100000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(Indexer100000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(CentPasEtRetour)->Unit(benchmark::kMillisecond);
 BENCHMARK(OuvrirOngletDecoupe32000)->Unit(benchmark::kMillisecond);

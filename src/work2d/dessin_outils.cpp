@@ -84,6 +84,7 @@ void DessinerBoite(Dessin& dessin, const Sequence& BoiteSelection, double echell
 void DessinerTraceSurvole(Dessin& dessin, const Sequence& sequence) {
     if (sequence.Points.empty()) return;
     Ouvrir(dessin, CouleurSurvol, EpaisseurFine);
+    dessin.points.reserve(dessin.points.size() + sequence.Points.size());
     for (const PointProfil& p : sequence.Points) Ajouter(dessin, Lieu(p));
 }
 
@@ -116,7 +117,8 @@ void DessinerFilm(Dessin& dessin, const Film2D& film, const PlaceFil& place) {
         Segment(dessin, a, b, Ombre, EpaisseurOmbre);
         Segment(dessin, a, b, CouleurSegmentCoupe, EpaisseurSegmentCoupe);
     }
-    Marquer(dessin, GenreMarque::Disque, fil, TailleFil, CouleurDejaCoupe);
+    // A ring: the segment under way is seldom longer than the wire's mark is wide, and shows through it.
+    Marquer(dessin, GenreMarque::PremierPoint, fil, TailleFil, CouleurDejaCoupe);
 }
 
 void DessinerDejaCoupe(Dessin& dessin, std::span<const PointDessin> points) {

@@ -191,7 +191,13 @@ void MemoriserTransformation(Historique2D& historique, std::span<const Sequence>
     // A selection made since the state was given back belongs to it: it is taken up anew, at no cost.
     historique.aReprendre = true;
     const std::size_t position = Position(historique);
-    if (historique.PileTransformations.size() > position) historique.PileTransformations.resize(position);
+    std::vector<EtatTransformations>& pile = historique.PileTransformations;
+    historique.ecartes.clear();
+    if (pile.size() > position) {
+        const auto suite = pile.begin() + static_cast<std::ptrdiff_t>(position);
+        historique.ecartes.assign(std::make_move_iterator(suite), std::make_move_iterator(pile.end()));
+        pile.resize(position);
+    }
     Reprendre(historique, TableauSequences, bloc, coeffTransf);
     historique.NbTransf = EnSimple(static_cast<double>(position) + 1);
     historique.aReprendre = true;
@@ -214,6 +220,13 @@ void OublierMemorisation(Historique2D& historique, std::span<const Sequence> Tab
         if (!Egaux(*avant.sequences[i].points, s.Points, tampon)) return;
     }
     historique.NbTransf = EnSimple(static_cast<double>(position) - 1);
+    // What the deed had dropped can be gone forward to again; the state before it is held as it stands.
+    if (historique.ecartes.empty()) return;
+    historique.PileTransformations.insert(historique.PileTransformations.end(),
+                                          std::make_move_iterator(historique.ecartes.begin()),
+                                          std::make_move_iterator(historique.ecartes.end()));
+    historique.ecartes.clear();
+    historique.aReprendre = false;
 }
 
 bool PeutAnnuler(const Historique2D& historique) {
@@ -249,9 +262,11 @@ std::size_t MemoireHistorique(const Historique2D& historique) {
                       points->entiers.capacity() * sizeof(PointProfil);
         }
     };
-    for (const EtatTransformations& etat : historique.PileTransformations) {
-        octets += sizeof(EtatTransformations) + etat.sequences.capacity() * sizeof(SequenceMemorisee);
-        for (const SequenceMemorisee& sequence : etat.sequences) compter(sequence.points.get());
+    for (const auto* etats : {&historique.PileTransformations, &historique.ecartes}) {
+        for (const EtatTransformations& etat : *etats) {
+            octets += sizeof(EtatTransformations) + etat.sequences.capacity() * sizeof(SequenceMemorisee);
+            for (const SequenceMemorisee& sequence : etat.sequences) compter(sequence.points.get());
+        }
     }
     return octets;
 }

@@ -49,6 +49,8 @@ struct Historique2D {
     std::vector<EtatTransformations> PileTransformations;
     float NbTransf = 1;     // position in the stack from 1; 32 bits, rounded where it is an index
     bool aReprendre = true; // the state at the top is newer than what the stack holds of it
+    // What the last MemoriserTransformation dropped, until it is known that its deed changed something.
+    std::vector<EtatTransformations> ecartes;
     std::optional<Transformation> derniere; // what made it, when one transformation of the selection did
 };
 
@@ -62,7 +64,8 @@ void MemoriserTransformation(Historique2D& historique, std::span<const Sequence>
 // less room: it is checked, never trusted.
 void AnnoncerTransformation(Historique2D& historique, const Transformation& transformation);
 
-// After a deed that may have changed nothing: the kept state is no step then, and is taken off again.
+// After a deed that may have changed nothing: the kept state is no step then, and is taken off again; the
+// states that MemoriserTransformation dropped for it come back.
 void OublierMemorisation(Historique2D& historique, std::span<const Sequence> TableauSequences, Bloc bloc);
 
 bool PeutAnnuler(const Historique2D& historique);

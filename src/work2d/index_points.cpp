@@ -159,8 +159,9 @@ std::optional<SegmentTouche> ChercherSegment(const IndexPoints& index, std::span
                 sequence.Points[i], sequence.Points[std::min(i + 1, sequence.Points.size() - 1)], x, y);
             const double d2 = (pied.X - x) * (pied.X - x) + (pied.Y - y) * (pied.Y - y);
             if (d2 > limite) continue;
-            // Strictly nearer on the same path; as near is enough for a path drawn later.
-            if (trouve && d2 == limite && touche.sequence == s) continue;
+            // Strictly within the reach, strictly nearer on the same path; as near is enough for a path
+            // drawn later.
+            if (d2 == limite && (!trouve || touche.sequence == s)) continue;
             trouve = true;
             limite = d2;
             touche = {s, i, pied, d2};
@@ -179,7 +180,7 @@ std::optional<SommetTouche> ChercherSommet(const IndexPoints& index, std::span<c
         const std::vector<PointProfil>& points = sequences[s].Points;
         for (std::size_t i = debut; i <= std::min(fin, points.size() - 1); ++i) {
             const double d2 = (points[i].X - x) * (points[i].X - x) + (points[i].Y - y) * (points[i].Y - y);
-            if (d2 > limite || (trouve && d2 == limite)) continue;
+            if (d2 >= limite) continue;
             trouve = true;
             limite = d2;
             touche = {s, i, d2};

@@ -34,6 +34,7 @@ enum class ZoneBoite { Dehors, Dedans, Poignee, Rotation };
 struct SurvolBoite {
     ZoneBoite zone = ZoneBoite::Dehors;
     std::string_view HandleCourant; // "HG" and so on, "" outside handles
+    friend bool operator==(const SurvolBoite&, const SurvolBoite&) = default;
 };
 
 // Distances of the box in pixels, the same at every zoom.

@@ -71,7 +71,7 @@ Film2D PreparerFilm(const Sequence& SequenceDecoupe) {
         film.limite = true;
         film.points.Points.resize(PointsMaxDecoupe);
         CalculerBornesSequence(film.points);
-        AfficherExclamation(TextesMessages(MessagesTropDePoints), TitresMessages(MessagesTropDePoints));
+        AfficherInformation(TextesMessages(MessagesTropDePoints), TitresMessages(MessagesTropDePoints));
     }
     const std::vector<PointProfil>& p = film.points.Points;
     film.instants.reserve(p.size());

@@ -66,6 +66,21 @@ double PasRond(float bord, double pas) {
 
 } // namespace
 
+bool SansEffet(const Transformation& transformation) {
+    switch (transformation.genre) {
+    case GenreTransformation::Deplacement:
+        return transformation.dx == 0 && transformation.dy == 0;
+    case GenreTransformation::Echelle:
+        return transformation.facteurX == 1 && transformation.facteurY == 1;
+    case GenreTransformation::Rotation:
+        return transformation.angle == 0;
+    case GenreTransformation::Miroir:
+    case GenreTransformation::Sens:
+        break;
+    }
+    return false;
+}
+
 PointDessin Transformer(PointDessin p, const Transformation& t) {
     switch (t.genre) {
     case GenreTransformation::Deplacement:

@@ -40,6 +40,9 @@ struct Transformation {
 // Applies it to each point in order; the same points and the same transformation always give the same bits.
 void TransformerPoints(std::span<PointProfil> points, const Transformation& transformation);
 
+// True when it leaves every point where it is.
+bool SansEffet(const Transformation& transformation);
+
 // Where it takes one place.
 PointDessin Transformer(PointDessin p, const Transformation& transformation);
 

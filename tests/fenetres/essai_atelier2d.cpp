@@ -51,6 +51,8 @@ private slots:
     void MajGardeLesProportions();
     void LaTailleVivanteSAfficheEtLesPointsNeBougentQuALaFin();
     void EchapRenonceAuGeste();
+    void ToutChoisirEnPleinGesteNEmporteRien();
+    void UnGesteRevenuASonDepartNEstPasUnPas();
     void TournerDepuisLExterieurDuCadre();
     void UnFacteurNulGardeLeDernierBon();
     void LeSurvolDitCeQueFeraitLaSouris();
@@ -63,6 +65,8 @@ private slots:
     void InsererUnPoint();
     void InsererHorsDUnSegmentNeFaitRien();
     void CouperUnTrace();
+    void LeSommetACouperNommeUnCoin();
+    void LeSurvolNeRedessineQueCeQuiChange();
     void CouperAuBoutEstRefuse();
     void LesOutilsSontEteintsPendantLaDecoupe();
     void LApercuSeRetourneAvantDEtreOuvert();
@@ -258,6 +262,37 @@ void EssaiAtelier2D::EchapRenonceAuGeste() {
     QCOMPARE(Choisis(), std::string("10"));
 }
 
+void EssaiAtelier2D::ToutChoisirEnPleinGesteNEmporteRien() {
+    m_souris->Cliquer({0, 25});
+    m_souris->Appuyer({50, 25});
+    m_souris->Aller({150, 125});
+    QTest::keyClick(m_poste->fenetre.get(), Qt::Key_A, Qt::ControlModifier);
+    QTRY_COMPARE(Choisis(), std::string("11")); // a button that its keys press stays down a while
+    m_souris->Relacher();
+    QCOMPARE(Trace(0).XMin, 0.0F);
+    QCOMPARE(Trace(1).XMin, 200.0F); // it was never held
+    QCOMPARE(Choisis(), std::string("11"));
+}
+
+void EssaiAtelier2D::UnGesteRevenuASonDepartNEstPasUnPas() {
+    m_souris->Cliquer({0, 25});
+    m_souris->Glisser({50, 25}, {80, 65});
+    m_poste->Cliquer<QToolButton>("cmdUndoTS2D_0");
+    const float position = Atelier().Historique().NbTransf;
+    m_souris->Appuyer({50, 25});
+    m_souris->Aller({150, 125});
+    m_souris->Aller({50, 25});
+    m_souris->Relacher();
+    const PointDessin prise = Poignee("MD");
+    m_souris->Appuyer(prise);
+    m_souris->Aller({prise.X + 40, prise.Y});
+    m_souris->Aller(prise);
+    m_souris->Relacher();
+    QCOMPARE(Atelier().Historique().NbTransf, position);
+    m_poste->Cliquer<QToolButton>("cmdUndoTS2D_1");
+    QVERIFY(std::abs(Trace(0).XMin - 30) < Tolerance);
+}
+
 void EssaiAtelier2D::TournerDepuisLExterieurDuCadre() {
     // The square: middle (210, 20). From the right of it to above it is a quarter turn to the left.
     m_souris->Cliquer({210, 10});
@@ -423,6 +458,34 @@ void EssaiAtelier2D::CouperUnTrace() {
     QCOMPARE(Trace(1).XMin, 0.0F);
     m_poste->Cliquer<QToolButton>("cmdUndoTS2D_0");
     QCOMPARE(Espace().TableauSequences.size(), std::size_t{2});
+}
+
+// The rectangle from (0, 0) to the right; the square's sides likewise.
+void EssaiAtelier2D::LeSommetACouperNommeUnCoin() {
+    m_poste->Cliquer<QToolButton>("cmdCouperTrace");
+    m_souris->Aller({100, 50}); // first end of the level top side, which runs to the left
+    QCOMPARE(Atelier().HandleCourant(), std::string("BC"));
+    m_souris->Aller({100, 0}); // first end of the upright right side
+    QCOMPARE(Atelier().HandleCourant(), std::string("AD"));
+    m_souris->Aller({400, 300});
+    QVERIFY(Atelier().HandleCourant().empty());
+}
+
+void EssaiAtelier2D::LeSurvolNeRedessineQueCeQuiChange() {
+    const auto points = [this] { return Toile().Montre(Canevas::CoucheOutil).Liste().points.data(); };
+    m_souris->Aller({20, 0});
+    const PointDessin* montres = points();
+    QVERIFY(montres != nullptr);
+    m_souris->Aller({40, 0});
+    m_souris->Aller({60, 0});
+    QCOMPARE(points(), montres);
+    m_souris->Aller({210, 10}); // another path
+    const Dessin& carre = Toile().Montre(Canevas::CoucheOutil).Liste();
+    QCOMPARE(carre.points.at(carre.traits.at(0).premier).X, 200.0);
+    m_souris->Aller({400, 300});
+    QVERIFY(Toile().Montre(Canevas::CoucheOutil).Liste().traits.empty());
+    m_souris->Aller({20, 0});
+    QCOMPARE(Toile().Montre(Canevas::CoucheOutil).Liste().points.at(1).X, 100.0);
 }
 
 void EssaiAtelier2D::CouperAuBoutEstRefuse() {

@@ -64,7 +64,7 @@ void RemplirBibliotheque(const Poste2D& poste) {
 
 // The pointer rests on nothing, and what the last click changed is laid out.
 void Reposer(Poste2D& poste) {
-    QTest::mouseMove(poste.fenetre.get(), {600, 20});
+    QTest::mouseMove(poste.fenetre.get(), {600, poste.fenetre->height() - 4}); // in the status bar
     QApplication::processEvents();
 }
 

@@ -30,6 +30,10 @@ private slots:
     void LesProportionsSuivent();
     void LePointFixeChoisiResteEnPlace();
     void UnDeplacementTapeBougeLaSelection();
+    void LaTailleVivanteSeMontreAussiEnModeDeplacement();
+    void UnNombreTapeCompteAvantLOutilClique();
+    void UnNombreTapeCompteDansSonMode();
+    void UnBlocInchangeLaisseRetablir();
     void UnAngleTapeTourne();
     void LeQuartDeTourTourne();
     void LesLettresNEntrentPas();
@@ -123,6 +127,53 @@ void EssaiSaisie2D::UnDeplacementTapeBougeLaSelection() {
     QCOMPARE(Trace(0).YMin, -3.0F);
     QCOMPARE(Trace(0).Largeur, 100.0F);
     QCOMPARE(m_poste->Trouver<ChampNombre>("txtMesures_0").text(), QStringLiteral("0.00"));
+}
+
+void EssaiSaisie2D::LaTailleVivanteSeMontreAussiEnModeDeplacement() {
+    m_poste->Cliquer<QToolButton>("optSaisie_1");
+    const PointDessin prise =
+        PlacePoignee(BoiteAffichee(Atelier().BoiteSelection(), Toile().Vue().echelle), "MD");
+    Souris souris(Toile());
+    souris.Appuyer(prise);
+    souris.Aller({prise.X + 20, prise.Y});
+    QCOMPARE(m_poste->Trouver<ChampNombre>("txtMesures_0").text(), QStringLiteral("120.00"));
+    QCOMPARE(m_poste->Trouver<ChampNombre>("txtMesures_1").text(), QStringLiteral("50.00"));
+    QCOMPARE(m_poste->Trouver<QLabel>("lblMesures_0").text(), QStringLiteral("Largeur"));
+    souris.Relacher();
+    QCOMPARE(m_poste->Trouver<ChampNombre>("txtMesures_0").text(), QStringLiteral("0.00"));
+    QCOMPARE(m_poste->Trouver<QLabel>("lblMesures_0").text(), QStringLiteral("En X"));
+}
+
+// A tool button takes no focus: what stands in a field must not be lost.
+void EssaiSaisie2D::UnNombreTapeCompteAvantLOutilClique() {
+    Taper("txtMesures_0", "150");
+    m_poste->Cliquer<QToolButton>("cmdMiroir_0");
+    QCOMPARE(Trace(0).Largeur, 150.0F);
+    QCOMPARE(Trace(0).Points[0].X, 150.0); // the corner (0, 0) turned over within 150 mm
+    Taper("txtMesures_1", "80");
+    m_poste->Cliquer<QToolButton>("cmdQuartDeTour");
+    QCOMPARE(Trace(0).Largeur, 80.0F);
+    QCOMPARE(Trace(0).Hauteur, 150.0F);
+}
+
+void EssaiSaisie2D::UnNombreTapeCompteDansSonMode() {
+    Taper("txtMesures_0", "150");
+    m_poste->Cliquer<QToolButton>("optSaisie_1");
+    QCOMPARE(Trace(0).Largeur, 150.0F);
+    QCOMPARE(Trace(0).XMin, 0.0F);
+    Taper("txtMesures_0", "7");
+    m_poste->Cliquer<QToolButton>("optSaisie_0");
+    QCOMPARE(Trace(0).XMin, 7.0F);
+    QCOMPARE(m_poste->Trouver<ChampNombre>("txtMesures_0").text(), QStringLiteral("150.00"));
+}
+
+void EssaiSaisie2D::UnBlocInchangeLaisseRetablir() {
+    QTest::keyClick(&Toile(), Qt::Key_Right);
+    m_poste->Cliquer<QToolButton>("cmdUndoTS2D_0");
+    Taper("txtBloc_0", "770\r"); // as wide as it is
+    QCOMPARE(m_poste->Trouver<ChampNombre>("txtBloc_0").text(), QStringLiteral("770"));
+    m_poste->Cliquer<QToolButton>("cmdUndoTS2D_1");
+    QCOMPARE(Trace(0).XMin, 1.0F);
 }
 
 void EssaiSaisie2D::UnAngleTapeTourne() {

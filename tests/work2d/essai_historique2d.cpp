@@ -106,6 +106,24 @@ TEST(Historique2D, UneActionApresUnRetourOublieLaSuite) {
     EXPECT_EQ(a.sequences[0].XMin, 121);
 }
 
+TEST(Historique2D, UneActionSansEffetApresUnRetourLaisseLaSuite) {
+    Atelier a = AvecCarre();
+    for (int i = 0; i < 3; ++i) a.Transformer(Deplacement(1, 0));
+    a.Arriere();
+    a.Arriere();
+    a.Memoriser();
+    OublierMemorisation(a.historique, a.sequences, a.bloc);
+    EXPECT_EQ(a.historique.NbTransf, 2.0F);
+    EXPECT_EQ(a.historique.PileTransformations.size(), 4U);
+    EXPECT_TRUE(a.Arriere());
+    EXPECT_EQ(a.sequences[0].XMin, 20);
+    for (const int x : {21, 22, 23}) {
+        EXPECT_TRUE(a.Avant());
+        EXPECT_EQ(a.sequences[0].XMin, x);
+    }
+    EXPECT_FALSE(a.Avant());
+}
+
 TEST(Historique2D, LeBlocRevientAvecLesTraces) {
     Atelier a = AvecCarre();
     a.Memoriser();

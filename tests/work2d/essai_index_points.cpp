@@ -53,7 +53,10 @@ TEST(IndexPoints, TrouveLeSegmentEtSonPied) {
     EXPECT_EQ(touche->distance2, 1);
     EXPECT_EQ(ChercherSegment(index, s, 4, -1, 2)->sequence, 1U);
     EXPECT_FALSE(ChercherSegment(index, s, 30, 30, 9.9).has_value());
-    EXPECT_TRUE(ChercherSegment(index, s, 30, 30, 10).has_value()) << "the reach is included";
+    EXPECT_FALSE(ChercherSegment(index, s, 30, 30, 10).has_value()) << "nearer than the reach, not as near";
+    EXPECT_TRUE(ChercherSegment(index, s, 30, 30, 10.001).has_value());
+    EXPECT_FALSE(ChercherSommet(index, s, 20, 15, 5).has_value());
+    EXPECT_EQ(ChercherSommet(index, s, 20, 15, 5.001)->sequence, 0U);
 }
 
 TEST(IndexPoints, DeDeuxTracesSuperposesLeDernierEstPris) {

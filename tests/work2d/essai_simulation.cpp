@@ -122,6 +122,7 @@ TEST(Film2D, AuDelaDe32767PointsIlSArreteEtLeDit) {
               "Nombre de points trop élevés pour le scrollbar de simulation, la visualisation du fil sera "
               "limitée à 32767 points");
     EXPECT_EQ(boites.boites[0].titre, "Trop de points");
+    EXPECT_EQ(boites.boites[0].icone, IconeBoite::Information);
 }
 
 TEST(Film2D, ExactementLaBornePasseSansUnMot) {

@@ -237,3 +237,17 @@ TEST(Matrice, DitLaMemeChoseQueLePoint) {
         }
     }
 }
+
+TEST(Transformations, SansEffetEstCeQuiNeBougeRien) {
+    EXPECT_TRUE(SansEffet(Deplacement(0, 0)));
+    EXPECT_FALSE(SansEffet(Deplacement(0, 0.001)));
+    EXPECT_FALSE(SansEffet(Deplacement(-1, 0)));
+    EXPECT_TRUE(SansEffet(Rotation({3, 4}, 0)));
+    EXPECT_FALSE(SansEffet(Rotation({3, 4}, 0.1)));
+    Transformation echelle;
+    echelle.genre = GenreTransformation::Echelle;
+    EXPECT_TRUE(SansEffet(echelle));
+    echelle.facteurY = -1;
+    EXPECT_FALSE(SansEffet(echelle));
+    EXPECT_FALSE(SansEffet(Miroir(Sequence(), AxeMiroir::X)));
+}

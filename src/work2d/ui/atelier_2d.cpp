@@ -52,6 +52,14 @@ Qt::CursorShape CurseurPoignee(std::string_view nom) {
     return nom[0] == 'M' ? Qt::SizeHorCursor : Qt::SizeVerCursor;
 }
 
+// The end of a segment that is nearest to a place; the last vertex is the end of the last segment.
+std::string_view NommerCoin(std::span<const PointProfil> points, std::size_t segment, PointDessin ici) {
+    const std::size_t debut = std::min(segment, points.size() > 1 ? points.size() - 2 : 0);
+    const PointProfil& a = points[debut];
+    const PointProfil& b = points[std::min(debut + 1, points.size() - 1)];
+    return CoinSegment({a.X, a.Y}, {b.X, b.Y}, ici);
+}
+
 // In degrees, from above -180 to 180.
 double DegresLisibles(double radians) {
     const double degres = std::remainder(radians * RadianEnDegres, 360.0);
@@ -137,7 +145,8 @@ void Atelier2D::SelectionModifiee() {
 }
 
 void Atelier2D::Transformer(const Transformation& transformation) {
-    if (m_selections == 0 || !TransformationPossible(m_boite, transformation)) return;
+    if (m_selections == 0 || SansEffet(transformation)) return;
+    if (!TransformationPossible(m_boite, transformation)) return;
     Memoriser();
     TransformerSelection(m_espace.TableauSequences, transformation);
     AnnoncerTransformation(m_historique, transformation);
@@ -169,6 +178,7 @@ void Atelier2D::Supprimer() {
 }
 
 void Atelier2D::ToutSelectionner(bool choisir) {
+    AbandonnerGeste(); // a drag is of what was held when it began
     if (!tessarel::ToutSelectionner(m_espace.TableauSequences, choisir)) return;
     SelectionModifiee();
 }
@@ -197,8 +207,10 @@ void Atelier2D::Survoler(PointDessin ici) {
     m_survole = true;
     const std::span<const Sequence> traces = m_espace.TableauSequences;
     Survol survol;
+    std::optional<std::pair<std::size_t, std::size_t>> coin; // path and segment whose nearer end is named
     if (m_outil == OutilAtelier::CouperTrace) {
         survol.sommet = ChercherSommet(Index(), traces, ici.X, ici.Y, Rayon());
+        if (survol.sommet) coin = {survol.sommet->sequence, survol.sommet->sommet};
     } else {
         if (m_outil == OutilAtelier::Selection)
             survol.boite = SurvolerBoite(m_boite, ici, m_canevas.Vue().echelle);
@@ -207,13 +219,10 @@ void Atelier2D::Survoler(PointDessin ici) {
     }
     m_survol = survol;
     m_handle = survol.boite.HandleCourant;
-    if (survol.segment && EstSelectionnee(traces[survol.segment->sequence])) {
-        const std::vector<PointProfil>& p = traces[survol.segment->sequence].Points;
-        const PointProfil& a = p[survol.segment->segment];
-        const PointProfil& b = p[std::min(survol.segment->segment + 1, p.size() - 1)];
-        m_handle = CoinSegment({a.X, a.Y}, {b.X, b.Y}, ici);
-    }
-    MontrerSurvol(ici);
+    if (survol.segment && EstSelectionnee(traces[survol.segment->sequence]))
+        coin = {survol.segment->sequence, survol.segment->segment};
+    if (coin) m_handle = NommerCoin(traces[coin->first].Points, coin->second, ici);
+    MontrerSurvol();
 }
 
 void Atelier2D::QuitterSurvol() {
@@ -226,10 +235,19 @@ void Atelier2D::QuitterSurvol() {
     emit Indication(QString());
 }
 
+bool Atelier2D::SurvolDejaMontre() const {
+    if (m_outil != OutilAtelier::Selection || m_geste != Geste::Aucun || !m_survol.segment) return false;
+    return m_traceMontree == m_survol.segment->sequence && m_boiteMontree == m_survol.boite &&
+           !EstSelectionnee(m_espace.TableauSequences[m_survol.segment->sequence]);
+}
+
 // The pointer's shape and the sentence follow what lies under it.
-void Atelier2D::MontrerSurvol(PointDessin) {
-    DessinerOutils();
-    FixerCurseur();
+void Atelier2D::MontrerSurvol() {
+    // A whole path is copied into its layer once, not at each move along it.
+    if (!SurvolDejaMontre()) {
+        DessinerOutils();
+        FixerCurseur();
+    }
     const auto& traces = m_espace.TableauSequences;
     switch (m_outil) {
     case OutilAtelier::InsererPoint:
@@ -316,6 +334,7 @@ void Atelier2D::MontrerGeste() {
 
 void Atelier2D::DessinerOutils() {
     Dessin outils;
+    m_traceMontree.reset();
     if (m_actif) {
         OptionsDessin options;
         options.sombre = m_canevas.FondSombre();
@@ -324,6 +343,8 @@ void Atelier2D::DessinerOutils() {
             const Sequence& trace = traces[m_survol.segment->sequence];
             if (m_outil == OutilAtelier::Selection && !EstSelectionnee(trace)) {
                 DessinerTraceSurvole(outils, trace);
+                m_traceMontree = m_survol.segment->sequence;
+                m_boiteMontree = m_survol.boite;
             } else {
                 DessinerSegmentSurvole(outils, trace, m_survol.segment->segment, m_souris);
             }

@@ -108,7 +108,8 @@ private:
     // What is seen (atelier_2d.cpp)
     void Survoler(PointDessin ici);
     void QuitterSurvol();
-    void MontrerSurvol(PointDessin ici);
+    void MontrerSurvol();
+    [[nodiscard]] bool SurvolDejaMontre() const;
     void MontrerGeste();
     void DessinerOutils();
     void FixerCurseur();
@@ -129,6 +130,8 @@ private:
 
     Survol m_survol;
     bool m_survole = false;
+    std::optional<std::size_t> m_traceMontree; // path shown whole in the layer of the tools
+    SurvolBoite m_boiteMontree;                // and what of the box was lit then
     PointDessin m_souris;
     std::string m_handle;
 

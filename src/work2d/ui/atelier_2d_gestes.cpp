@@ -206,13 +206,13 @@ bool Atelier2D::Relacher(const QMouseEvent& evenement) {
 // The points change here, and only here: the state before the drag is kept first.
 void Atelier2D::FinirGeste() {
     const std::optional<Transformation> t = m_transformation;
+    if (!t || SansEffet(*t)) { // back where it began: no deed
+        AbandonnerGeste();
+        return;
+    }
     m_geste = Geste::Aucun;
     m_transformation.reset();
-    if (t) {
-        Transformer(*t);
-    } else {
-        DessinerOutils();
-    }
+    Transformer(*t);
 }
 
 void Atelier2D::AbandonnerGeste() {

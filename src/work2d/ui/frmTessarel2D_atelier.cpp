@@ -5,6 +5,7 @@
 #include "platform/nombres.h"
 #include "ui/boites_qt.h"
 #include "ui/canevas.h"
+#include "ui/champ_nombre.h"
 #include "work2d/edition.h"
 #include "work2d/ui/atelier_2d.h"
 #include "work2d/ui/bandeau_atelier.h"
@@ -60,6 +61,12 @@ void frmTessarel2D::DisposerAjoutPoint() {
 }
 
 void frmTessarel2D::RelierAtelier() {
+    // A tool takes no focus, so a number typed before its click counts now; linked first, it is done first.
+    for (auto* outil : m_bandeau->findChildren<QToolButton*>()) {
+        connect(outil, &QToolButton::clicked, this, [this] {
+            if (auto* champ = qobject_cast<ChampNombre*>(focusWidget())) champ->Valider();
+        });
+    }
     m_bandeau->Relier(*m_atelier);
     connect(m_atelier, &Atelier2D::ProjetChange, this, &frmTessarel2D::ApresAction);
     // A state given back has its own block.

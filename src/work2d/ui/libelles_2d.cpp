@@ -203,11 +203,11 @@ constexpr Libelle LIBELLES[] = {
      "The wire runs on the right of the path, seen in the direction of motion"},
     {"lblInformationDecoupe", Variable},
     {"lblLegende", Texte,
-     "<span style='color:#ff0000'>━</span> entrée &nbsp; <span style='color:#b3146f'>━</span> découpe &nbsp; "
-     "<span style='color:#00903d'>━</span> sortie &nbsp; <b>━</b> rapide<br>"
+     "<span style='color:#ff0000'>━</span> entrée &nbsp; <span style='color:#900052'>━</span> découpe &nbsp; "
+     "<span style='color:#00903d'>━</span> sortie &nbsp; ▬ rapide<br>"
      "<span style='color:#e8590c'>━</span> déjà coupé &nbsp; <span style='color:#e6c700'>━</span> en cours",
-     "<span style='color:#ff0000'>━</span> entry &nbsp; <span style='color:#b3146f'>━</span> cut &nbsp; "
-     "<span style='color:#00903d'>━</span> exit &nbsp; <b>━</b> rapid<br>"
+     "<span style='color:#ff0000'>━</span> entry &nbsp; <span style='color:#900052'>━</span> cut &nbsp; "
+     "<span style='color:#00903d'>━</span> exit &nbsp; ▬ rapid<br>"
      "<span style='color:#e8590c'>━</span> already cut &nbsp; <span style='color:#e6c700'>━</span> under "
      "way"},
     {"cmdSimulation", Texte, "Simuler", "Simulate", "F6", "simulation"},

@@ -116,16 +116,21 @@ void PanneauSaisie::Relier() {
     }
     for (QToolButton* mode : optSaisie) {
         connect(mode, &QToolButton::clicked, this, [this] {
+            Valider(); // in the mode that it was typed in
+            m_mode = optSaisie[Deplacer]->isChecked() ? Deplacer : Taille;
             MontrerMots();
             MontrerValeurs();
         });
     }
     connect(txtAngle, &ChampNombre::ValeurSaisie, this, &PanneauSaisie::Tourner);
-    connect(cmdQuartDeTour, &QToolButton::clicked, this, [this] { Tourner(QuartDeTour); });
+    connect(cmdQuartDeTour, &QToolButton::clicked, this, [this] {
+        Valider();
+        Tourner(QuartDeTour);
+    });
 }
 
-PanneauSaisie::Mode PanneauSaisie::ModeSaisie() const {
-    return optSaisie[Deplacer]->isChecked() ? Deplacer : Taille;
+void PanneauSaisie::Valider() {
+    for (ChampNombre* champ : {txtMesures[0], txtMesures[1], txtAngle}) champ->Valider();
 }
 
 std::string_view PanneauSaisie::PointFixe() const {
@@ -144,13 +149,14 @@ void PanneauSaisie::Montrer(const Sequence& BoiteSelection, std::size_t selectio
 }
 
 void PanneauSaisie::MontrerTaille(double largeur, double hauteur) {
-    if (ModeSaisie() != Taille) return;
+    // A size in every mode: its words stand with it until the drag ends.
+    if (m_mode != Taille) NommerMesures(true);
     txtMesures[0]->FixerValeur(largeur);
     txtMesures[1]->FixerValeur(hauteur);
 }
 
 void PanneauSaisie::MontrerValeurs() {
-    const bool taille = ModeSaisie() == Taille;
+    const bool taille = m_mode == Taille;
     txtMesures[0]->FixerValeur(taille ? static_cast<double>(m_boite.Largeur) : 0.0);
     txtMesures[1]->FixerValeur(taille ? static_cast<double>(m_boite.Hauteur) : 0.0);
     txtAngle->FixerValeur(0);
@@ -158,12 +164,16 @@ void PanneauSaisie::MontrerValeurs() {
     for (QToolButton* point : optPointFixe) point->setEnabled(taille);
 }
 
-void PanneauSaisie::MontrerMots() {
-    const bool taille = ModeSaisie() == Taille;
+void PanneauSaisie::NommerMesures(bool taille) {
     lblMesures[0]->setText(
         TexteAffiche(Texte(taille ? TexteProgramme::SaisieLargeur : TexteProgramme::SaisieEnX)));
     lblMesures[1]->setText(
         TexteAffiche(Texte(taille ? TexteProgramme::SaisieHauteur : TexteProgramme::SaisieEnY)));
+}
+
+void PanneauSaisie::MontrerMots() {
+    const bool taille = m_mode == Taille;
+    NommerMesures(taille);
     // A move and an angle have a sign, a size hardly ever.
     const std::string& texte = TextesDoubles(DoublesNombreSigne, 1);
     const std::string& titre = TextesDoubles(DoublesNombreSigne, 2);
@@ -172,7 +182,7 @@ void PanneauSaisie::MontrerMots() {
 }
 
 void PanneauSaisie::Prendre(int cote, double valeur) {
-    if (ModeSaisie() == Taille) {
+    if (m_mode == Taille) {
         PrendreTaille(cote, valeur);
         return;
     }

@@ -26,6 +26,8 @@ public:
 
     // The box of the selection, or none: fields without a selection are off.
     void Montrer(const Sequence& BoiteSelection, std::size_t selections);
+    // Takes what is typed in a field and does not count yet.
+    void Valider();
     // The size while a drag is under way; the box stays as it is.
     void MontrerTaille(double largeur, double hauteur);
     // After another language: the words that depend on what is typed.
@@ -42,9 +44,10 @@ private:
     void PrendreTaille(int cote, double valeur);
     void Tourner(double degres);
     void MontrerValeurs();
-    [[nodiscard]] Mode ModeSaisie() const;
+    void NommerMesures(bool taille);
     [[nodiscard]] std::string_view PointFixe() const;
 
+    Mode m_mode = Taille; // what the fields hold; the buttons are ahead of it while a click is under way
     Sequence m_boite;
     std::size_t m_selections = 0;
     QButtonGroup* m_points = nullptr;
