@@ -103,7 +103,7 @@ std::string TexteErreurInterface(std::int32_t code) {
     case -203:
         return "Erreur -203 : une erreur s'est produite lors de la réception de la réponse de "
                "l'interpolateur.";
-    case -204:
+    case ResultatZelkoIncoherent:
         return "Erreur -204 : problème de cohérence entre les informations envoyées à l'interpolateur et la "
                "réponse reçue.";
     case ResultatZelkoBibliothequeAbsente:
@@ -115,9 +115,8 @@ std::string TexteErreurInterface(std::int32_t code) {
     }
 }
 
-void SignalerErreurInterface(std::string_view procedure) {
-    AfficherInformation(TexteErreurInterface(DernierResultatZelko) + "\r\n" +
-                            TextesDoubles(RangeeProbleme, 1) + "\r\n" +
+void SignalerErreurInterface(std::string_view procedure, std::int32_t resultat) {
+    AfficherInformation(TexteErreurInterface(resultat) + "\r\n" + TextesDoubles(RangeeProbleme, 1) + "\r\n" +
                             TexteRempli(TexteProgramme::ProcedureErreur, {std::string(procedure)}),
                         TextesDoubles(RangeeProbleme, 2));
 }

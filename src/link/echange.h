@@ -46,12 +46,15 @@ bool Echanger();
 // aborts because of it, the reply reads as above. A command held back by the guard shows no box.
 void EnvoiBytes(std::uint8_t code, std::uint8_t arg1, std::uint8_t arg2);
 
+// Result of the library for a reply that doesn't fit.
+inline constexpr std::int32_t ResultatZelkoIncoherent = -204;
+
 // The text of a result of the library. The same in both languages: they are literals of the link.
 std::string TexteErreurInterface(std::int32_t code);
 
-// The box of a failed exchange: the text of DernierResultatZelko, what to look after, and the name of the
-// routine that failed.
-void SignalerErreurInterface(std::string_view procedure);
+// The box of a failed exchange: the text of its result, what to look after, and the name of the routine that
+// failed.
+void SignalerErreurInterface(std::string_view procedure, std::int32_t resultat = DernierResultatZelko);
 
 // The wire may be hot, as far as this program knows: a heat or a frame went out, or was lost on the way, and
 // no heat-off was confirmed since. Cleared by the confirmation alone.

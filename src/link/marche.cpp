@@ -8,6 +8,7 @@
 #include "platform/pompe.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace tessarel {
 
@@ -58,9 +59,10 @@ struct Marche {
     std::size_t prochaine = 0;   // frames accepted so far; the one of this index is the next to send
     bool finAvantDepart = false; // what the status said of an end and of a frame while the queue was filled
     std::int32_t numeroAvantDepart = 0;
-    bool doute = false; // that one may be in the queue already
-    int regards = 0;    // looks at an unchanged status while in doubt
-    Instant depuis{0};  // of the first of them
+    bool doute = false;                     // that one may be in the queue already
+    int regards = 0;                        // looks at an unchanged status while in doubt
+    Instant depuis{0};                      // of the first of them
+    std::optional<StatutZelko> finVue = {}; // a reply that told the end, and has not been repeated yet
     ResultatMarche resultat = {};
 };
 
@@ -101,25 +103,65 @@ bool DitPourquoi(const StatutZelko& statut) {
            statut.OrigineOuverteEnMouvement || statut.FinCourseOuverteEnMouvement;
 }
 
-// The box stands, by itself. Always false.
-bool Arreter(Marche& m, const StatutZelko& statut) {
+// False for a frame that was never sent, or more ticks left in one than it has: nothing that a box says, so
+// the bytes are noise. What stands in the ticks of a run that has ended means nothing.
+bool Croyable(const Marche& m, const StatutZelko& statut, std::size_t envoyees) {
+    const auto numero = static_cast<std::size_t>(statut.NumeroSalve);
+    if (numero > envoyees + 1) return false;
+    if (statut.Fini || numero == 0 || numero > m.salves.size()) return true;
+    const std::uint32_t ticks = NBRtDeSalve(m.salves[numero - 1]);
+    return ticks == 0 || statut.TicksRestants <= ticks; // the end mark has none
+}
+
+// Frames that the box may have, the doubtful one among them.
+std::size_t Envoyees(const Marche& m) {
+    return m.prochaine + (m.doute ? 1U : 0U);
+}
+
+// A box that stands tells its end twice in the same words; noise does not.
+bool MemeFin(const StatutZelko& a, const StatutZelko& b) {
+    return a.Fini && b.Fini && a.NumeroSalve == b.NumeroSalve && a.FinDeListe == b.FinDeListe &&
+           a.ArretDemande == b.ArretDemande && a.ArretBoutonStop == b.ArretBoutonStop &&
+           a.OrigineOuverteEnMouvement == b.OrigineOuverteEnMouvement &&
+           a.FinCourseOuverteEnMouvement == b.FinCourseOuverteEnMouvement;
+}
+
+// The box stands, by itself. An end before all frames were in, or without a cause of its own, gets an S: it
+// harms no box at rest, and stops one that is not. Always false.
+bool Arreter(Marche& m, StatutZelko statut) {
+    const bool toutes = Envoyees(m) >= m.salves.size();
+    if (!toutes) statut.FinDeListe = false; // whatever list that was, it is not this one
+    const bool dite = statut.FinDeListe || statut.ArretBoutonStop || statut.OrigineOuverteEnMouvement ||
+                      statut.FinCourseOuverteEnMouvement;
+    if (!toutes || !dite) Envoyer(CommandeArret);
     Retenir(m, statut);
     return Conclure(m, DitPourquoi(statut) ? FinMarche::Finie : FinMarche::SansRaison);
 }
 
+// While the queue is filled nothing runs: the number stands still, or becomes one of the frames that are in.
+// False for one that does neither, after `vu`: one of the two replies was noise.
+bool NumeroTient(const Marche& m, std::optional<std::int32_t> vu, std::int32_t numero) {
+    const auto dansLaListe = [&m](std::int32_t n) { return static_cast<std::size_t>(n) <= m.prochaine + 1; };
+    return !vu || numero == *vu || (dansLaListe(numero) && dansLaListe(*vu));
+}
+
 // Empties and opens the queue and puts frames in until one is refused. A frame whose reply was lost makes it
-// begin anew: nothing moves yet. False when the run ends here.
+// begin anew, and one whose reply can't be: nothing moves yet. False when the run ends here.
 bool Remplir(Marche& m) {
     for (;;) {
         m.prochaine = 0;
         bool reussi = Envoyer(CommandeFile, 0) && Envoyer(CommandeFile, 1);
         bool pleine = false;
         int refus = 0; // of the first frame, by a box that stands
+        std::optional<std::int32_t> vu;
         while (reussi && !pleine && m.prochaine < m.salves.size()) {
             ChargerSalveDansTampon(TamponEchange, m.salves[m.prochaine]);
             reussi = Echanger();
             if (!reussi) break;
             const StatutZelko statut = LireStatut(TamponEchange);
+            reussi = NumeroTient(m, vu, statut.NumeroSalve);
+            if (!reussi) break;
+            vu = statut.NumeroSalve;
             m.finAvantDepart = statut.Fini;
             m.numeroAvantDepart = statut.NumeroSalve;
             if (statut.SalveAcceptee)
@@ -150,6 +192,8 @@ bool Demarrer(Marche& m) {
             LaisserPasserEvenements();
             if (ArretVoulu(m.suivi)) return true;
             statut = DemanderStatut();
+            if (statut.NumeroSalve != m.numeroAvantDepart && !Croyable(m, statut, m.prochaine))
+                statut.Recu = false;
         }
         // The run was seen to begin, or to be over already, by anything that has changed.
         if (statut.Fini != m.finAvantDepart || statut.NumeroSalve != m.numeroAvantDepart) return true;
@@ -183,22 +227,42 @@ void LeverDoute(Marche& m, const StatutZelko& statut) {
     }
 }
 
-// One exchange of a run: the next frame, or a status request when none is left or the last one is in doubt.
-StatutZelko Avancer(Marche& m) {
-    if (m.doute || m.prochaine >= m.salves.size()) {
-        const StatutZelko statut = DemanderStatut();
-        if (statut.Recu && m.doute) LeverDoute(m, statut);
-        return statut;
-    }
-    ChargerSalveDansTampon(TamponEchange, m.salves[m.prochaine]);
-    if (!Echanger()) {
-        m.doute = !JamaisPartie();
-        m.regards = 0;
-        return {};
-    }
-    const StatutZelko statut = LireStatut(TamponEchange);
-    if (statut.SalveAcceptee) ++m.prochaine;
+// A status request of a run. What can't be counts as lost, but for an end: that one is asked for again.
+StatutZelko Interroger(Marche& m) {
+    const StatutZelko statut = DemanderStatut();
+    if (!statut.Recu || statut.Fini) return statut;
+    if (!Croyable(m, statut, Envoyees(m))) return {};
+    if (m.doute) LeverDoute(m, statut);
     return statut;
+}
+
+// The next frame. What can't be said of it leaves it in doubt, as no reply does.
+StatutZelko Offrir(Marche& m) {
+    ChargerSalveDansTampon(TamponEchange, m.salves[m.prochaine]);
+    const bool rendue = Echanger();
+    const StatutZelko statut = rendue ? LireStatut(TamponEchange) : StatutZelko{};
+    // A run that has begun and not ended is at some frame.
+    const bool nullePart =
+        !statut.SalveAcceptee && !statut.Fini && statut.NumeroSalve == 0 && m.resultat.NumeroSalve > 0;
+    if (!rendue || nullePart || !Croyable(m, statut, m.prochaine + 1)) {
+        m.doute = rendue || !JamaisPartie();
+        m.regards = 0;
+        return statut.Fini ? statut : StatutZelko{};
+    }
+    if (statut.SalveAcceptee) {
+        ++m.prochaine;
+    } else if (statut.Fini) {
+        m.doute = true; // until the end is told again
+        m.regards = 0;
+    }
+    return statut;
+}
+
+// One exchange of a run: the next frame, or a status request when none is left, the last one is in doubt, or
+// an end was told once.
+StatutZelko Avancer(Marche& m) {
+    const bool demander = m.finVue || m.doute || m.prochaine >= m.salves.size();
+    return demander ? Interroger(m) : Offrir(m);
 }
 
 // Tells where the run stands. False when the running frame counts no ticks.
@@ -225,11 +289,46 @@ void ChangerChauffe(const SuiviMarche& suivi) {
                    {[&suivi] { return ArretVoulu(suivi); }, suivi.Prevenir});
 }
 
+// S until the box says that it stands. False when it doesn't answer and a second stop was asked.
+bool ArreterJusquAuRepos(const Marche& m, StatutZelko& statut) {
+    OublierArret(m.suivi);
+    EchecsConsecutifs echecs;
+    bool envoye = false;
+    for (int statuts = 0;; ++statuts) {
+        if (!envoye || statuts >= StatutsAvantNouvelArret) {
+            envoye = Envoyer(CommandeArret);
+            statuts = 0;
+        }
+        const StatutZelko lu = DemanderStatut();
+        // An end at a frame that can't be must be told twice.
+        const bool finie = lu.Fini && (Croyable(m, lu, Envoyees(m)) || MemeFin(statut, lu));
+        if (lu.Recu) statut = lu;
+        if (finie) return true;
+        if (RienNePart()) return false;
+        Noter(echecs, envoye && lu.Recu, m.suivi);
+        LaisserPasserEvenements();
+        // A second stop gives up a box that doesn't answer, or that never comes to rest.
+        const bool sourde = !lu.Recu || statuts + 1 >= StatutsAvantNouvelArret;
+        if (sourde && ArretVoulu(m.suivi)) {
+            OublierArret(m.suivi);
+            return false;
+        }
+    }
+}
+
 void Stopper(Marche& m, FinMarche fin) {
     StatutZelko statut;
-    const bool arretee = ArreterMarche(m.suivi, statut);
+    const bool arretee = ArreterJusquAuRepos(m, statut);
     if (arretee) Retenir(m, statut);
     m.resultat.fin = arretee ? fin : FinMarche::Abandonnee;
+}
+
+// The end, told twice. At a frame that was never sent it is that of another list: nothing else in the reply
+// is about this one.
+void Finir(Marche& m, const StatutZelko& statut) {
+    StatutZelko autre;
+    autre.Recu = autre.Fini = true;
+    Arreter(m, Croyable(m, statut, Envoyees(m)) ? statut : autre);
 }
 
 void Suivre(Marche& m) {
@@ -243,11 +342,13 @@ void Suivre(Marche& m) {
             if (RienNePart()) return Stopper(m, FinMarche::Impossible);
             continue;
         }
-        Retenir(m, statut);
         if (statut.Fini) {
-            Arreter(m, statut);
-            return;
+            if (m.finVue && MemeFin(*m.finVue, statut)) return Finir(m, statut);
+            m.finVue = statut;
+            continue;
         }
+        m.finVue.reset();
+        Retenir(m, statut);
         if (!Annoncer(m)) return Stopper(m, FinMarche::SansDuree);
     }
 }
@@ -263,30 +364,6 @@ ResultatMarche FaireMarche(std::span<const Salve> salves, const SuiviMarche& sui
         Envoyer(CommandeFile, 0); // what was filled in must not wait there for somebody's B 128
     }
     return m.resultat;
-}
-
-bool ArreterMarche(const SuiviMarche& suivi, StatutZelko& statut) {
-    OublierArret(suivi);
-    EchecsConsecutifs echecs;
-    bool envoye = false;
-    for (int statuts = 0;; ++statuts) {
-        if (!envoye || statuts >= StatutsAvantNouvelArret) {
-            envoye = Envoyer(CommandeArret);
-            statuts = 0;
-        }
-        const StatutZelko lu = DemanderStatut();
-        if (lu.Recu) statut = lu;
-        if (lu.Recu && lu.Fini) return true;
-        if (RienNePart()) return false;
-        Noter(echecs, envoye && lu.Recu, suivi);
-        LaisserPasserEvenements();
-        // A second stop gives up a box that doesn't answer, or that never comes to rest.
-        const bool sourde = !lu.Recu || statuts + 1 >= StatutsAvantNouvelArret;
-        if (sourde && ArretVoulu(suivi)) {
-            OublierArret(suivi);
-            return false;
-        }
-    }
 }
 
 bool EnvoyerJusquaReponse(std::uint8_t code, std::uint8_t arg1, const SuiviMarche& suivi) {

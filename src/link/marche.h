@@ -11,6 +11,10 @@
 // filling begins again from B 0. While the wire moves, no frame is sent until the box tells which it was: it
 // runs the frame after the last one that was accepted, and the doubtful one is in; or it stands at the end of
 // the last one, and it is not.
+//
+// Nothing on the wire tells a spoilt reply from a sound one but what it says. One that names a frame which
+// was never sent, or more ticks than the frame has, counts as lost. An end is believed when it is told twice
+// in the same words; and where frames were not in yet, it is no end of this list.
 #pragma once
 
 #include "link/salves.h"
@@ -54,7 +58,8 @@ enum class FinMarche {
     StopAvantMouvement, // asked before B 128: nothing moved, B 0 was sent
     Arretee,            // S was sent and the box stands; the status tells if it had ended by itself before
     Finie,              // ended by itself; the status says why
-    SansRaison,         // stands, and does not say why: its power was cut, or another program talked to it
+    SansRaison,         // stands, and does not say why: its power was cut, or another program talked to it;
+                        // or tells the end of a list whose frames are not all in
     SansDuree,          // a frame of no ticks came up, and the run was stopped there
     Abandonnee,         // a stop was asked, the box did not answer, and the user asked again
     Impossible          // moves are not enabled, or there is no library: nothing was started
@@ -68,9 +73,6 @@ struct ResultatMarche {
 
 // Runs a list to its end. Its last element is the end mark. The heat stays as the list left it.
 ResultatMarche FaireMarche(std::span<const Salve> salves, const SuiviMarche& suivi);
-
-// S until the box says that it stands. False when it doesn't answer and a second stop was asked.
-bool ArreterMarche(const SuiviMarche& suivi, StatutZelko& statut);
 
 // One command, again and again until its exchange succeeds: for what must not be passed over, as the mode of
 // the origin switches. False when a stop was asked in the meantime, or nothing can reach a box.

@@ -53,8 +53,11 @@ bool EcrireDansLeFichier(const TableMachine& table) {
 
 FinSauvegarde EnvoyerEnMemoire(int memoire) {
     constexpr const char* procedure = "SauverParamMachineIniEtZelko";
+    // A table that can't be composed sends nothing and has told why: the result of something before it must
+    // not be told as its own.
+    DernierResultatZelko = ResultatZelkoSucces;
     if (!EcrireTableDansZelkoEtChargerEnRam(memoire)) {
-        SignalerErreurInterface(procedure);
+        if (DernierResultatZelko != ResultatZelkoSucces) SignalerErreurInterface(procedure);
         return FinSauvegarde::MemoireManquee;
     }
     bool relues = true;

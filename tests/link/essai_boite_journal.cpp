@@ -80,7 +80,11 @@ TEST(BoiteJournal, UneLigneParEchangeAvecSesOctets) {
     v.boite.Programmer({.panne = Panne::ReponsePerdue, .echange = 3});
     t = Octets({'P', 0, 0});
     Zelko_Send(t);
-    ASSERT_EQ(lignes.size(), 3U);
+    v.boite.Programmer({.panne = Panne::ReponseCorrompue, .echange = 4});
+    t = Octets({'I', 0, 0});
+    Zelko_Send(t);
+    ASSERT_EQ(lignes.size(), 4U);
+    EXPECT_TRUE(lignes[3].starts_with("0.006000\t0.006000\techange\t4\t1\tI statut\tcorrompue\t49\t"));
     EXPECT_EQ(lignes[0],
               "0.001500\t0.001500\techange\t1\t1\tP chauffe 10\tallumee=1 valeur=10\t50010a\t50010a0a\n");
     EXPECT_EQ(lignes[1],

@@ -126,7 +126,10 @@ TEST(BoitePannes, UneReponseTardivePrendSonTempsEtNePasseQuAvantUneSeconde) {
 TEST(BoitePannes, UneReponseCorrompueChangeLaCommandeRepetee) {
     Poste p;
     p.boite.Programmer({.panne = Panne::ReponseCorrompue, .echange = 1});
-    EXPECT_EQ(p.Envoyer({'P', 1, 10}), -204);
+    EXPECT_EQ(p.Envoyer({'P', 1, 10}), 1) << "no checksum on the wire";
+    EXPECT_NE(p.reponse[1], 'P');
+    EXPECT_NE(p.reponse[4], 10);
+    EXPECT_EQ(p.boite.Etat().pwmCommande, 10);
     p.boite.Programmer({.panne = Panne::ReponseCorrompue, .echange = 2});
     Tampon t = {};
     t[1] = 'I';

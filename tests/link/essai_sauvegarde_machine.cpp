@@ -216,6 +216,18 @@ TEST_F(SauvegardeMachine, UneReserveeNeSEffacePas) {
     EXPECT_TRUE(m_boites.boites.empty());
 }
 
+// Nothing was sent: one box says why, and none tells the failure of something long past.
+TEST_F(SauvegardeMachine, UneTableQuiNeTientPasDansLaMemoireEstDiteUneFois) {
+    SaisieMachine saisie = Saisie("Atelier");
+    saisie.Textes["MicroPasX1"] = "80";
+    saisie.Textes["MmParTourX1"] = "0.0001"; // steps a millimetre times speed: past 31 bits
+    DernierResultatZelko = -203;
+    EXPECT_EQ(SauverParamMachineIniEtZelko(saisie, 0), FinSauvegarde::MemoireManquee);
+    EXPECT_TRUE(m_commandes.empty());
+    ASSERT_EQ(m_boites.boites.size(), 1U);
+    EXPECT_NE(m_boites.boites[0].texte.find("EcrireTableDansZelkoEtChargerEnRam"), std::string::npos);
+}
+
 // Whatever happens to any exchange of a save: moves are enabled only if the box holds the machine and was
 // heard to the end; what is not is told; nothing that moves or heats goes out.
 TEST_F(SauvegardeMachine, ChaqueEchangePerduTardifCorrompuOuDebranche) {

@@ -20,6 +20,7 @@ constexpr double HorlogesParNanoseconde = HorlogeBoite / 1e9;
 std::int32_t ResultatDe(const Reponse& reponse, bool commandePerdue) {
     switch (reponse.sort) {
     case SortReponse::Rendue:
+    case SortReponse::Corrompue: // of the right size: nobody can tell it from a sound one
         return ResultatZelkoSucces;
     case SortReponse::SansBoite:
         return ResultatIntrouvable;
@@ -27,7 +28,6 @@ std::int32_t ResultatDe(const Reponse& reponse, bool commandePerdue) {
         return commandePerdue ? ResultatEnvoi : ResultatReception;
     case SortReponse::Tardive:
         return reponse.retard > DelaiReponse ? ResultatReception : ResultatZelkoSucces;
-    case SortReponse::Corrompue:
     case SortReponse::Courte:
         return ResultatCoherence;
     }

@@ -98,7 +98,8 @@ public:
     explicit BoiteZelko(std::size_t capaciteFile = CapaciteFileUsuelle);
 
     // One exchange as the link library gives it: the reply takes the command's place; 1, or -200, -202, -203,
-    // -204 with the buffer left alone. A late reply calls SurAttente with its delay.
+    // -204 with the buffer left alone. A late reply calls SurAttente with its delay; a corrupt one comes with
+    // 1 and spoilt bytes.
     std::int32_t Echanger(Tampon& tampon);
     // The same for a carrier that loses, delays and spoils the reply itself.
     Reponse Traiter(const Tampon& commande);

@@ -103,6 +103,7 @@ void BoiteZelko::NoterEchange(const Tampon& commande, const Reponse& reponse) {
     note.horloge = m_horloge;
     note.numero = m_comptes.echanges;
     note.resultat = reponse.resultat;
+    note.corrompue = reponse.sort == SortReponse::Corrompue;
     note.commande = commande;
     note.reponse = reponse.octets;
     SurNote(note);

@@ -72,6 +72,7 @@ struct NoteJournal {
     // came back).
     std::uint64_t numero = 0;
     std::int32_t resultat = 0;
+    bool corrompue = false; // the reply, on its way back
     Tampon commande = {};
     Tampon reponse = {};
     // Of an event.

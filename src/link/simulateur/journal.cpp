@@ -215,7 +215,9 @@ void AjouterLigneJournal(std::string& sortie, const NoteJournal& note) {
         fmt::format_to(bout, "echange\t{}\t{}\t", note.numero, note.resultat);
         EcrireCommande(bout, note.commande);
         sortie += '\t';
-        if (note.resultat == ResultatRendu) {
+        if (note.corrompue) {
+            sortie += "corrompue";
+        } else if (note.resultat == ResultatRendu) {
             EcrireReponse(bout, note.commande, note.reponse);
         } else {
             sortie += '-';

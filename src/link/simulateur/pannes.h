@@ -12,7 +12,7 @@ enum class Panne {
     CommandePerdue,   // never reaches the box: -202
     ReponsePerdue,    // the box has done it, nothing comes back: -203
     ReponseTardive,   // comes `retard` late; past DelaiReponse: -203
-    ReponseCorrompue, // bytes changed, that of the command among them: -204
+    ReponseCorrompue, // bytes changed, that of the command among them: 1, as on the wire
     ReponseCourte,    // a packet cut short: -204
     SalveRefusee,     // a frame is told to come again, as by a full queue
     // Of the box and the machine, from their moment on.

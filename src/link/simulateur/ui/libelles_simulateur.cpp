@@ -257,7 +257,8 @@ QString PhraseNote(const NoteJournal& note) {
     if (!note.estEchange) return temps + QStringLiteral("  ") + PhraseEvenement(note.evenement, note.valeur);
     const QString commande = QString::fromStdString(DecrireCommande(note.commande));
     const QString retour =
-        note.resultat == ResultatZelkoSucces
+        note.corrompue ? Dire("réponse corrompue", "corrupt reply")
+        : note.resultat == ResultatZelkoSucces
             ? QString::fromStdString(DecrireReponse(note.commande, note.reponse))
             : Dire("pas de réponse valable (%1)", "no valid reply (%1)").arg(note.resultat);
     return QStringLiteral("%1  #%2  %3 → %4").arg(temps).arg(note.numero).arg(commande, retour);
