@@ -2,13 +2,17 @@
 //
 // Bytes of the buffer, counted from 0:
 //    2        after a frame: 1 accepted, anything else not
-//    4 to 6   number of the running frame, 24 bits, low byte first; the pause at the head of a list is number
-//    1 7        bit 4 (16) heat on 8        bit 1 (2) origin loop open; bit 2 (4) limit loop open; bit 3 (8)
-//    heat switch on OFF; bit 3 clear with
-//             bit 0 (1) set: heat switch on MANU
-//   12        bit 1 (2) run ended, and why: bit 7 (128) end of the list; bit 2 (4) stopped by S; bit 6 (64)
-//   STOP
-//             button; bit 4 (16) origin switch opened in motion; bit 5 (32) limit switch opened in motion
+//    4 to 6   number of the running frame, 24 bits, low byte first; the pause at a list's head is number 1
+//    7        bit 4 (16): heat on
+//    8        bit 1 (2): origin loop open
+//             bit 2 (4): limit loop open
+//             bit 3 (8): heat switch on OFF; clear with bit 0 (1) set: heat switch on MANU
+//   12        bit 1 (2): run ended, and why:
+//             bit 7 (128): end of the list
+//             bit 2 (4): stopped by S
+//             bit 6 (64): machine's STOP button
+//             bit 4 (16): origin switch opened in motion
+//             bit 5 (32): limit switch opened in motion
 //   13 to 16  ticks left in the running frame, 32 bits, low byte first
 // Example: 4 to 6 = 01 02 03 is frame 197121; 12 = 82 (hex) is a run that reached the end of its list.
 #pragma once
