@@ -9,7 +9,8 @@ using namespace tessarel;
 
 namespace {
 
-// A flat loop, about 500 mm around on the root, whose vertices are spread unevenly; it begins above the middle.
+// A flat loop, about 500 mm around on the root, whose vertices are spread unevenly; it begins above the
+// middle.
 std::vector<PointProfil> Boucle(std::size_t nombre, double taille) {
     std::vector<PointProfil> points(nombre);
     for (std::size_t i = 0; i < nombre; ++i) {

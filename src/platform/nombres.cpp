@@ -170,9 +170,8 @@ std::string FormaterNombre(float valeur, Masque masque) {
 std::string FormaterSimple(float valeur) {
     constexpr int chiffres = 7;
     std::array<char, 32> tampon;
-    const auto ecrit =
-        std::to_chars(tampon.data(), tampon.data() + tampon.size(), static_cast<double>(valeur),
-                      std::chars_format::general, chiffres);
+    const auto ecrit = std::to_chars(tampon.data(), tampon.data() + tampon.size(),
+                                     static_cast<double>(valeur), std::chars_format::general, chiffres);
     std::replace(tampon.data(), ecrit.ptr, 'e', 'E');
     return {tampon.data(), ecrit.ptr};
 }
