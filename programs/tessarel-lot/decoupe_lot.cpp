@@ -78,7 +78,7 @@ void Placer(const DemandeDecoupe& demande, Espace2D& espace) {
     regles.margeY = Parametres.MargesInterieuresBlocY;
     if (demande.bloc) espace.bloc = LimiterBlocSaisi(*demande.bloc, TableINI);
     if (demande.blocAuto)
-        espace.bloc = BlocAuto(espace.TableauSequences, regles, TableINI, espace.coeffTransf);
+        espace.bloc = BlocAuto(espace.TableauSequences, regles, TableINI, espace.coeffTransf).bloc;
     else if (regles.ajuster || regles.centrerX || regles.centrerY)
         AjusterAuBloc(espace.TableauSequences, espace.bloc, regles, TableINI, espace.coeffTransf);
     if (demande.entree >= 0) espace.TypeEntree = demande.entree;

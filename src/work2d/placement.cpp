@@ -93,9 +93,11 @@ Bloc LimiterBlocOuvert(Bloc bloc, const TableMachine& table) {
     return bloc;
 }
 
-void AjusterAuBloc(std::vector<Sequence>& sequences, const Bloc& bloc, const ReglesPlacement& regles,
-                   const TableMachine& table, float& coeffTransf) {
-    if (!OntDesPoints(sequences)) return;
+std::optional<PointDessin> AjusterAuBloc(std::vector<Sequence>& sequences, const Bloc& bloc,
+                                         const ReglesPlacement& regles, const TableMachine& table,
+                                         float& coeffTransf) {
+    PointDessin deplacement{0, 0};
+    if (!OntDesPoints(sequences)) return deplacement;
     if (regles.ajuster)
         AjusterTaille(sequences, bloc, regles, coeffTransf);
     else
@@ -105,22 +107,25 @@ void AjusterAuBloc(std::vector<Sequence>& sequences, const Bloc& bloc, const Reg
         const double milieu = (static_cast<double>(cadre.XMin) + cadre.XMax) / 2;
         const double pas = bloc.BlocX / 2.0 + table.MargeOrigineBloc - milieu;
         DeplacerPoints(sequences, [=](PointProfil& p) { p.X += pas; });
+        deplacement.X = pas;
     }
     if (regles.centrerY) {
         const Etendue cadre = CadrageSequences(sequences);
         const double milieu = (static_cast<double>(cadre.YMin) + cadre.YMax) / 2;
         const double pas = bloc.BlocY / 2.0 - milieu;
         DeplacerPoints(sequences, [=](PointProfil& p) { p.Y += pas; });
+        deplacement.Y = pas;
     }
+    if (regles.ajuster) return std::nullopt;
+    return deplacement;
 }
 
-Bloc BlocAuto(std::vector<Sequence>& sequences, const ReglesPlacement& regles, const TableMachine& table,
-              float& coeffTransf) {
+BlocPlace BlocAuto(std::vector<Sequence>& sequences, const ReglesPlacement& regles, const TableMachine& table,
+                   float& coeffTransf) {
     const ZoneVisible zone = CalculerZoneVisible(sequences, table);
     const Bloc bloc = {std::max(zone.ZoneVisibleXMax - zone.ZoneVisibleXMin, CoteMinimal),
                        std::max(zone.ZoneVisibleYMax - zone.ZoneVisibleYMin, CoteMinimal)};
-    AjusterAuBloc(sequences, bloc, regles, table, coeffTransf);
-    return bloc;
+    return {bloc, AjusterAuBloc(sequences, bloc, regles, table, coeffTransf)};
 }
 
 } // namespace tessarel

@@ -1,9 +1,13 @@
 // What the workshop does to the points of a path: move, scale, turn, mirror, reverse; and how a hand on the
 // transform box becomes one of these.
 //
-//    HG ---- HM ---- HD        a corner sets both factors, a middle one its own; the fixed point is the
-//    handle |                |        opposite, or the middle of the box MG       +      MD | | BG ---- BM
-//    ---- BD
+// clang-format off
+//    HG ---- HM ---- HD    a corner sets both factors, a middle one its own
+//    |                |    the fixed point is the opposite handle, or the middle of the box
+//    MG      +       MD
+//    |                |
+//    BG ---- BM ---- BD
+// clang-format on
 #pragma once
 
 #include "paths/points.h"

@@ -157,7 +157,7 @@ TEST(Placement, UnProjetVideResteVide) {
 TEST(BlocAuto, PrendLaTailleDesTracesAvecDixAuMoins) {
     float coeff = 1;
     std::vector<Sequence> sequences = {Rectangle(10, 20, 40, 3)};
-    const Bloc bloc = BlocAuto(sequences, {}, MachineEssai(), coeff);
+    const Bloc bloc = BlocAuto(sequences, {}, MachineEssai(), coeff).bloc;
     EXPECT_EQ(bloc.BlocX, 40);
     EXPECT_EQ(bloc.BlocY, 10);
 }
@@ -165,7 +165,7 @@ TEST(BlocAuto, PrendLaTailleDesTracesAvecDixAuMoins) {
 TEST(BlocAuto, PuisPlaceParLesRegles) {
     float coeff = 1;
     std::vector<Sequence> sequences = {CarreDe20()};
-    const Bloc bloc = BlocAuto(sequences, {true, true, true, 5, 5}, MachineEssai(), coeff);
+    const Bloc bloc = BlocAuto(sequences, {true, true, true, 5, 5}, MachineEssai(), coeff).bloc;
     EXPECT_EQ(bloc.BlocX, 20);
     EXPECT_EQ(coeff, 0.5F);           // room 10 for a path of 20
     EXPECT_EQ(sequences[0].XMin, 10); // middle 10 + 5
@@ -175,7 +175,7 @@ TEST(BlocAuto, PuisPlaceParLesRegles) {
 TEST(BlocAuto, SansTraceLeCadreEstLaTable) {
     float coeff = 1;
     std::vector<Sequence> sequences;
-    const Bloc bloc = BlocAuto(sequences, {}, MachineEssai(), coeff);
+    const Bloc bloc = BlocAuto(sequences, {}, MachineEssai(), coeff).bloc;
     EXPECT_EQ(bloc.BlocX, 300);
     EXPECT_EQ(bloc.BlocY, 200);
 }

@@ -127,6 +127,14 @@ void Atelier2D::Memoriser(std::size_t avant) {
                             m_espace.coeffTransf);
 }
 
+void Atelier2D::AnnoncerDeplacement(const std::optional<PointDessin>& deplacement) {
+    if (!deplacement) return;
+    Transformation transformation;
+    transformation.dx = deplacement->X;
+    transformation.dy = deplacement->Y;
+    AnnoncerTransformation(m_historique, transformation);
+}
+
 void Atelier2D::OublierSiInchange() {
     OublierMemorisation(m_historique, m_espace.TableauSequences, m_espace.bloc);
 }

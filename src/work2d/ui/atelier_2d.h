@@ -44,6 +44,9 @@ public:
     // stood there already.
     void Memoriser();
     void Memoriser(std::size_t avant);
+    // Says that the deed just done moved every path by this much, where it did: undo then holds it in less
+    // room.
+    void AnnoncerDeplacement(const std::optional<PointDessin>& deplacement);
     // Takes the last kept state back when nothing differs from it.
     void OublierSiInchange();
 

@@ -43,7 +43,9 @@ void frmTessarel2D::ChangerBloc(std::size_t cote, double valeur) {
 
 void frmTessarel2D::AjusterBlocAuto() {
     m_atelier->Memoriser();
-    m_espace.bloc = BlocAuto(m_espace.TableauSequences, Regles(), TableINI, m_espace.coeffTransf);
+    const BlocPlace place = BlocAuto(m_espace.TableauSequences, Regles(), TableINI, m_espace.coeffTransf);
+    m_espace.bloc = place.bloc;
+    m_atelier->AnnoncerDeplacement(place.deplacement);
     m_atelier->OublierSiInchange();
     MontrerTout();
     if (chkZoomProjet->isChecked()) {
@@ -63,7 +65,8 @@ void frmTessarel2D::ChangerRegle() {
 }
 
 void frmTessarel2D::Replacer() {
-    AjusterAuBloc(m_espace.TableauSequences, m_espace.bloc, Regles(), TableINI, m_espace.coeffTransf);
+    m_atelier->AnnoncerDeplacement(
+        AjusterAuBloc(m_espace.TableauSequences, m_espace.bloc, Regles(), TableINI, m_espace.coeffTransf));
     m_atelier->OublierSiInchange();
     MontrerTout();
     MarquerModifie();
