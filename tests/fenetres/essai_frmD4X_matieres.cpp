@@ -11,6 +11,7 @@
 #include "ui/champ_nombre.h"
 #include "ui/theme.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QInputDialog>
@@ -119,6 +120,7 @@ private slots:
     void LaChauffeSeReglePendantLeMouvement();
     void LaSaigneeMesureeVaALaMatiere();
     void LaTensionPermanenteFinitAvecLaFenetre();
+    void LaTensionNeSeMelePasAUneChauffeDemandee();
     void FermerRefroiditLeFil();
 };
 
@@ -520,6 +522,27 @@ void EssaiMatieres::LaTensionPermanenteFinitAvecLaFenetre() {
     Cliquer(*test.fenetre, "cmdQuitter");
     QCOMPARE(delai(), 1);
     QCOMPARE(test.virtuelle.Compter(CommandeMoteurs, 0), std::size_t(1));
+}
+
+void EssaiMatieres::LaTensionNeSeMelePasAUneChauffeDemandee() {
+    Test test;
+    simulateur::PanneProgrammee panne; // P goes out again and again
+    panne.panne = simulateur::Panne::CommandePerdue;
+    panne.commande = CommandeChauffe;
+    panne.echange = 1;
+    panne.fois = 3;
+    test.virtuelle.boite->Programmer(panne);
+    int pompages = 0;
+    test.virtuelle.SurPompe = [&] {
+        if (++pompages == 1) Cliquer(*test.fenetre, "chkDesactiverTimeOutMoteurs");
+    };
+    Cliquer(*test.fenetre, "optChauffeMatieres_1");
+    test.virtuelle.SurPompe = {};
+    QVERIFY(pompages > 1);
+    QCOMPARE(test.virtuelle.Compter(CommandeMoteurs, 1), std::size_t(0));
+    QVERIFY(!Controle<QCheckBox>(*test.fenetre, "chkDesactiverTimeOutMoteurs").isChecked());
+    Cliquer(*test.fenetre, "chkDesactiverTimeOutMoteurs");
+    QCOMPARE(test.virtuelle.Compter(CommandeMoteurs, 1), std::size_t(1));
 }
 
 void EssaiMatieres::FermerRefroiditLeFil() {

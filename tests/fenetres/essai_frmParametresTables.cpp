@@ -83,6 +83,7 @@ private slots:
     void EnvoyerUneReserveeNEcritRienDansLeFichier();
     void ValiderSansEnvoyerDesactiveLesMouvementsDUneAutreTable();
     void UneMemoireQuiNeRepondPasLaisseLesMouvementsCoupes();
+    void UnFichierImpossibleMontreQueRienNeBougePlus();
 };
 
 void EssaiParametresTables::LaMachineEnCoursEstMontree() {
@@ -422,6 +423,24 @@ void EssaiParametresTables::ValiderSansEnvoyerDesactiveLesMouvementsDUneAutreTab
     Controle<QSlider>(fenetre, "slidPenteAcceleration").setValue(6);
     Cliquer(fenetre, "cmdValider_0");
     QVERIFY(MouvementsActifs);
+}
+
+void EssaiParametresTables::UnFichierImpossibleMontreQueRienNeBougePlus() {
+    const PosteMachine poste;
+    BoiteDesFenetres virtuelle;
+    virtuelle.Memoriser(TableINI);
+    frmParametresTables fenetre;
+    Exposer(fenetre);
+    CreerMachine(fenetre, QStringLiteral("Atelier"));
+    virtuelle.Memoriser(TableINI);
+    Cliquer(fenetre, "cmdRafraichirUsb");
+    QVERIFY(Controle<QRadioButton>(fenetre, "optReglagesVersManu_1").isEnabled());
+    // What a machine that was written and could not be read back leaves behind.
+    MouvementsActifs = false;
+    DossiersProgramme.FichierIni = poste.dossier.Chemin(); // a folder stands where the file should
+    Cliquer(fenetre, "cmdValider_0");
+    QCOMPARE(poste.DerniereBoite().texte, TextesMessages(240));
+    QVERIFY(!Controle<QRadioButton>(fenetre, "optReglagesVersManu_1").isEnabled());
 }
 
 void EssaiParametresTables::UneMemoireQuiNeRepondPasLaisseLesMouvementsCoupes() {

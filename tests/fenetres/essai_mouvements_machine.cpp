@@ -1,5 +1,6 @@
 // The test moves of the parameter window with the virtual box: increments, positions, speeds, stops, heat,
 // and a wire that is cold when the window closes.
+#include "app/texts/textes_programme.h"
 #include "fenetres/boite_des_fenetres.h"
 #include "fenetres/images.h"
 #include "fenetres/poste_machine.h"
@@ -7,6 +8,7 @@
 #include "machine/ui/libelles_parametres.h"
 #include "ui/theme.h"
 
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QRadioButton>
@@ -54,6 +56,10 @@ private slots:
     void LesMoteursSeCoupent();
     void CouperPendantUnMouvementBaisseLaChauffePuisLaConfirme();
     void CouperLesMoteursPendantUnMouvementLArreteDAbord();
+    void UnArretSansReponseSeDit();
+    void ToucherLaBarreApresLaCoupureNeRallumePas();
+    void RallumerPendantLeMouvementReprendLaCoupure();
+    void RienNeSeMeleAUneChauffeDemandee();
     void LaChauffeSuitSesBoutons();
     void FermerAvecLeFilChaudLeRefroidit();
     void FermerAvecLaBoiteDebrancheePrevient();
@@ -179,6 +185,106 @@ void EssaiMouvementsMachine::CouperPendantUnMouvementBaisseLaChauffePuisLaConfir
     QCOMPARE(essai.Position()[AxeX1], 32000); // the move goes on
     QCOMPARE(essai.virtuelle.Compter(CommandeChauffe, 0), std::size_t(1));
     QVERIFY(Controle<QRadioButton>(*essai.fenetre, "optChauffeParam_0").isChecked());
+}
+
+void EssaiMouvementsMachine::UnArretSansReponseSeDit() {
+    Essais essai;
+    Taper(*essai.fenetre, "txtIncrements_0", QStringLiteral("100"));
+    int pompages = 0;
+    essai.virtuelle.SurPompe = [&] {
+        if (++pompages == 40) {
+            essai.virtuelle.boite->Brancher(false);
+            Cliquer(*essai.fenetre, "cmdStopIncrements");
+        }
+        for (auto* alerte : essai.fenetre->findChildren<QMessageBox*>(QStringLiteral("alerteInterface")))
+            if (alerte->isVisible()) QTest::mouseClick(alerte->button(QMessageBox::Ok), Qt::LeftButton);
+    };
+    Cliquer(*essai.fenetre, "cmdGoIncrements");
+    essai.virtuelle.SurPompe = {};
+    QCOMPARE(essai.poste.boites.boites.size(), std::size_t(1));
+    QCOMPARE(essai.poste.DerniereBoite().texte, Texte(TexteProgramme::MarcheAbandonnee));
+    QVERIFY(essai.poste.DerniereBoite().icone == IconeBoite::Critique);
+    QCOMPARE(Controle<QLabel>(*essai.fenetre, "lblEtatMouvement").text(),
+             QStringLiteral("Arrêt non confirmé par l'interface"));
+}
+
+void EssaiMouvementsMachine::ToucherLaBarreApresLaCoupureNeRallumePas() {
+    Essais essai;
+    Cliquer(*essai.fenetre, "optChauffeParam_1");
+    Taper(*essai.fenetre, "txtIncrements_0", QStringLiteral("100"));
+    int pompages = 0;
+    essai.virtuelle.SurPompe = [&] {
+        ++pompages;
+        if (pompages == 40) Cliquer(*essai.fenetre, "optChauffeParam_0");
+        if (pompages == 50) Controle<QScrollBar>(*essai.fenetre, "hscChauffeParam").setValue(30);
+    };
+    Cliquer(*essai.fenetre, "cmdGoIncrements");
+    essai.virtuelle.SurPompe = {};
+    QVERIFY(pompages > 60);
+    QCOMPARE(essai.virtuelle.Compter(CommandeChauffe, 1) - essai.virtuelle.Compter(CommandeChauffe, 0),
+             std::size_t(1)); // on, off through the run's own P 1 0, then P 0 0
+    QVERIFY(std::ranges::none_of(essai.virtuelle.commandes, [](const Tampon& t) {
+        return t[1] == CommandeChauffe && t[3] == 76; // 30 %
+    }));
+    QCOMPARE(int(essai.virtuelle.boite->Etat().pwmCommande), 0);
+    QVERIFY(Controle<QRadioButton>(*essai.fenetre, "optChauffeParam_0").isChecked());
+}
+
+void EssaiMouvementsMachine::RallumerPendantLeMouvementReprendLaCoupure() {
+    Essais essai;
+    Cliquer(*essai.fenetre, "optChauffeParam_1");
+    Controle<QScrollBar>(*essai.fenetre, "hscChauffeParam").setValue(20);
+    Taper(*essai.fenetre, "txtIncrements_0", QStringLiteral("100"));
+    int pompages = 0;
+    int entre = -1;
+    int rallumee = -1;
+    essai.virtuelle.SurPompe = [&] {
+        ++pompages;
+        if (pompages == 40) Cliquer(*essai.fenetre, "optChauffeParam_0");
+        if (pompages == 50) {
+            entre = essai.virtuelle.boite->Etat().pwmCommande;
+            Cliquer(*essai.fenetre, "optChauffeParam_1");
+        }
+        if (pompages == 55) rallumee = essai.virtuelle.boite->Etat().pwmCommande;
+        if (pompages == 60) Controle<QScrollBar>(*essai.fenetre, "hscChauffeParam").setValue(40);
+    };
+    Cliquer(*essai.fenetre, "cmdGoIncrements");
+    essai.virtuelle.SurPompe = {};
+    QCOMPARE(entre, 0);
+    QCOMPARE(rallumee, 51);                                        // 20 %
+    QCOMPARE(int(essai.virtuelle.boite->Etat().pwmCommande), 102); // 40 %
+    QVERIFY(Controle<QRadioButton>(*essai.fenetre, "optChauffeParam_1").isChecked());
+    QVERIFY(Controle<QLabel>(*essai.fenetre, "lblWarningChauffe").isVisible());
+}
+
+void EssaiMouvementsMachine::RienNeSeMeleAUneChauffeDemandee() {
+    Essais essai;
+    simulateur::PanneProgrammee panne; // P goes out again and again
+    panne.panne = simulateur::Panne::CommandePerdue;
+    panne.commande = CommandeChauffe;
+    panne.echange = 1;
+    panne.fois = 3;
+    essai.virtuelle.boite->Programmer(panne);
+    const std::string machine = TableINI.Nom;
+    std::size_t avant = 0;
+    std::size_t apres = 0;
+    int pompages = 0;
+    essai.virtuelle.SurPompe = [&] {
+        if (++pompages != 1) return;
+        avant = essai.virtuelle.commandes.size();
+        for (const char* bouton : {"cmdRafraichirUsb", "cmdValider_0", "cmdValider_1", "cmdNouvelleTable"})
+            Cliquer(*essai.fenetre, bouton);
+        auto& machines = Controle<QComboBox>(*essai.fenetre, "comboMachines");
+        emit machines.activated(machines.currentIndex() == 0 ? 1 : 0);
+        apres = essai.virtuelle.commandes.size();
+    };
+    Cliquer(*essai.fenetre, "optChauffeParam_1");
+    essai.virtuelle.SurPompe = {};
+    QVERIFY(avant > 0);
+    QCOMPARE(apres, avant);
+    QCOMPARE(TableINI.Nom, machine);
+    QVERIFY(essai.poste.boites.boites.empty());
+    QVERIFY(essai.virtuelle.boite->Etat().pwmCommande > 0);
 }
 
 void EssaiMouvementsMachine::CouperLesMoteursPendantUnMouvementLArreteDAbord() {

@@ -152,6 +152,8 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
     {TexteProgramme::EssaiEnCours, "Mouvement en cours : %1 %", "Moving: %1%"},
     {TexteProgramme::EssaiTermine, "Mouvement terminé", "Move done"},
     {TexteProgramme::EssaiArrete, "Mouvement arrêté", "Move stopped"},
+    {TexteProgramme::EssaiSansConfirmation, "Arrêt non confirmé par l'interface",
+     "Stop not confirmed by the interface"},
     {TexteProgramme::EssaiImpossible, "Le mouvement n'a pas été exécuté", "The move was not carried out"},
     {TexteProgramme::ChauffeEssaiCoupure,
      "La chauffe ne répond pas à la commande d'arrêt, nouvel essai en cours…\r\n"

@@ -70,6 +70,7 @@ enum class TexteProgramme {
     EssaiEnCours,          // %1 percent done
     EssaiTermine,
     EssaiArrete,
+    EssaiSansConfirmation, // the box did not answer the stop
     EssaiImpossible,
     ChauffeEssaiCoupure,
     EssaiSansReponse,

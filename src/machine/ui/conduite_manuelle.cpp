@@ -5,6 +5,7 @@
 #include "app/texts/textes_programme.h"
 #include "link/echange.h"
 #include "link/mouvement_essai.h"
+#include "link/recherche_origine.h"
 #include "platform/dialogue.h"
 #include "platform/nombres.h"
 #include "ui/boites_qt.h"
@@ -42,6 +43,7 @@ private:
 } // namespace
 
 TexteProgramme MotDeFin(FinMarche fin, CauseFin cause) {
+    if (fin == FinMarche::Abandonnee) return TexteProgramme::EssaiSansConfirmation; // it may be moving
     if (cause == CauseFin::FinDeListe) return TexteProgramme::EssaiTermine;
     if (fin == FinMarche::Impossible || fin == FinMarche::SansDuree) return TexteProgramme::EssaiImpossible;
     return TexteProgramme::EssaiArrete;
@@ -73,7 +75,7 @@ ConduiteManuelle::Resultat ConduiteManuelle::Mouvoir(const PasAxes& pas, const V
     // A wire that stands must not go on melting, whoever stopped it.
     if (m_coupureVoulue || mouvement.cause != CauseFin::FinDeListe) CouperSiChaud();
     m_coupureVoulue = false;
-    AnnoncerCause(mouvement.cause);
+    if (!AnnoncerCause(mouvement.cause)) AnnoncerMarcheAnormale(mouvement.marche.fin);
     emit FinMouvement();
     return {mouvement.marche.fin, mouvement.cause, PasFaits(mouvement, pas)};
 }
@@ -91,8 +93,10 @@ void ConduiteManuelle::CouperLesMoteurs() {
     }
 }
 
-void ConduiteManuelle::TensionPermanente(bool permanente) {
+bool ConduiteManuelle::TensionPermanente(bool permanente) {
+    if (m_occupee || m_enMouvement) return false;
     DesactiverDelaiMoteurs(permanente, TableINI);
+    return true;
 }
 
 void ConduiteManuelle::Prevenir(QPointer<QMessageBox>& alerte, const std::string& texte,
@@ -121,6 +125,13 @@ bool ConduiteManuelle::InterrupteursPermettent() {
 }
 
 bool ConduiteManuelle::Chauffer(double pourcent) {
+    if (m_enMouvement && m_coupureVoulue && m_chaude) {
+        m_coupureVoulue = false;
+        ChangerChauffe(pourcent);
+        return true;
+    }
+    const bool sEteint = m_coupureVoulue || (m_occupee && m_abandon);
+    if (m_chaude && !sEteint) return true;
     if (m_occupee || m_enMouvement || !MouvementsActifs || !InterrupteursPermettent()) return false;
     m_chauffeVoulue = pourcent;
     if (!EnvoyerChauffeVoulue()) return false;
@@ -129,7 +140,7 @@ bool ConduiteManuelle::Chauffer(double pourcent) {
 }
 
 void ConduiteManuelle::ChangerChauffe(double pourcent) {
-    if (!m_chaude && !m_occupee) return;
+    if (m_coupureVoulue || (!m_chaude && !m_occupee)) return;
     m_chauffeVoulue = pourcent;
     if (m_enMouvement) {
         m_demandes.ChauffeVoulue = EnSimple(pourcent);
@@ -173,6 +184,7 @@ bool ConduiteManuelle::Couper() {
     bool coupee = false;
     {
         const Drapeau occupe(m_occupee);
+        const Drapeau coupure(m_coupureVoulue);
         DemandesMarche demandes;
         QPointer<QMessageBox> alerte;
         SuiviMarche suivi;

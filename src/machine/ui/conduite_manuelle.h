@@ -37,12 +37,15 @@ public:
     void DemanderArret();
     // Switches the motors off; a move that runs is stopped first.
     void CouperLesMoteurs();
-    // Motors kept under current, or back to what the machine says.
-    void TensionPermanente(bool permanente);
+    // Motors kept under current, or back to what the machine says. False, with nothing sent, while another
+    // command is under way.
+    bool TensionPermanente(bool permanente);
 
-    // Heat on: looks at the box's switches first, with their boxes. True when the box confirmed.
+    // Heat on: looks at the box's switches first, with their boxes. True when the box confirmed, when the
+    // wire is on already, and when a heat-off asked during the move that runs could be taken back.
     bool Chauffer(double pourcent);
-    // Another heat while the wire is on; while a move runs it goes out between two of its exchanges.
+    // Another heat while the wire is on; while a move runs it goes out between two of its exchanges. Does
+    // nothing once the heat is to be switched off: a bar that is touched must not light the wire again.
     void ChangerChauffe(double pourcent);
     // Heat off, repeated until it is confirmed; the user is warned when that takes long and may give up,
     // which ends in a loud box. True when the wire is known to be cold.
@@ -74,7 +77,7 @@ private:
     bool m_chaude = false;
     double m_chauffeVoulue = 0; // percent, as asked for last
     bool m_abandon = false;
-    bool m_coupureVoulue = false; // asked for during a move: confirmed after it
+    bool m_coupureVoulue = false; // asked for and not confirmed yet; during a move it is confirmed after it
 };
 
 } // namespace tessarel

@@ -29,6 +29,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QToolButton>
 #include <algorithm>
 #include <cmath>
@@ -124,8 +125,7 @@ void frmD4X_matieres::RelierCurseurs() {
 
 void frmD4X_matieres::RelierChauffe() {
     connect(optChauffeMatieres[1], &QRadioButton::clicked, this, [this] {
-        if (!m_conduite->Chaude() && !m_conduite->Chauffer(hscChauffeParam->value()))
-            optChauffeMatieres[0]->setChecked(true);
+        if (!m_conduite->Chauffer(hscChauffeParam->value())) optChauffeMatieres[0]->setChecked(true);
     });
     connect(optChauffeMatieres[0], &QRadioButton::clicked, m_conduite, &ConduiteManuelle::Couper);
     connect(hscChauffeParam, &QScrollBar::valueChanged, this, [this](int pourcent) {
@@ -140,8 +140,11 @@ void frmD4X_matieres::RelierChauffe() {
     QPalette rouge = lblWarningChauffe->palette();
     rouge.setColor(QPalette::WindowText, CouleurAlerte());
     lblWarningChauffe->setPalette(rouge);
-    connect(chkDesactiverTimeOutMoteurs, &QCheckBox::toggled, m_conduite,
-            &ConduiteManuelle::TensionPermanente);
+    connect(chkDesactiverTimeOutMoteurs, &QCheckBox::toggled, this, [this](bool permanente) {
+        if (m_conduite->TensionPermanente(permanente)) return;
+        const QSignalBlocker rienNEstParti(chkDesactiverTimeOutMoteurs);
+        chkDesactiverTimeOutMoteurs->setChecked(!permanente);
+    });
 }
 
 // Base ----------------------------------------------------------------------------------------------

@@ -16,6 +16,7 @@
 #include "machine/ui/vue_dessin.h"
 #include "platform/dialogue.h"
 #include "platform/nombres.h"
+#include "platform/signaux_fin.h"
 #include "ui/boites_qt.h"
 #include "ui/icones.h"
 #include "ui/theme.h"
@@ -243,7 +244,9 @@ bool frmParametresTables::Modifiee() const {
 
 // Link ----------------------------------------------------------------------------------------------
 
+// No exchange starts inside another: while a command is repeated the window is alive, and waits.
 void frmParametresTables::Rafraichir() {
+    if (m_essais->MouvementEnCours()) return;
     RafraichirUsb("TABLES");
     MontrerMachine();
     ActualiserNomsMemoiresEtAffichageMachineDansFrmParametres();
@@ -343,7 +346,7 @@ bool frmParametresTables::AccepterAbandon() {
 
 void frmParametresTables::ChangerMachine(int rang) {
     const std::string nom = comboMachines->itemText(rang).toStdString();
-    if (nom != TableINI.Nom && AccepterAbandon()) {
+    if (nom != TableINI.Nom && !m_essais->MouvementEnCours() && AccepterAbandon()) {
         ChoisirMachine(nom);
         MontrerMachine();
         ActualiserNomsMemoiresEtAffichageMachineDansFrmParametres();
@@ -353,6 +356,7 @@ void frmParametresTables::ChangerMachine(int rang) {
 }
 
 void frmParametresTables::DemanderNouvelleTable() {
+    if (m_essais->MouvementEnCours()) return;
     frmNouvelleTable demande(this);
     demande.Accepter([this](const std::string& nom) { return CreerMachine(Saisie(), nom); });
     if (demande.exec() != QDialog::Accepted) return;
@@ -363,6 +367,7 @@ void frmParametresTables::DemanderNouvelleTable() {
 }
 
 void frmParametresTables::DemanderEffacement() {
+    if (m_essais->MouvementEnCours()) return;
     const auto chargement = [this] {
         lblEtat->setText(TexteAffiche(Texte(TexteProgramme::ParametresChargementDefaut)));
     };
@@ -375,6 +380,7 @@ void frmParametresTables::DemanderEffacement() {
 }
 
 void frmParametresTables::Valider(bool versMemoire) {
+    if (m_essais->MouvementEnCours()) return;
     std::optional<int> memoire;
     if (versMemoire) {
         const bool prete = InterfacePretePourMemoire();
@@ -391,7 +397,11 @@ void frmParametresTables::Valider(bool versMemoire) {
         }
     }
     const FinSauvegarde fin = SauverParamMachineIniEtZelko(Saisie(), memoire);
-    if (fin == FinSauvegarde::Refusee || fin == FinSauvegarde::FichierImpossible) return;
+    if (fin == FinSauvegarde::Refusee) return;
+    if (fin == FinSauvegarde::FichierImpossible) {
+        ActualiserNomsMemoiresEtAffichageMachineDansFrmParametres(); // moves may not be allowed any more
+        return;
+    }
     MontrerMachine();
     ActualiserNomsMemoiresEtAffichageMachineDansFrmParametres();
     const bool reservee = EstMachineIntegree(TableINI.Nom);
@@ -408,8 +418,10 @@ bool frmParametresTables::PeutFermer() {
         m_essais->DemanderArret();
         return false;
     }
-    if (Modifiee() && !DemanderOuiNon(TextesMessages(RangeeQuitterSansValider),
-                                      TitresMessages(RangeeQuitterSansValider), IconeBoite::Exclamation))
+    // A signal does not wait for an answer while the wire may be hot.
+    if (Modifiee() && !FinDemandee() &&
+        !DemanderOuiNon(TextesMessages(RangeeQuitterSansValider), TitresMessages(RangeeQuitterSansValider),
+                        IconeBoite::Exclamation))
         return false;
     return m_essais->CouperAvantDePartir();
 }
