@@ -29,10 +29,6 @@ int ListerMachines() {
     return Imprimer(texte);
 }
 
-std::string OuiNon(bool valeur) {
-    return valeur ? Dire("oui", "yes") : Dire("non", "no");
-}
-
 // A value under the key that the settings file has for it.
 std::string Ligne(const char* cle, const std::string& valeur) {
     constexpr std::size_t largeur = 34;
@@ -41,34 +37,11 @@ std::string Ligne(const char* cle, const std::string& valeur) {
     return ligne + valeur + "\n";
 }
 
-std::string Ligne(const char* cle, double valeur) {
-    return Ligne(cle, FormaterNombre(valeur, "#####0.####"));
-}
-std::string Ligne(const char* cle, float valeur) {
-    return Ligne(cle, FormaterNombre(valeur, "#####0.####"));
-}
-
+// Every key of the machine as the settings file has it, and what is derived from them.
 std::string TexteMachine(const TableMachine& t) {
     std::string texte = Ligne("Nom", t.Nom);
-    texte += Ligne("CourseX", t.CourseX * 1.0) + Ligne("CourseY", t.CourseY * 1.0);
-    texte += Ligne("OrigineEnHaut", OuiNon(t.OrigineEnHaut));
-    texte += Ligne("MargeFilPlateau", t.MargeFilPlateau) + Ligne("MargeFilBloc", t.MargeFilBloc) +
-             Ligne("MargeOrigineBloc", t.MargeOrigineBloc);
-    texte +=
-        Ligne("VitesseDecoupeParDefaut", t.VitesseDecoupeParDefaut) + Ligne("VitesseRapide", t.VitesseRapide);
-    texte += Ligne("VmaxSansAccXY", t.VmaxSansAccXY) + Ligne("VmaxAvecAccXY", t.VmaxAvecAccXY);
-    texte += Ligne("PenteAcceleration", t.PenteAcceleration * 1.0) +
-             Ligne("FrequenceInterpolateur", t.Frequence * 1.0);
-    texte += Ligne("ChauffeParDefaut", t.ChauffeParDefaut * 1.0) +
-             Ligne("ChauffeMaxiSur100", t.ChauffeMaxiSur100 * 1.0) +
-             Ligne("TempoChauffe", t.TempoChauffe * 1.0);
-    texte += Ligne("SaigneeVDParDefaut", t.SaigneeVDParDefaut) +
-             Ligne("SaigneeVDsur2ParDefaut", t.SaigneeVDsur2ParDefaut);
-    texte += Ligne("EcartementY1Y2", t.EcartementY1Y2) + Ligne("EcartementUtile", t.EcartementUtile) +
-             Ligne("LongueurMaxiFil", t.LongueurMaxiFil);
-    texte += Ligne("DistanceRangementFilSousOrigine", t.DistanceRangementFilSousOrigine);
-    texte += Ligne("NomAxeGcode X1 Y1 X2 Y2",
-                   t.NomAxeGcodeX1 + " " + t.NomAxeGcodeY1 + " " + t.NomAxeGcodeX2 + " " + t.NomAxeGcodeY2);
+    for (const CleMachine& cle : ClesMachine()) texte += Ligne(cle.cle, TexteDeCle(cle, t));
+    texte += Ligne("EcartementUtile", FormaterNombre(t.EcartementUtile, "#####0.0##"));
     return texte;
 }
 
