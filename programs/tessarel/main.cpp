@@ -10,7 +10,9 @@
 #include "machine/ui/frmParametresTables.h"
 #include "platform/dialogue.h"
 #include "platform/instance.h"
+#include "platform/signaux_fin.h"
 #include "ui/boites_qt.h"
+#include "ui/fin_demandee.h"
 #include "ui/pompe_qt.h"
 #include "ui/theme.h"
 #include "work2d/ui/frmTessarel2D.h"
@@ -72,6 +74,7 @@ bool MontrerSplash(ApplicationTessarel& application, Fenetres& fenetres) {
 
 int main(int argc, char** argv) {
     ApplicationTessarel application(argc, argv);
+    EcouterSignauxDeFin(SecondSigint::Compte); // a wire may have to be put out first
     AppliquerTheme(Theme::Systeme);
     InstallerBoitesQt();
     InstallerPompeQt();
@@ -84,6 +87,7 @@ int main(int argc, char** argv) {
             return 0;
         }
         Fenetres fenetres;
+        const GardienDeFin gardien;
         statut = MontrerSplash(application, fenetres) ? ApplicationTessarel::exec() : 0;
     } catch (const std::exception& faute) {
         AnnoncerFaute(faute, "Form_Load", "frmSplashScreen");

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QProcess>
 #include <QTest>
+#include <csignal>
 
 using tessarel::essais::DossierProvisoire;
 
@@ -56,6 +57,8 @@ class EssaiProgramme : public QObject {
 private slots:
     void UnPremierDemarrageCreeLesDossiersEtAttendLUtilisateur();
     void UneSecondeInstanceNeToucheARien();
+    void UnSignalDeFinFermeProprement_data();
+    void UnSignalDeFinFermeProprement();
 };
 
 void EssaiProgramme::UnPremierDemarrageCreeLesDossiersEtAttendLUtilisateur() {
@@ -85,6 +88,25 @@ void EssaiProgramme::UneSecondeInstanceNeToucheARien() {
     QTest::qWait(1500); // a first start makes its folders in far less
     QVERIFY(!QFile::exists(second.Tessarel()));
     QCOMPARE(premier.programme.state(), QProcess::Running);
+}
+
+void EssaiProgramme::UnSignalDeFinFermeProprement_data() {
+    QTest::addColumn<int>("signal");
+    QTest::addRow("SIGTERM") << SIGTERM;
+    QTest::addRow("SIGINT") << SIGINT;
+    QTest::addRow("SIGHUP") << SIGHUP;
+}
+void EssaiProgramme::UnSignalDeFinFermeProprement() {
+    QFETCH(int, signal);
+    Poste poste;
+    poste.programme.start();
+    const QString ini = poste.Tessarel() + "/Datas/Tessarel.ini";
+    QTRY_VERIFY_WITH_TIMEOUT(Lire(ini).contains("OngletActif=C4X\r\n"), 20000);
+    QTest::qWait(500); // the splash is up
+    QCOMPARE(::kill(static_cast<pid_t>(poste.programme.processId()), signal), 0);
+    QVERIFY(poste.programme.waitForFinished(20000));
+    QCOMPARE(poste.programme.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(poste.programme.exitCode(), 0);
 }
 
 QTEST_GUILESS_MAIN(EssaiProgramme)
