@@ -61,6 +61,7 @@ private slots:
     void RallumerPendantLeMouvementReprendLaCoupure();
     void RienNeSeMeleAUneChauffeDemandee();
     void LaChauffeSuitSesBoutons();
+    void UneChauffeSansEchoEstCoupeePuisDite();
     void FermerAvecLeFilChaudLeRefroidit();
     void FermerAvecLaBoiteDebrancheePrevient();
     void Images_data();
@@ -334,6 +335,22 @@ void EssaiMouvementsMachine::LaChauffeSuitSesBoutons() {
     Cliquer(*essai.fenetre, "optChauffeParam_1");
     QCOMPARE(essai.poste.DerniereBoite().texte, TextesMessages(107));
     QVERIFY(Controle<QRadioButton>(*essai.fenetre, "optChauffeParam_0").isChecked());
+}
+
+void EssaiMouvementsMachine::UneChauffeSansEchoEstCoupeePuisDite() {
+    Essais essai;
+    // The status asked before the heat gets through; the heat is not answered for until it is given up.
+    simulateur::PanneProgrammee panne;
+    panne.panne = simulateur::Panne::ReponsePerdue;
+    panne.echange = essai.virtuelle.boite->Comptes().echanges + 2;
+    panne.fois = 5;
+    essai.virtuelle.boite->Programmer(panne);
+    Cliquer(*essai.fenetre, "optChauffeParam_1");
+    QCOMPARE(essai.virtuelle.boite->Etat().pwmCommande, std::uint8_t(0));
+    QCOMPARE(essai.poste.boites.boites.size(), std::size_t(1));
+    const std::string& texte = essai.poste.boites.boites[0].texte;
+    QVERIFY(texte.starts_with("Erreur -203"));
+    QVERIFY(texte.ends_with("EnvoyerChauffe"));
 }
 
 void EssaiMouvementsMachine::FermerAvecLeFilChaudLeRefroidit() {

@@ -151,9 +151,10 @@ void ConduiteManuelle::ChangerChauffe(double pourcent) {
 }
 
 // Sends what is wanted, again when the user moved on meanwhile. A heat that the box does not answer for is
-// given up and switched off: the wire must not be left to chance.
+// given up and switched off: the wire must not be left to chance. The user hears why once it is cold.
 bool ConduiteManuelle::EnvoyerChauffeVoulue() {
     FinChauffe fin = FinChauffe::Impossible;
+    bool sansEcho = false;
     {
         const Drapeau occupe(m_occupee);
         double envoyee = 0;
@@ -161,13 +162,17 @@ bool ConduiteManuelle::EnvoyerChauffeVoulue() {
             m_abandon = false;
             SuiviChauffe suivi;
             suivi.Interrompre = [this] { return m_abandon; };
-            suivi.Prevenir = [this] { m_abandon = true; };
+            suivi.Prevenir = [this, &sansEcho] { m_abandon = sansEcho = true; };
             envoyee = m_chauffeVoulue;
             fin = EnvoyerChauffe(ValeurPWM(envoyee), suivi);
         } while (fin == FinChauffe::Confirmee && envoyee != m_chauffeVoulue);
     }
-    if (fin != FinChauffe::Confirmee) Couper();
-    return fin == FinChauffe::Confirmee;
+    if (fin == FinChauffe::Confirmee) return true;
+    // An exchange that succeeded without the echo is a reply that doesn't fit.
+    const std::int32_t resultat =
+        DernierResultatZelko == ResultatZelkoSucces ? ResultatZelkoIncoherent : DernierResultatZelko;
+    if (Couper() && sansEcho) SignalerErreurInterface("EnvoyerChauffe", resultat);
+    return false;
 }
 
 bool ConduiteManuelle::Couper() {
