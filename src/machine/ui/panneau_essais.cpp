@@ -204,8 +204,7 @@ void PanneauEssais::Relier() {
 
 void PanneauEssais::RelierChauffe() {
     connect(optChauffeParam[1], &QRadioButton::clicked, this, [this] {
-        if (!m_conduite->Chauffer(hscChauffeParam->value()))
-            optChauffeParam[0]->setChecked(true);
+        if (!m_conduite->Chauffer(hscChauffeParam->value())) optChauffeParam[0]->setChecked(true);
     });
     connect(optChauffeParam[0], &QRadioButton::clicked, m_conduite, &ConduiteManuelle::Couper);
     connect(hscChauffeParam, &QScrollBar::valueChanged, this, [this](int pourcent) {
