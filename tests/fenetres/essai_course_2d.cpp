@@ -2,13 +2,9 @@
 // giving up, a box that is lost, a window that is closed meanwhile. After each the box's own record says that
 // the wire is cold, or the user was told.
 #include "fenetres/boite_des_fenetres.h"
-#include "fenetres/images.h"
 #include "fenetres/poste_2d.h"
 #include "fenetres/poste_machine.h"
-#include "ui/boites_qt.h"
 #include "ui/theme.h"
-#include "work2d/ui/libelles_2d.h"
-#include "work2d/ui/panneau_bibliotheque.h"
 #include "work2d/ui/trace_course.h"
 
 #include <QCheckBox>
@@ -119,8 +115,6 @@ private slots:
     void FermerApresUnStop();
     void SansCorrespondanceOnPeutOuvrirLesReglages();
     void LInterfaceSeRafraichit();
-    void Images_data();
-    void Images();
 };
 
 void EssaiCourse2D::UneDecoupeVaAuBout() {
@@ -414,49 +408,6 @@ void EssaiCourse2D::LInterfaceSeRafraichit() {
     coupe.virtuelle.boite->Brancher(false);
     coupe.poste.Cliquer<QToolButton>("cmdRafraichirUsbTS2D");
     QCOMPARE(bouton.text(), QStringLiteral("Pas d'interface"));
-}
-
-void EssaiCourse2D::Images_data() {
-    QTest::addColumn<bool>("anglais");
-    QTest::addColumn<bool>("sombre");
-    QTest::addRow("fr-clair") << false << false;
-    QTest::addRow("fr-sombre") << false << true;
-    QTest::addRow("en-clair") << true << false;
-    QTest::addRow("en-sombre") << true << true;
-}
-void EssaiCourse2D::Images() {
-    QFETCH(bool, anglais);
-    QFETCH(bool, sombre);
-    AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
-    Coupe coupe(anglais ? Langue::English : Langue::Francais);
-    QVERIFY(DefautsLibelles(*coupe.poste.fenetre, LibellesTessarel2D()).empty());
-    const auto prendre = [&](const char* etat) {
-        QVERIFY2(MotsCoupes(*coupe.poste.fenetre).isEmpty(),
-                 qPrintable(MotsCoupes(*coupe.poste.fenetre).join(u' ')));
-        QVERIFY(SauverImage(*coupe.poste.fenetre,
-                            QStringLiteral("frmTessarel2D-%1-").arg(QString::fromLatin1(etat)) +
-                                QString::fromLatin1(QTest::currentDataTag())));
-    };
-    const QString segment = TexteAffiche(TitresMessages(190)) + QStringLiteral("5/");
-    const QString chauffe = TexteAffiche(TextesMessages(190)) + QStringLiteral("1/");
-    bool chauffePrise = false;
-    bool decoupePrise = false;
-    coupe.virtuelle.SurPompe = [&] {
-        if (!chauffePrise && coupe.Avertissement().startsWith(chauffe)) {
-            chauffePrise = true;
-            prendre("chauffe");
-        }
-        if (!decoupePrise && coupe.Avertissement().startsWith(segment) &&
-            coupe.poste.fenetre->TraceMachine().DejaCoupe().size() > 3) {
-            decoupePrise = true;
-            prendre("course");
-            coupe.poste.Cliquer<QPushButton>("cmdSTOP");
-        }
-    };
-    coupe.Lancer();
-    coupe.virtuelle.SurPompe = {};
-    QVERIFY(chauffePrise && decoupePrise);
-    prendre("arret");
 }
 
 QTEST_MAIN(EssaiCourse2D)

@@ -145,9 +145,10 @@ bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
     m_course.fermerEnsuite = false;
     m_course.demandes = {};
     InitialiserBoutonsDecoupe(1);
+    std::string resume = m_course.preparee.resume.texte;
+    if (m_course.genre == GenreDecoupe::Retour) resume = TextesEtats(EtatRetour) + "\r\n" + resume;
     m_panneauCourse->Commencer({m_course.genre, static_cast<double>(m_options.chauffe),
-                                static_cast<double>(TableINI.ChauffeMaxiSur100),
-                                m_course.preparee.resume.texte});
+                                static_cast<double>(TableINI.ChauffeMaxiSur100), resume});
     m_course.demandes.ChauffeModifiee = false;
     m_trace->Commencer(m_course.decoupe.SequenceDecoupe, m_course.genre, suite);
     ResultatDecoupe resultat;
