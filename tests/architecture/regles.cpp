@@ -124,7 +124,7 @@ const Fleches& FlechesDeLaMaison() {
         {"programs/tessarel", {"app/ui", "work2d/ui", "machine/ui"}},
         {"programs/tessarel-lot", {"app/demarrage", "work2d", "cut4x", "platform/images"}},
         {"programs/explications", {"machine", "platform/images"}},
-        {"programs/zelko-simulateur", {"link/simulateur/ui", "link/simulateur", "app/demarrage"}},
+        {"programs/zelko-simulateur", {"link/simulateur/ui", "link/simulateur", "app/demarrage", "work2d"}},
         {"tests/outils", {"platform", "platform/gabar"}},
         {"tests/outils_boite", {"tests/outils", "link", "link/simulateur"}},
         {"tests/architecture", {"tests/outils"}},

@@ -17,7 +17,8 @@ bool EcranPresent() {
 }
 
 int MontrerSimulateur(OptionsPoste options, int& argc, char** argv,
-                      const std::function<void(const std::string& phrase)>& pret) {
+                      const std::function<void(const std::string& phrase)>& pret,
+                      const std::function<BlocMousse(const std::string& machine)>& mousse) {
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("zelko-simulateur"));
     QApplication::setDesktopFileName(QStringLiteral("zelko-simulateur"));
@@ -27,9 +28,11 @@ int MontrerSimulateur(OptionsPoste options, int& argc, char** argv,
         std::fputs(("zelko-simulateur: " + texte + "\n").c_str(), stderr);
         if (fenetre) fenetre->Avertir(texte);
     };
+    const std::string machine = options.machine;
     PosteVirtuel poste(std::move(options));
     pret(poste.PhrasePrete());
     fenetre = std::make_unique<frmSimulateur>(poste);
+    fenetre->FixerBloc(mousse(machine.empty() ? poste.Boite().Ram().nom : machine));
     fenetre->show();
     const int statut = QApplication::exec();
     fenetre.reset();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "link/simulateur/poste_virtuel.h"
+#include "link/simulateur/vues_machine.h"
 
 namespace tessarel::simulateur {
 
@@ -9,8 +10,10 @@ namespace tessarel::simulateur {
 bool EcranPresent();
 
 // Plugs the box in, tells `pret` its sentence, shows the window and serves until it is closed or the program
-// is asked to end. What went wrong on the way is told in the window's log. Faults of the start are thrown.
+// is asked to end. `mousse` gives the foam that lies on the table of a machine at first. What went wrong on
+// the way is told in the window's log. Faults of the start are thrown.
 int MontrerSimulateur(OptionsPoste options, int& argc, char** argv,
-                      const std::function<void(const std::string& phrase)>& pret);
+                      const std::function<void(const std::string& phrase)>& pret,
+                      const std::function<BlocMousse(const std::string& machine)>& mousse);
 
 } // namespace tessarel::simulateur
