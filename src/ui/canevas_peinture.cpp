@@ -11,8 +11,11 @@ namespace tessarel {
 namespace {
 
 constexpr double LargeurRegle = 22;     // pixels
-constexpr double EcartGraduations = 64; // least pixels between two numbers
+constexpr double EcartGraduations = 48; // least pixels between two numbers
 constexpr double TailleChiffres = 10;   // pixels
+constexpr double TraitFin = 4;          // pixels, of a graduation without a number
+constexpr double EcartChiffres = 3;     // pixels between a number and its graduation
+constexpr double HauteurChiffres = 15;  // pixels
 
 // A step of 1, 2 or 5 times a power of ten whose numbers stand far enough apart, and into how many it is
 // divided.
@@ -131,7 +134,8 @@ void Canevas::PeindreRegles(QPainter& peintre) {
             const double mm = k * fin;
             const QPointF p = EnPixels({mm, mm});
             const bool grand = std::fmod(k, graduation.divisions) == 0;
-            const double t = grand ? 9 : 4;
+            // A graduation with a number crosses the whole ruler, so that it is seen whose number it is.
+            const double t = grand ? LargeurRegle : TraitFin;
             peintre.setPen(trait);
             if (horizontale) {
                 peintre.drawLine(QPointF(p.x(), bas.top()), QPointF(p.x(), bas.top() + t));
@@ -139,18 +143,22 @@ void Canevas::PeindreRegles(QPainter& peintre) {
                 peintre.drawLine(QPointF(gauche.right() - 1, p.y()), QPointF(gauche.right() - 1 - t, p.y()));
             }
             if (!grand) continue;
-            peintre.setPen(encre);
             const QString chiffres = QString::number(mm == 0 ? 0.0 : mm, 'g', 7);
+            const double place = EcartChiffres + peintre.fontMetrics().horizontalAdvance(chiffres);
+            // A number that the edge would cut in two is another number.
+            if (horizontale ? p.x() + place > zone.right() : p.y() - place < zone.top()) continue;
+            peintre.setPen(encre);
+            const QRectF feuille(0, 0, place, HauteurChiffres);
+            peintre.save();
             if (horizontale) {
-                peintre.drawText(QRectF(p.x() + 3, bas.top() + 6, 80, 15), Qt::AlignLeft | Qt::AlignVCenter,
-                                 chiffres);
+                peintre.translate(p.x() + EcartChiffres, bas.top() + (LargeurRegle - HauteurChiffres) / 2);
             } else {
-                peintre.save();
-                peintre.translate(gauche.right() - 21, p.y() - 3);
+                peintre.translate(gauche.left() + (LargeurRegle - HauteurChiffres) / 2,
+                                  p.y() - EcartChiffres);
                 peintre.rotate(-90);
-                peintre.drawText(QRectF(0, 0, 80, 15), Qt::AlignLeft | Qt::AlignVCenter, chiffres);
-                peintre.restore();
             }
+            peintre.drawText(feuille, Qt::AlignLeft | Qt::AlignVCenter, chiffres);
+            peintre.restore();
         }
     };
     peintre.setClipRect(QRectF(zone.left(), bas.top(), zone.width(), bas.height()), Qt::IntersectClip);

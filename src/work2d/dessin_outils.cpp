@@ -22,9 +22,6 @@ constexpr float EpaisseurOmbre = 5;
 
 constexpr Couleur BoiteClaire = {40, 90, 190};
 constexpr Couleur BoiteSombre = {140, 180, 255};
-constexpr Couleur CouleurDejaCoupe = {232, 89, 12};
-// Yellow on light foam is seen by its dark edge.
-constexpr Couleur Ombre = {30, 30, 36, 200};
 
 void Ouvrir(Dessin& dessin, Couleur couleur, float epaisseur, bool tirets = false) {
     TraitDessin trait;
@@ -114,7 +111,7 @@ void DessinerFilm(Dessin& dessin, const Film2D& film, const PlaceFil& place) {
     if (dernier + 1 < points.size()) {
         const PointDessin a = Lieu(points[dernier]);
         const PointDessin b = Lieu(points[dernier + 1]);
-        Segment(dessin, a, b, Ombre, EpaisseurOmbre);
+        Segment(dessin, a, b, CouleurOmbre, EpaisseurOmbre);
         Segment(dessin, a, b, CouleurSegmentCoupe, EpaisseurSegmentCoupe);
     }
     // A ring: the segment under way is seldom longer than the wire's mark is wide, and shows through it.
@@ -128,7 +125,7 @@ void DessinerDejaCoupe(Dessin& dessin, std::span<const PointDessin> points) {
 }
 
 void DessinerSegmentEnCours(Dessin& dessin, PointDessin debut, PointDessin fil) {
-    Segment(dessin, debut, fil, Ombre, EpaisseurOmbre);
+    Segment(dessin, debut, fil, CouleurOmbre, EpaisseurOmbre);
     Segment(dessin, debut, fil, CouleurSegmentCoupe, EpaisseurSegmentCoupe);
     Marquer(dessin, GenreMarque::Disque, fil, TailleFil, CouleurDejaCoupe);
 }

@@ -15,6 +15,8 @@ namespace tessarel {
 inline constexpr Couleur CouleurSurvol = {255, 0, 255};       // what the pointer is on
 inline constexpr Couleur CouleurSegmentCoupe = {255, 255, 0}; // the segment that the wire cuts now
 inline constexpr float EpaisseurSegmentCoupe = 2;             // pixels
+inline constexpr Couleur CouleurDejaCoupe = {232, 89, 12};    // what the wire has passed
+inline constexpr Couleur CouleurOmbre = {30, 30, 36, 200};    // by which yellow is seen on light foam
 
 // The box with its handles and its middle, taken through `matrice` while a drag is under way. `survol` shows
 // what the hand would take hold of. `echelle` is in pixels per mm.

@@ -23,60 +23,18 @@ constexpr double GraduationsVoulues = 12; // at most about that many labels on a
 constexpr Masque MasqueBloc = "##0.0";
 constexpr Masque MasqueRegle = "###0.##";
 
-// On a dark ground the darkest of the told colours get a light edge. Past this many points it would be a
-// smear, and cost more than the lines.
-constexpr double LuminanceSombre = 0.18;
-constexpr std::size_t PointsMaxLisere = 20000;
-constexpr Couleur CouleurLisere = {255, 255, 255, 120};
-constexpr float EpaisseurLisere = 3;
-
 // Lengths around the table, in hundredths of its longer side.
 constexpr double TraitLong = 1.6;
 constexpr double TraitCourt = 0.8;
 constexpr double PlaceTexteX = 3.2; // labels below the ruler, by their middle
 constexpr double PlaceTexteY = 2.2; // beside it, by their right end
 constexpr double MargeRegle = 7;
-constexpr double MargeLibre = 3;
+constexpr double MargeLibre = 4;
+constexpr double BoutAxe = 1; // of an axis beyond the table
+constexpr double NomAxe = 3;  // its letter, from the table
 
-// What a background asks for. The paths keep their colours on both; on a dark one the foam is dim enough for
-// the light ones, and the dark ones have an edge.
-struct Palette {
-    Couleur fondTable;
-    Couleur bordTable;
-    Couleur fondBloc;
-    Couleur bordBloc;
-    Couleur zone;
-    Couleur regle;
-    Couleur texte;
-    Couleur traceUni;
-};
-constexpr Palette PaletteClaire = {{110, 110, 219, 26}, CouleurTable,    {255, 238, 196, 235}, {186, 140, 58},
-                                   {128, 128, 140},     {110, 110, 130}, {70, 70, 90},         {40, 40, 48}};
-constexpr Palette PaletteSombre = {{110, 110, 219, 46}, {150, 150, 240}, {92, 84, 64, 235}, {214, 172, 92},
-                                   {150, 150, 165},     {165, 165, 185}, {205, 205, 220},   {225, 225, 232}};
-
-const Palette& PaletteDe(const OptionsDessin& options) {
-    return options.sombre ? PaletteSombre : PaletteClaire;
-}
-
-double Lineaire(std::uint8_t valeur) {
-    const double v = valeur / 255.0;
-    return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
-}
-
-double Luminance(Couleur c) {
-    return 0.2126 * Lineaire(c.rouge) + 0.7152 * Lineaire(c.vert) + 0.0722 * Lineaire(c.bleu);
-}
-
-bool VeutLisere(Couleur couleur, std::size_t points, const OptionsDessin& options) {
-    return options.sombre && points <= PointsMaxLisere && Luminance(couleur) < LuminanceSombre;
-}
-
-// Arrows and first points have no edge: where their path needs one they are lighter instead.
-Couleur CouleurMarques(Couleur couleur, std::size_t points, const OptionsDessin& options) {
-    if (!VeutLisere(couleur, points, options)) return couleur;
-    const auto eclaircir = [](std::uint8_t v) { return static_cast<std::uint8_t>((v + 255) / 2); };
-    return {eclaircir(couleur.rouge), eclaircir(couleur.vert), eclaircir(couleur.bleu), couleur.opacite};
+const PaletteTable& PaletteDe(const OptionsDessin& options) {
+    return PaletteDuFond(options.sombre);
 }
 
 void OuvrirTrait(Dessin& dessin, Couleur couleur, float epaisseur, bool tirets = false) {
@@ -138,8 +96,8 @@ double Unite(const TableMachine& table) {
 // A ruler along one axis, outside the table. `placer(s, recul)` gives the place at `s` mm along it, `recul`
 // mm away from the table; labels stand `reculTexte` away.
 template <typename Placer>
-void DessinerRegle(Dessin& dessin, double course, double unite, double reculTexte, const Palette& palette,
-                   AncreTexte ancre, Placer placer) {
+void DessinerRegle(Dessin& dessin, double course, double unite, double reculTexte,
+                   const PaletteTable& palette, AncreTexte ancre, Placer placer) {
     const double pas = PasGraduation(course);
     const double fin = pas / SousGraduations;
     const auto nombre = static_cast<int>(std::floor(course / fin + 1e-6));
@@ -193,10 +151,7 @@ void AjouterPolyligne(Dessin& dessin, std::span<const PointProfil> points, Coule
 }
 
 // Segments of one part of the cut; runs of the same thickness are one stroke.
-void DessinerPartie(Dessin& dessin, std::span<const PointProfil> points, Couleur couleur,
-                    const OptionsDessin& options) {
-    if (VeutLisere(couleur, points.size(), options))
-        AjouterPolyligne(dessin, points, CouleurLisere, EpaisseurLisere, false);
+void DessinerPartie(Dessin& dessin, std::span<const PointProfil> points, Couleur couleur) {
     for (std::size_t i = 0; i + 1 < points.size(); ++i) {
         if (i == 0 || points[i].Rapide != points[i - 1].Rapide) {
             OuvrirTrait(dessin, couleur, points[i].Rapide ? EpaisseurRapide : EpaisseurNormale);
@@ -206,11 +161,37 @@ void DessinerPartie(Dessin& dessin, std::span<const PointProfil> points, Couleur
     }
 }
 
-void DessinerProvisoire(Dessin& dessin, const Decoupe2D& decoupe) {
-    AjouterPolyligne(dessin, decoupe.TrajetEntreeProvisoire.Points, CouleurEntree, EpaisseurNormale, true);
-    AjouterPolyligne(dessin, decoupe.SequenceAssemblee.Points, CouleurPremiereSequence, EpaisseurNormale,
-                     false);
-    AjouterPolyligne(dessin, decoupe.TrajetSortieProvisoire.Points, CouleurSortie, EpaisseurNormale, true);
+void DessinerProvisoire(Dessin& dessin, const Decoupe2D& decoupe, bool sombre) {
+    AjouterPolyligne(dessin, decoupe.TrajetEntreeProvisoire.Points, CouleurSurFond(CouleurEntree, sombre),
+                     EpaisseurNormale, true);
+    AjouterPolyligne(dessin, decoupe.SequenceAssemblee.Points,
+                     CouleurSurFond(CouleurPremiereSequence, sombre), EpaisseurNormale, false);
+    AjouterPolyligne(dessin, decoupe.TrajetSortieProvisoire.Points, CouleurSurFond(CouleurSortie, sombre),
+                     EpaisseurNormale, true);
+}
+
+// One axis beyond its end of the table, from `bout` towards (dx, dy), with its letter.
+void DessinerAxe(Dessin& dessin, PointDessin bout, double dx, double dy, double unite, const char* nom,
+                 const PaletteTable& palette) {
+    const double x = bout.X + dx * BoutAxe * unite;
+    const double y = bout.Y + dy * BoutAxe * unite;
+    AjouterLigne(dessin, bout.X, bout.Y, x, y, palette.regle);
+    AjouterMarque(dessin, GenreMarque::Fleche, x, y, TailleFleche, palette.regle);
+    dessin.marques.back().angle = std::atan2(dy, dx);
+    AjouterTexte(dessin, bout.X + dx * NomAxe * unite, bout.Y + dy * NomAxe * unite, nom, palette.texte,
+                 AncreTexte::Centre);
+}
+
+void DessinerRegles(Dessin& dessin, double courseX, double courseY, double unite,
+                    const PaletteTable& palette) {
+    DessinerRegle(dessin, courseX, unite, PlaceTexteX * unite, palette, AncreTexte::Centre,
+                  [](double s, double recul) {
+                      return PointDessin{s, -recul};
+                  });
+    DessinerRegle(dessin, courseY, unite, PlaceTexteY * unite, palette, AncreTexte::Droite,
+                  [](double s, double recul) {
+                      return PointDessin{-recul, s};
+                  });
 }
 
 } // namespace
@@ -227,14 +208,15 @@ std::string TexteDimensionsBloc(const Bloc& bloc) {
     return FormaterNombre(bloc.BlocX, MasqueBloc) + " mm x " + FormaterNombre(bloc.BlocY, MasqueBloc) + " mm";
 }
 
-CadreDessin CadreTable(const TableMachine& table) {
+CadreDessin CadreTable(const TableMachine& table, bool regles) {
     const double u = Unite(table);
-    return {-MargeRegle * u, table.CourseX + MargeLibre * u, -MargeRegle * u, table.CourseY + MargeLibre * u};
+    const double debut = -(regles ? MargeRegle : MargeLibre) * u;
+    return {debut, table.CourseX + MargeLibre * u, debut, table.CourseY + MargeLibre * u};
 }
 
 void DessinerTable(Dessin& dessin, const TableMachine& table, const Bloc& bloc,
                    const OptionsDessin& options) {
-    const Palette& palette = PaletteDe(options);
+    const PaletteTable& palette = PaletteDe(options);
     const double courseX = table.CourseX;
     const double courseY = table.CourseY;
     const CadreDessin plateau = {0, courseX, 0, courseY};
@@ -256,46 +238,37 @@ void DessinerTable(Dessin& dessin, const TableMachine& table, const Bloc& bloc,
                   palette.bordTable);
 
     const double u = Unite(table);
-    DessinerRegle(dessin, courseX, u, PlaceTexteX * u, palette, AncreTexte::Centre,
-                  [](double s, double recul) {
-                      return PointDessin{s, -recul};
-                  });
-    DessinerRegle(dessin, courseY, u, PlaceTexteY * u, palette, AncreTexte::Droite,
-                  [](double s, double recul) {
-                      return PointDessin{-recul, s};
-                  });
+    if (options.regles) DessinerRegles(dessin, courseX, courseY, u, palette);
+    DessinerAxe(dessin, {courseX, 0}, 1, 0, u, "X", palette);
+    DessinerAxe(dessin, {0, courseY}, 0, 1, u, "Y", palette);
 }
 
 void DessinerSequences(Dessin& dessin, std::span<const Sequence> sequences, const OptionsDessin& options,
                        PartieSequences partie) {
     std::size_t selections = 0;
-    std::size_t points = 0;
-    for (const Sequence& sequence : sequences) points += sequence.Points.size();
     for (std::size_t i = 0; i < sequences.size(); ++i) {
         const Sequence& sequence = sequences[i];
         const bool choisie = (sequence.Selection & SelectionSequence) != 0;
         Couleur couleur = i == 0 ? CouleurPremiereSequence
                                  : CouleursAutresSequences[(i - 1) % CouleursAutresSequences.size()];
-        if (!options.couleurProfils) couleur = PaletteDe(options).traceUni;
+        couleur =
+            options.couleurProfils ? CouleurSurFond(couleur, options.sombre) : PaletteDe(options).traceUni;
         if (choisie) couleur = CouleursSelection[selections++ % CouleursSelection.size()];
         if (sequence.Points.empty()) continue;
         if (partie != PartieSequences::Toutes && choisie != (partie == PartieSequences::Selectionnees))
             continue;
-        if (VeutLisere(couleur, points, options))
-            AjouterPolyligne(dessin, sequence.Points, CouleurLisere, EpaisseurLisere, false);
         AjouterPolyligne(dessin, sequence.Points, couleur, EpaisseurNormale, false);
-        const Couleur marques = CouleurMarques(couleur, points, options);
-        AjouterFleches(dessin, sequence.Points, options.voirSens ? FlechesDuSens : 1, marques);
+        AjouterFleches(dessin, sequence.Points, options.voirSens ? FlechesDuSens : 1, couleur);
         const PointProfil& premier = sequence.Points.front();
-        AjouterMarque(dessin, GenreMarque::PremierPoint, premier.X, premier.Y, TaillePremierPoint, marques);
-        if (options.voirPoints) AjouterPoints(dessin, sequence.Points, marques);
+        AjouterMarque(dessin, GenreMarque::PremierPoint, premier.X, premier.Y, TaillePremierPoint, couleur);
+        if (options.voirPoints) AjouterPoints(dessin, sequence.Points, couleur);
     }
 }
 
 void DessinerDecoupe(Dessin& dessin, const Decoupe2D& decoupe, const OptionsDessin& options) {
     const std::span<const PointProfil> points = decoupe.SequenceDecoupe.Points;
     if (points.empty()) {
-        DessinerProvisoire(dessin, decoupe);
+        DessinerProvisoire(dessin, decoupe, options.sombre);
         return;
     }
     // The parts share their end vertices.
@@ -306,16 +279,18 @@ void DessinerDecoupe(Dessin& dessin, const Decoupe2D& decoupe, const OptionsDess
     const auto avant = points.first(std::min(contact + 1, points.size()));
     const auto apres = points.subspan(depart);
     const auto milieu = points.subspan(contact, depart >= contact ? depart - contact + 1 : 0);
-    DessinerPartie(dessin, avant, CouleurEntree, options);
-    DessinerPartie(dessin, milieu, CouleurPremiereSequence, options);
-    DessinerPartie(dessin, apres, CouleurSortie, options);
-    AjouterFleches(dessin, avant, 1, CouleurEntree);
-    const Couleur marques = CouleurMarques(CouleurPremiereSequence, milieu.size(), options);
-    AjouterFleches(dessin, milieu, FlechesDuChemin, marques);
-    AjouterFleches(dessin, apres, 1, CouleurSortie);
+    const Couleur entrer = CouleurSurFond(CouleurEntree, options.sombre);
+    const Couleur couper = CouleurSurFond(CouleurPremiereSequence, options.sombre);
+    const Couleur sortir = CouleurSurFond(CouleurSortie, options.sombre);
+    DessinerPartie(dessin, avant, entrer);
+    DessinerPartie(dessin, milieu, couper);
+    DessinerPartie(dessin, apres, sortir);
+    AjouterFleches(dessin, avant, 1, entrer);
+    AjouterFleches(dessin, milieu, FlechesDuChemin, couper);
+    AjouterFleches(dessin, apres, 1, sortir);
     AjouterMarque(dessin, GenreMarque::PremierPoint, points[contact].X, points[contact].Y, TaillePremierPoint,
-                  marques);
-    if (options.voirPoints) AjouterPoints(dessin, milieu, marques);
+                  couper);
+    if (options.voirPoints) AjouterPoints(dessin, milieu, couper);
 }
 
 } // namespace tessarel

@@ -2,30 +2,21 @@
 #pragma once
 
 #include "platform/dessin.h"
+#include "work2d/couleurs_table.h"
 #include "work2d/decoupe2d.h"
 #include "work2d/placement.h"
 
-#include <array>
 #include <span>
 #include <string>
 
 namespace tessarel {
-
-// Colours that users know; the same on a light and on a dark background.
-inline constexpr Couleur CouleurEntree = {255, 0, 0};
-inline constexpr Couleur CouleurSortie = {0, 144, 61};
-inline constexpr Couleur CouleurTable = {110, 110, 219};
-inline constexpr Couleur CouleurPremiereSequence = {144, 0, 82};
-inline constexpr std::array<Couleur, 4> CouleursAutresSequences = {
-    {{0, 122, 11}, {112, 0, 105}, {220, 114, 228}, {156, 86, 228}}};
-// Selected sequences take these two in turn, so that neighbours can be told apart.
-inline constexpr std::array<Couleur, 2> CouleursSelection = {{{255, 107, 107}, {230, 61, 61}}};
 
 struct OptionsDessin {
     bool voirPoints = false;
     bool couleurProfils = true;
     bool sombre = false;   // for a dark background
     bool voirSens = false; // many arrows along each path
+    bool regles = true;    // rulers of its own; a canvas that has some does without
     float margeX = 0;      // mm, inner margins of the block; not drawn where both are 0
     float margeY = 0;
 };
@@ -33,7 +24,7 @@ struct OptionsDessin {
 // Which of the paths a layer holds; each keeps the colour of its place among all.
 enum class PartieSequences { Toutes, Selectionnees, Autres };
 
-// Table with its rulers, machine zone and block.
+// Table with its axes and rulers, machine zone and block.
 void DessinerTable(Dessin& dessin, const TableMachine& table, const Bloc& bloc, const OptionsDessin& options);
 // The paths as placed, each with its first point and the direction in which it is cut.
 void DessinerSequences(Dessin& dessin, std::span<const Sequence> sequences, const OptionsDessin& options,
@@ -41,8 +32,8 @@ void DessinerSequences(Dessin& dessin, std::span<const Sequence> sequences, cons
 // Entry, cut and exit; rapid segments thick. While there is no cut path (an offset that failed), the joined
 // paths with the provisional entry and exit, dashed.
 void DessinerDecoupe(Dessin& dessin, const Decoupe2D& decoupe, const OptionsDessin& options);
-// What a view that shows everything must hold, margins included.
-CadreDessin CadreTable(const TableMachine& table);
+// What a view that shows everything must hold, margins included, with the rulers of the drawing or without.
+CadreDessin CadreTable(const TableMachine& table, bool regles = true);
 
 // Graduation of a ruler over `course` mm: 1, 2 or 5 times a power of ten, for five to about twelve labels.
 double PasGraduation(double course);

@@ -102,45 +102,35 @@ TEST(DessinTable, LeCadreContientToutCeQuiEstDessine) {
     }
 }
 
-TEST(DessinTable, SurFondSombreLesCheminsGardentLeursCouleursPasLesRegles) {
-    OptionsDessin sombre;
-    sombre.sombre = true;
-    Dessin clair;
-    Dessin fonce;
-    DessinerTable(clair, MachineEssai(), {60, 40}, {});
-    DessinerTable(fonce, MachineEssai(), {60, 40}, sombre);
-    EXPECT_FALSE(clair.textes[0].couleur == fonce.textes[0].couleur);
-    EXPECT_GT(fonce.textes[0].couleur.vert, 150);
-    EXPECT_LT(clair.textes[0].couleur.vert, 100);
-    const std::vector<Sequence> sequences = {CarreDe20()};
-    DessinerSequences(clair = {}, sequences, {});
-    DessinerSequences(fonce = {}, sequences, sombre);
-    // The same colour, over a light edge that lifts a dark one off a dark ground.
-    ASSERT_EQ(clair.traits.size(), 1U);
-    ASSERT_EQ(fonce.traits.size(), 2U);
-    EXPECT_EQ(fonce.traits[1].couleur, clair.traits[0].couleur);
-    EXPECT_EQ(fonce.traits[1].epaisseur, clair.traits[0].epaisseur);
-    EXPECT_EQ(fonce.traits[0].epaisseur, 3);
-    EXPECT_GT(fonce.traits[0].couleur.vert, 200);
-    EXPECT_EQ(PointsDuTrait(fonce, fonce.traits[0]), PointsDuTrait(fonce, fonce.traits[1]));
-    // Its marks are halfway to white.
-    EXPECT_EQ(clair.marques[0].couleur, (Couleur{144, 0, 82}));
-    EXPECT_EQ(fonce.marques[0].couleur, (Couleur{199, 127, 168}));
+TEST(DessinTable, SansReglesSeulsLesAxesRestentAutourDeLaTable) {
+    OptionsDessin options;
+    options.regles = false;
+    Dessin dessin;
+    DessinerTable(dessin, MachineEssai(), {60, 40}, options);
+    ASSERT_EQ(dessin.textes.size(), 2U);
+    EXPECT_EQ(dessin.textes[0].texte, "X");
+    EXPECT_GT(dessin.textes[0].ou.X, 300);
+    EXPECT_EQ(dessin.textes[0].ou.Y, 0);
+    EXPECT_EQ(dessin.textes[1].texte, "Y");
+    EXPECT_EQ(dessin.textes[1].ou.X, 0);
+    EXPECT_GT(dessin.textes[1].ou.Y, 200);
+    const auto fleches = Marques(dessin, GenreMarque::Fleche);
+    ASSERT_EQ(fleches.size(), 2U);
+    EXPECT_EQ(fleches[0].angle, 0);
+    EXPECT_DOUBLE_EQ(fleches[1].angle, std::acos(-1.0) / 2);
+    const CadreDessin cadre = CadreTable(MachineEssai(), false);
+    EXPECT_GT(cadre.XMin, CadreTable(MachineEssai()).XMin) << "no room is kept for rulers that are not there";
+    for (const TexteDessin& t : dessin.textes) EXPECT_TRUE(Contient(cadre, t.ou)) << t.texte;
 }
 
-TEST(DessinTable, UneCouleurClaireNAPasBesoinDeLisere) {
-    OptionsDessin sombre;
-    sombre.sombre = true;
-    std::vector<Sequence> choisie = {CarreDe20()};
-    choisie[0].Selection = SelectionSequence;
-    Dessin dessin;
-    DessinerSequences(dessin, choisie, sombre);
-    EXPECT_EQ(dessin.traits.size(), 1U);
-    // A large drawing does without: the edge would be a smear.
-    std::vector<Sequence> grande(1);
-    grande[0].Points.resize(20001);
-    DessinerSequences(dessin = {}, grande, sombre);
-    EXPECT_EQ(dessin.traits.size(), 1U);
+TEST(DessinTable, LeCadreDeLaTableAToujoursLaCouleurDite) {
+    for (const bool sombre : {false, true}) {
+        OptionsDessin options;
+        options.sombre = sombre;
+        Dessin dessin;
+        DessinerTable(dessin, MachineEssai(), {60, 40}, options);
+        EXPECT_EQ(TraitsDeCouleur(dessin, {110, 110, 219}).size(), 1U);
+    }
 }
 
 TEST(DessinTable, LesMargesInterieuresSontEnTirets) {

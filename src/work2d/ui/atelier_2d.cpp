@@ -109,7 +109,10 @@ void Atelier2D::Actualiser() {
     m_transformation.reset();
     m_indexAJour = false;
     m_survol = {};
+    m_handle.clear();
     SelectionModifiee();
+    // Under a pointer that rests lies something else now.
+    if (m_survole && m_actif) Survoler(m_souris);
 }
 
 void Atelier2D::Recommencer() {
@@ -331,11 +334,15 @@ void Atelier2D::MontrerGeste() {
             TexteAffiche(TexteRempli(TexteProgramme::AtelierRedimensionne, {Mm(largeur), Mm(hauteur)})));
         break;
     }
-    case GenreTransformation::Rotation:
-        emit Indication(TexteAffiche(TexteRempli(TexteProgramme::AtelierTourne,
-                                                 {FormaterNombre(DegresLisibles(t.angle), MasqueAngle)})));
+    case GenreTransformation::Rotation: {
+        const double degres = DegresLisibles(t.angle);
+        emit AngleVivant(degres);
+        emit Indication(
+            TexteAffiche(TexteRempli(TexteProgramme::AtelierTourne, {FormaterNombre(degres, MasqueAngle)})));
         break;
+    }
     default:
+        emit DeplacementVivant(t.dx, t.dy);
         emit Indication(TexteAffiche(TexteRempli(TexteProgramme::AtelierDeplace, {Mm(t.dx), Mm(t.dy)})));
     }
 }

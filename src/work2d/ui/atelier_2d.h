@@ -74,7 +74,10 @@ signals:
     void ProjetChange();
     void EtatRendu(); // by undo or redo; ProjetChange follows
     void SelectionChangee();
+    // While a drag is under way: the size, the move so far (mm), the turn so far (degrees, to the left).
     void TailleVivante(double largeur, double hauteur);
+    void DeplacementVivant(double dx, double dy);
+    void AngleVivant(double degres);
     // What the mouse would do now; empty when it is elsewhere.
     void Indication(const QString& texte);
     void OutilChoisi();

@@ -55,7 +55,7 @@ frmTessarel2D::frmTessarel2D(QWidget* parent) : QMainWindow(parent) {
     Relier();
     RendreLargeurs();
     CalculAffichageInitialTS2D();
-    pctDecoupe->FixerCadreComplet(CadreTable(TableINI));
+    pctDecoupe->FixerCadreComplet(CadreTable(TableINI, false));
     FermerDecoupe();
     MontrerTout();
     m_bibliotheque->RemplirArbreBibliotheque("");
@@ -159,7 +159,8 @@ void frmTessarel2D::RelierDecoupe() {
 void frmTessarel2D::ActualiserMachine() {
     MontrerLiaison();
     RemplirMatieres();
-    for (Canevas* canevas : {pctSequTS2D, pctDecoupe}) canevas->FixerCadreComplet(CadreTable(TableINI));
+    for (Canevas* canevas : {pctSequTS2D, pctDecoupe})
+        canevas->FixerCadreComplet(CadreTable(TableINI, false));
     TraceSequTS2D();
     MontrerEtat();
     if (!DecoupeOuverte()) return;

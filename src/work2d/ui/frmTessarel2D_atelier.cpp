@@ -73,6 +73,8 @@ void frmTessarel2D::RelierAtelier() {
     connect(m_atelier, &Atelier2D::EtatRendu, this, &frmTessarel2D::MontrerBloc);
     connect(m_atelier, &Atelier2D::SelectionChangee, this, &frmTessarel2D::MontrerSelection);
     connect(m_atelier, &Atelier2D::TailleVivante, m_saisie, &PanneauSaisie::MontrerTaille);
+    connect(m_atelier, &Atelier2D::DeplacementVivant, m_saisie, &PanneauSaisie::MontrerDeplacement);
+    connect(m_atelier, &Atelier2D::AngleVivant, m_saisie, &PanneauSaisie::MontrerAngle);
     connect(m_saisie, &PanneauSaisie::TransformationSaisie, m_atelier, &Atelier2D::Transformer);
     connect(m_atelier, &Atelier2D::Indication, this, [this](const QString& texte) {
         if (texte.isEmpty()) {

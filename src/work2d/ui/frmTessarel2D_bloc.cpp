@@ -83,6 +83,7 @@ OptionsDessin frmTessarel2D::OptionsAffichage(const Canevas& canevas) const {
     options.voirPoints = chkVoirPoints->isChecked();
     options.couleurProfils = chkCouleurProfils->isChecked();
     options.sombre = canevas.FondSombre();
+    options.regles = false; // those of the canvas follow the zoom
     // The inner margins are what a fit to the block leaves free.
     if (chkCentrer[0]->isChecked()) {
         const ReglesPlacement regles = Regles();
@@ -111,7 +112,7 @@ void frmTessarel2D::TraceSequTS2D() {
 
 // The table whole, as a project opens.
 void frmTessarel2D::CalculAffichageInitialTS2D() {
-    pctSequTS2D->FixerCadreComplet(CadreTable(TableINI));
+    pctSequTS2D->FixerCadreComplet(CadreTable(TableINI, false));
     pctSequTS2D->ZoomTout();
 }
 

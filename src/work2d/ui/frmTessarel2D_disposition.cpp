@@ -5,6 +5,7 @@
 #include "work2d/ui/atelier_2d.h"
 #include "work2d/ui/bandeau_atelier.h"
 #include "work2d/ui/frmTessarel2D.h"
+#include "work2d/ui/legende_decoupe.h"
 #include "work2d/ui/panneau_bibliotheque.h"
 #include "work2d/ui/panneau_course.h"
 #include "work2d/ui/panneau_manuel.h"
@@ -318,9 +319,7 @@ QWidget* frmTessarel2D::DisposerPageDecoupe() {
     lblInformationDecoupe->setTextInteractionFlags(Qt::TextSelectableByMouse);
     ReserverLignes(lblInformationDecoupe, 4);
     page->addWidget(lblInformationDecoupe);
-    auto* legende = Nommer(new QLabel, QStringLiteral("lblLegende"));
-    legende->setTextFormat(Qt::RichText);
-    page->addWidget(legende);
+    page->addWidget(new LegendeDecoupe);
     page->addStretch(1);
 
     chkZoomDecoupe = Nommer(new QCheckBox, QStringLiteral("chkZoomDecoupe"));

@@ -202,14 +202,18 @@ constexpr Libelle LIBELLES[] = {
     {"optDecalage_2", Bulle, "Le fil passe à droite du tracé, vu dans le sens du déplacement",
      "The wire runs on the right of the path, seen in the direction of motion"},
     {"lblInformationDecoupe", Variable},
-    {"lblLegende", Texte,
-     "<span style='color:#ff0000'>━</span> entrée &nbsp; <span style='color:#900052'>━</span> découpe &nbsp; "
-     "<span style='color:#00903d'>━</span> sortie &nbsp; ▬ rapide<br>"
-     "<span style='color:#e8590c'>━</span> déjà coupé &nbsp; <span style='color:#e6c700'>━</span> en cours",
-     "<span style='color:#ff0000'>━</span> entry &nbsp; <span style='color:#900052'>━</span> cut &nbsp; "
-     "<span style='color:#00903d'>━</span> exit &nbsp; ▬ rapid<br>"
-     "<span style='color:#e8590c'>━</span> already cut &nbsp; <span style='color:#e6c700'>━</span> under "
-     "way"},
+    {"lblLegende_0", Texte, "entrée", "entry"},
+    {"lblLegende_1", Texte, "découpe", "cut"},
+    {"lblLegende_2", Texte, "sortie", "exit"},
+    {"lblLegende_3", Texte, "rapide", "rapid"},
+    {"lblLegende_4", Texte, "déjà coupé", "already cut"},
+    {"lblLegende_5", Texte, "en cours", "under way"},
+    {"imgLegende_0", Variable},
+    {"imgLegende_1", Variable},
+    {"imgLegende_2", Variable},
+    {"imgLegende_3", Variable},
+    {"imgLegende_4", Variable},
+    {"imgLegende_5", Variable},
     {"cmdSimulation", Texte, "Simuler", "Simulate", "F6", "simulation"},
     {"cmdSimulation", Bulle, "Faire avancer le fil à l'écran, ou le suspendre",
      "Let the wire run on screen, or pause it"},

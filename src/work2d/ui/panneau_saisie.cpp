@@ -28,10 +28,13 @@ constexpr int CotePointFixe = 17;  // pixels
 constexpr std::array<std::string_view, 9> NomsPoints = {"HG", "HM", "HD", "MG", "", "MD", "BG", "BM", "BD"};
 constexpr int PointParDefaut = 6; // bottom left: where the table's origin is
 
+// Seen on a dark ground as on a light one, and dim where a fixed point would count for nothing.
 constexpr const char* StylePoints =
-    "QToolButton { border: 1px solid palette(mid); border-radius: 2px; background: palette(base); }"
+    "QToolButton { border: 1px solid palette(window-text); border-radius: 2px; background: palette(base); }"
     "QToolButton:hover, QToolButton:focus { border-color: palette(highlight); }"
-    "QToolButton:checked { border-color: palette(highlight); background: palette(highlight); }";
+    "QToolButton:checked { border-color: palette(highlight); background: palette(highlight); }"
+    "QToolButton:disabled { background: palette(button); }"
+    "QToolButton:checked:disabled { border-color: palette(window-text); background: palette(window-text); }";
 
 template <typename Controle>
 Controle* Nommer(Controle* controle, const char* nom) {
@@ -65,11 +68,11 @@ void PanneauSaisie::Disposer() {
         optSaisie[i]->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
         optSaisie[i]->setCheckable(true);
         optSaisie[i]->setAutoRaise(true);
-        optSaisie[i]->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         exclusifs->addButton(optSaisie[i], static_cast<int>(i));
         modes->addWidget(optSaisie[i]);
     }
     optSaisie[Taille]->setChecked(true);
+    modes->addStretch(1);
     grille->addLayout(modes, 0, 0, 1, 4);
     for (std::size_t i = 0; i < txtMesures.size(); ++i) {
         const int rang = static_cast<int>(i) + 1;
@@ -153,6 +156,16 @@ void PanneauSaisie::MontrerTaille(double largeur, double hauteur) {
     if (m_mode != Taille) NommerMesures(true);
     txtMesures[0]->FixerValeur(largeur);
     txtMesures[1]->FixerValeur(hauteur);
+}
+
+void PanneauSaisie::MontrerDeplacement(double dx, double dy) {
+    if (m_mode != Deplacer) return; // a size that stays what it was
+    txtMesures[0]->FixerValeur(dx);
+    txtMesures[1]->FixerValeur(dy);
+}
+
+void PanneauSaisie::MontrerAngle(double degres) {
+    txtAngle->FixerValeur(degres);
 }
 
 void PanneauSaisie::MontrerValeurs() {

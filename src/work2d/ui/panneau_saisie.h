@@ -30,6 +30,9 @@ public:
     void Valider();
     // The size while a drag is under way; the box stays as it is.
     void MontrerTaille(double largeur, double hauteur);
+    // The same of a move, where moves are typed, and of a turn, in degrees.
+    void MontrerDeplacement(double dx, double dy);
+    void MontrerAngle(double degres);
     // After another language: the words that depend on what is typed.
     void MontrerMots();
 
