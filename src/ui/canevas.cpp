@@ -82,7 +82,10 @@ void Canevas::Cadrer(const CadreDessin& cadre) {
 
 void Canevas::ChangerVue(VueDessin vue) {
     if (vue == m_vue) return;
+    // A frame begun on a place of the drawing stays there, whatever the wheel does meanwhile.
+    const PointDessin debut = EnMm(m_debutGeste);
     m_vue = vue;
+    if (m_geste == Geste::Rectangle || m_geste == Geste::ZoomRectangle) m_debutGeste = EnPixels(debut);
     update();
     emit VueChangee();
 }
@@ -148,7 +151,8 @@ void Canevas::wheelEvent(QWheelEvent* evenement) {
 }
 
 void Canevas::mousePressEvent(QMouseEvent* evenement) {
-    if (m_geste != Geste::Aucun) return;
+    if (m_geste != Geste::Aucun && evenement->button() != m_bouton) return;
+    m_bouton = evenement->button();
     m_debutGeste = evenement->position();
     m_pointeur = m_debutGeste;
     const bool maj = evenement->modifiers().testFlag(Qt::ShiftModifier);
@@ -164,6 +168,8 @@ void Canevas::mousePressEvent(QMouseEvent* evenement) {
 
 void Canevas::mouseMoveEvent(QMouseEvent* evenement) {
     const QPointF ou = evenement->position();
+    // Its release went to another window.
+    if (!evenement->buttons().testFlag(m_bouton)) AbandonnerGeste();
     if (m_geste == Geste::Deplacement) {
         const QPointF pas = ou - m_pointeur;
         Deplacer(pas.x(), pas.y());
@@ -187,7 +193,19 @@ bool Canevas::EstUnClic(QPointF fin) const {
     return std::abs(pas.x()) < DistanceClic && std::abs(pas.y()) < DistanceClic;
 }
 
+void Canevas::AbandonnerGeste() {
+    if (m_geste == Geste::Aucun) return;
+    m_geste = Geste::Aucun;
+    setCursor(m_curseur);
+    update();
+}
+
+void Canevas::hideEvent(QHideEvent*) {
+    AbandonnerGeste();
+}
+
 void Canevas::mouseReleaseEvent(QMouseEvent* evenement) {
+    if (m_geste != Geste::Aucun && evenement->button() != m_bouton) return; // another one, pressed meanwhile
     const Geste geste = m_geste;
     const QPointF fin = evenement->position();
     m_geste = Geste::Aucun;
@@ -254,9 +272,7 @@ void Canevas::keyPressEvent(QKeyEvent* evenement) {
             QWidget::keyPressEvent(evenement);
             return;
         }
-        m_geste = Geste::Aucun;
-        setCursor(m_curseur);
-        update();
+        AbandonnerGeste();
         break;
     default:
         QWidget::keyPressEvent(evenement);

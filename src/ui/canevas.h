@@ -52,6 +52,9 @@ public:
     void AvecRegles(bool avec);
     // What the mouse looks like while no gesture of the view is under way.
     void FixerCurseur(const QCursor& curseur);
+    // A gesture of the view is under way; a rubber band is.
+    [[nodiscard]] bool GesteEnCours() const { return m_geste != Geste::Aucun; }
+    [[nodiscard]] bool CadreEnCours() const { return m_geste == Geste::Rectangle; }
     // True on a dark ground, for whoever makes the drawings.
     [[nodiscard]] bool FondSombre() const;
 
@@ -81,6 +84,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* evenement) override;
     void mouseReleaseEvent(QMouseEvent* evenement) override;
     void leaveEvent(QEvent* evenement) override;
+    void hideEvent(QHideEvent* evenement) override;
     void keyPressEvent(QKeyEvent* evenement) override;
     void changeEvent(QEvent* evenement) override;
 
@@ -89,6 +93,7 @@ private:
 
     void ZoomerAutour(QPointF pixels, double facteur);
     void ChangerVue(VueDessin vue);
+    void AbandonnerGeste();
     void PeindreRegles(QPainter& peintre);
     void PeindreCouches(QPainter& peintre, Couche premiere, Couche fin);
     void PeindreFixe(QPainter& peintre);
@@ -118,6 +123,7 @@ private:
     bool m_regles = true;
     bool m_etaitSombre = false;
     Geste m_geste = Geste::Aucun;
+    Qt::MouseButton m_bouton = Qt::NoButton; // that the gesture is made with
     QPointF m_debutGeste;
     QPointF m_pointeur;
     bool m_pointeurDedans = false;

@@ -34,10 +34,12 @@ bool Atelier2D::eventFilter(QObject*, QEvent* evenement) {
         return Presser(*static_cast<QMouseEvent*>(evenement));
     case QEvent::MouseMove: {
         const auto& souris = *static_cast<QMouseEvent*>(evenement);
-        // The view's own gestures, with another button, show nothing of ours.
-        if (m_geste != Geste::Aucun || souris.buttons() == Qt::NoButton)
+        // Its release went to another window: what is no longer held stays where it was.
+        if (!souris.buttons().testFlag(Qt::LeftButton)) AbandonnerGeste();
+        // The view's own gestures show nothing of ours, but what a rubber band would take.
+        if (m_geste != Geste::Aucun || !m_canevas.GesteEnCours() || souris.buttons() == Qt::NoButton)
             Suivre(souris.position(), souris.modifiers());
-        else
+        else if (m_canevas.CadreEnCours())
             SuivreCadre(souris);
         return false; // the canvas tells coordinates and marks its rulers
     }
@@ -59,8 +61,11 @@ bool Atelier2D::eventFilter(QObject*, QEvent* evenement) {
 }
 
 bool Atelier2D::Presser(const QMouseEvent& evenement) {
-    if (m_geste != Geste::Aucun) return true; // another button in the middle of a drag changes nothing
-    if (evenement.button() != Qt::LeftButton) return false;
+    if (m_geste != Geste::Aucun) {
+        if (evenement.button() != Qt::LeftButton) return true; // in the middle of a drag it changes nothing
+        AbandonnerGeste(); // a second press: the release of the first went to another window
+    }
+    if (evenement.button() != Qt::LeftButton || m_canevas.GesteEnCours()) return false;
     m_pression = evenement.position();
     m_pressionMm = m_canevas.EnMm(m_pression);
     Survoler(m_pressionMm);
@@ -116,7 +121,6 @@ bool Atelier2D::PresserOutil(PointDessin) {
         Memoriser();
         InsererPoint(m_espace.TableauSequences[touche.sequence], touche.segment, touche.pied);
         Changement();
-        Survoler(m_souris);
         return true;
     }
     if (m_outil == OutilAtelier::CouperTrace && m_survol.sommet) {
@@ -124,10 +128,7 @@ bool Atelier2D::PresserOutil(PointDessin) {
         const std::size_t points = m_espace.TableauSequences[touche.sequence].Points.size();
         const bool dedans = touche.sommet > 0 && touche.sommet + 1 < points;
         if (dedans) Memoriser();
-        if (CouperSequence(m_espace.TableauSequences, touche.sequence, touche.sommet)) {
-            Changement();
-            Survoler(m_souris);
-        }
+        if (CouperSequence(m_espace.TableauSequences, touche.sequence, touche.sommet)) Changement();
         return true;
     }
     return false;
@@ -152,10 +153,9 @@ void Atelier2D::Suivre(QPointF pixels, Qt::KeyboardModifiers touches) {
 
 // The view's rubber band: which paths it would take.
 void Atelier2D::SuivreCadre(const QMouseEvent& evenement) {
-    const bool bande = evenement.buttons() == Qt::LeftButton && m_outil == OutilAtelier::Selection &&
-                       !evenement.modifiers().testFlag(Qt::ShiftModifier);
-    if (!bande || (evenement.position() - m_pression).manhattanLength() < DistanceGlisser) return;
-    const bool entieres = evenement.position().x() >= m_pression.x();
+    if (m_outil != OutilAtelier::Selection) return;
+    if ((evenement.position() - m_pression).manhattanLength() < DistanceGlisser) return;
+    const bool entieres = m_canevas.EnMm(evenement.position()).X >= m_pressionMm.X;
     emit Indication(TexteAffiche(
         Texte(entieres ? TexteProgramme::AtelierCadreEntiers : TexteProgramme::AtelierCadreTouches)));
 }
@@ -199,7 +199,10 @@ bool Atelier2D::Relacher(const QMouseEvent& evenement) {
     } else {
         FinirGeste();
     }
-    Survoler(m_canevas.EnMm(evenement.position()));
+    if (m_canevas.rect().contains(evenement.position().toPoint()))
+        Survoler(m_canevas.EnMm(evenement.position()));
+    else
+        QuitterSurvol();
     return true;
 }
 
@@ -252,9 +255,10 @@ bool Atelier2D::Touche(const QKeyEvent& evenement) {
 bool Atelier2D::Echapper() {
     if (m_geste != Geste::Aucun) {
         AbandonnerGeste();
+        Survoler(m_souris);
         return true;
     }
-    if (QApplication::mouseButtons() != Qt::NoButton) return false; // the view's own drag
+    if (m_canevas.GesteEnCours()) return false; // the view's own drag
     if (m_outil != OutilAtelier::Selection) {
         ChoisirOutil(OutilAtelier::Selection);
         return true;

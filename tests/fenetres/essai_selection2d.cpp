@@ -1,0 +1,160 @@
+// The hand on the table of the 2D window: what a click or a frame selects, what lies under the pointer, and
+// what the window says of it.
+#include "fenetres/poste_atelier.h"
+#include "work2d/dessin_outils.h"
+
+#include <QLabel>
+
+using namespace tessarel;
+using essais::PosteAtelier;
+
+class EssaiSelection2D : public QObject, private PosteAtelier {
+    Q_OBJECT
+private slots:
+    void init() { Preparer(); }
+    void cleanup() { Ranger(); }
+
+    void UnClicSelectionneLeTrace();
+    void ShiftAjouteEtCtrlBascule();
+    void UnClicDansLeVideDeselectionne();
+    void LeCadreVersLaDroitePrendLesEntiers();
+    void LeCadreVersLaGauchePrendCeQuIlTouche();
+    void LeSurvolDitCeQueFeraitLaSouris();
+    void LeCurseurSuitLaZone();
+    void LeSegmentSurvoleEstMagentaEtNomme();
+    void LeSurvolNeRedessineQueCeQuiChange();
+};
+
+void EssaiSelection2D::UnClicSelectionneLeTrace() {
+    m_souris->Cliquer({0, 25});
+    QCOMPARE(Choisis(), std::string("10"));
+    QCOMPARE(Atelier().NombreSelections(), std::size_t{1});
+    QCOMPARE(Atelier().BoiteSelection().Largeur, 100.0F);
+    QCOMPARE(m_poste->Trouver<QLabel>("lblDimensionSelection").text(),
+             QStringLiteral("100.00 mm x 50.00 mm"));
+    QCOMPARE(m_poste->Trouver<ChampNombre>("txtMesures_0").text(), QStringLiteral("100.00"));
+    // The selected path has its own layer and the told colour.
+    const auto& traits = Toile().Montre(Canevas::CoucheSelection).Liste().traits;
+    QCOMPARE(traits.size(), std::size_t{1});
+    QVERIFY((traits[0].couleur == Couleur{255, 107, 107}));
+    m_souris->Cliquer({210, 10});
+    QCOMPARE(Choisis(), std::string("01"));
+}
+
+void EssaiSelection2D::ShiftAjouteEtCtrlBascule() {
+    m_souris->Cliquer({0, 25});
+    m_souris->Cliquer({210, 10}, Qt::ShiftModifier);
+    QCOMPARE(Choisis(), std::string("11"));
+    const auto& traits = Toile().Montre(Canevas::CoucheSelection).Liste().traits;
+    QVERIFY((traits.at(1).couleur == Couleur{230, 61, 61}));
+    m_souris->Cliquer({0, 25}, Qt::ControlModifier);
+    QCOMPARE(Choisis(), std::string("01"));
+    m_souris->Cliquer({0, 25}, Qt::ControlModifier);
+    QCOMPARE(Choisis(), std::string("11"));
+    // A plain click on one of several leaves that one alone.
+    m_souris->Cliquer({0, 25});
+    QCOMPARE(Choisis(), std::string("10"));
+}
+
+void EssaiSelection2D::UnClicDansLeVideDeselectionne() {
+    m_souris->Cliquer({0, 25});
+    m_souris->Cliquer({400, 300});
+    QCOMPARE(Choisis(), std::string("00"));
+    m_souris->Cliquer({0, 25});
+    m_souris->Cliquer({50, 25}); // inside the box, on nothing
+    QCOMPARE(Choisis(), std::string("00"));
+}
+
+void EssaiSelection2D::LeCadreVersLaDroitePrendLesEntiers() {
+    m_souris->Glisser({-20, 80}, {150, -20});
+    QCOMPARE(Choisis(), std::string("10"));
+    m_souris->Cliquer({400, 300});
+    m_souris->Glisser({-20, 80}, {90, -20}); // a part of it only
+    QCOMPARE(Choisis(), std::string("00"));
+    m_souris->Glisser({-20, 80}, {260, -20});
+    QCOMPARE(Choisis(), std::string("11"));
+}
+
+void EssaiSelection2D::LeCadreVersLaGauchePrendCeQuIlTouche() {
+    m_souris->Appuyer({150, 80});
+    m_souris->Aller({90, 20});
+    QVERIFY(Etat().startsWith(QStringLiteral("Relâcher : choisir tous les tracés que le cadre touche")));
+    m_souris->Aller({300, 20});
+    QVERIFY(Etat().startsWith(QStringLiteral("Relâcher : choisir les tracés entiers")));
+    m_souris->Aller({151, 150});
+    m_souris->Relacher();
+    QCOMPARE(Choisis(), std::string("00"));
+    m_souris->Glisser({150, 80}, {90, 20});
+    QCOMPARE(Choisis(), std::string("10"));
+    m_souris->Glisser({260, 60}, {190, 40}, Qt::ControlModifier); // touches nothing
+    QCOMPARE(Choisis(), std::string("10"));
+    m_souris->Glisser({260, 60}, {215, 25}, Qt::ControlModifier);
+    QCOMPARE(Choisis(), std::string("11"));
+}
+
+void EssaiSelection2D::LeSurvolDitCeQueFeraitLaSouris() {
+    m_souris->Aller({400, 300});
+    QCOMPARE(Etat(), QStringLiteral("Glisser : cadre de sélection. Shift + glisser : déplacer la vue"));
+    m_souris->Aller({0, 25});
+    QVERIFY(Etat().startsWith(QStringLiteral("Clic : sélectionner ce tracé")));
+    m_souris->Cliquer({0, 25});
+    QVERIFY(Etat().startsWith(QStringLiteral("Glisser : déplacer")));
+    m_souris->Aller(Poignee("BM"));
+    QVERIFY(Etat().startsWith(QStringLiteral("Glisser : taille")));
+    QEvent sortie(QEvent::Leave);
+    QApplication::sendEvent(&Toile(), &sortie);
+    QVERIFY(Etat().isEmpty());
+}
+
+void EssaiSelection2D::LeCurseurSuitLaZone() {
+    m_souris->Aller({400, 300});
+    QCOMPARE(Toile().cursor().shape(), Qt::CrossCursor);
+    m_souris->Aller({0, 25});
+    QCOMPARE(Toile().cursor().shape(), Qt::PointingHandCursor);
+    m_souris->Cliquer({0, 25});
+    QCOMPARE(Toile().cursor().shape(), Qt::SizeAllCursor);
+    const std::pair<const char*, Qt::CursorShape> formes[] = {
+        {"HG", Qt::SizeFDiagCursor}, {"BD", Qt::SizeFDiagCursor}, {"HD", Qt::SizeBDiagCursor},
+        {"BG", Qt::SizeBDiagCursor}, {"MG", Qt::SizeHorCursor},   {"HM", Qt::SizeVerCursor}};
+    for (const auto& [nom, forme] : formes) {
+        m_souris->Aller(Poignee(nom));
+        QCOMPARE(Toile().cursor().shape(), forme);
+    }
+}
+
+void EssaiSelection2D::LeSegmentSurvoleEstMagentaEtNomme() {
+    m_souris->Cliquer({0, 25});
+    m_souris->Aller({90, 50}); // the top side, nearer its right end
+    // The side runs from (100, 50) to (0, 50): level, so its first end is the high one.
+    QCOMPARE(Atelier().HandleCourant(), std::string("BC"));
+    const auto magenta = [this] {
+        for (const TraitDessin& t : Toile().Montre(Canevas::CoucheOutil).Liste().traits) {
+            if (t.couleur == CouleurSurvol) return true;
+        }
+        return false;
+    };
+    QVERIFY(magenta());
+    m_souris->Aller({50, 25});
+    QVERIFY(!magenta());
+    QVERIFY(Atelier().HandleCourant().empty());
+}
+
+void EssaiSelection2D::LeSurvolNeRedessineQueCeQuiChange() {
+    const auto points = [this] { return Toile().Montre(Canevas::CoucheOutil).Liste().points.data(); };
+    m_souris->Aller({20, 0});
+    const PointDessin* montres = points();
+    QVERIFY(montres != nullptr);
+    m_souris->Aller({40, 0});
+    m_souris->Aller({60, 0});
+    QCOMPARE(points(), montres);
+    m_souris->Aller({210, 10}); // another path
+    const Dessin& carre = Toile().Montre(Canevas::CoucheOutil).Liste();
+    QCOMPARE(carre.points.at(carre.traits.at(0).premier).X, 200.0);
+    m_souris->Aller({400, 300});
+    QVERIFY(Toile().Montre(Canevas::CoucheOutil).Liste().traits.empty());
+    m_souris->Aller({20, 0});
+    QCOMPARE(Toile().Montre(Canevas::CoucheOutil).Liste().points.at(1).X, 100.0);
+}
+
+QTEST_MAIN(EssaiSelection2D)
+#include "essai_selection2d.moc"
