@@ -63,11 +63,10 @@ struct Barre {
                                                        std::to_string(avancee.secondesChauffe) + " s");
             return;
         }
-        // Frame k goes to vertex k; the first vertex is where the wire stands.
-        const double faits = avancee.NumSalveCourante - 2 + avancee.fraction;
-        Progression::Montrer(faits / (avancee.sommets - 1), TitresMessages(MessagesSegment) + " " +
-                                                                std::to_string(avancee.NumSalveCourante) +
-                                                                "/" + std::to_string(avancee.sommets));
+        Progression::Montrer(avancee.PartFaite(), TitresMessages(MessagesSegment) + " " +
+                                                      std::to_string(avancee.NumSalveCourante) + "/" +
+                                                      std::to_string(avancee.sommets) + " - " +
+                                                      TexteTempsRestant(avancee));
     }
 };
 

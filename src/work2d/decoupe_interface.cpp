@@ -48,7 +48,15 @@ struct Passe {
     GenreDecoupe genre;
     PhaseDecoupe phase = PhaseDecoupe::Repos;
     ResultatDecoupe resultat = {};
+    std::vector<double> resteApres = {}; // s, of the motion, after the frame of that number
 };
+
+std::vector<double> ResteApresChaque(const TableauSalves& salves) {
+    std::vector<double> reste(salves.size() + 1, 0);
+    for (std::size_t k = salves.size(); k >= 2; --k)
+        reste[k - 1] = reste[k] + salves[k - 1].Duree; // frame k stands at k - 1
+    return reste;
+}
 
 void Changer(Passe& p, PhaseDecoupe phase) {
     if (p.phase == phase) return;
@@ -56,7 +64,11 @@ void Changer(Passe& p, PhaseDecoupe phase) {
     if (p.suivi.ChangerPhase) p.suivi.ChangerPhase(phase);
 }
 
-void RemplirPositions(AvanceeDecoupe& avancee, const Passe& p, const AvanceeMarche& marche) {
+void RemplirPlace(AvanceeDecoupe& avancee, const Passe& p, const AvanceeMarche& marche) {
+    const auto numero = static_cast<std::size_t>(marche.NumeroSalve);
+    if (numero < p.resteApres.size())
+        avancee.secondesReste =
+            p.resteApres[numero] + (1 - marche.Fraction) * p.preparee.liste.salves[numero - 1].Duree;
     const TrajetPas& trajet = p.preparee.liste.trajet;
     const auto avant = static_cast<std::size_t>(marche.NumeroSalve) - 1;
     const PositionDuFil fil =
@@ -80,8 +92,9 @@ void Suivre(Passe& p, const AvanceeMarche& marche) {
         p.genre == GenreDecoupe::Retour ? PhaseDecoupe::Retour : PhaseDecoupe::Decoupe;
     avancee.phase = decoupe ? enMarche : PhaseDecoupe::Chauffe;
     avancee.secondesChauffe = p.preparee.TempoChauffeCourante;
+    avancee.secondesTrajet = avancee.secondesReste = p.resteApres[PremiereSalveDeDecoupe - 1];
     if (decoupe)
-        RemplirPositions(avancee, p, marche);
+        RemplirPlace(avancee, p, marche);
     else
         avancee.secondesRestantes =
             static_cast<int>(std::ceil(static_cast<double>(marche.TicksRestants) / p.table.Frequence));
@@ -180,6 +193,7 @@ FinDecoupe Finir(Passe& p, const ResultatMarche& marche) {
 FinDecoupe ExecuterSalves(Passe& p) {
     if (!InterrupteursPermettentLaDecoupe(p.table)) return FinDecoupe::Refusee;
     Changer(p, PhaseDecoupe::Chauffe);
+    p.resteApres = ResteApresChaque(p.preparee.liste.salves);
     SuiviMarche suivi = SuiviDeMarche(p.suivi);
     suivi.Avancer = [&p](const AvanceeMarche& marche) { Suivre(p, marche); };
     const ResultatEnvoi envoi = EnvoyerSalves(p.preparee.liste.salves, suivi);
@@ -192,6 +206,11 @@ FinDecoupe ExecuterSalves(Passe& p) {
 }
 
 } // namespace
+
+std::string TexteTempsRestant(const AvanceeDecoupe& avancee) {
+    return TexteRempli(TexteProgramme::TempsRestant,
+                       {TexteDureeResume(static_cast<int>(std::ceil(avancee.secondesReste)))});
+}
 
 SuiviMarche SuiviDeMarche(const SuiviDecoupe& suivi) {
     return {suivi.demandes, {}, suivi.Prevenir};

@@ -25,11 +25,21 @@ struct AvanceeDecoupe {
     double fraction = 0;               // done of the pause or the segment, 0 to 1
     int secondesRestantes = 0;         // of the heating, rounded up
     int secondesChauffe = 0;
+    // Of the motion, by the durations of its frames, s: in all, and what is left of it.
+    double secondesTrajet = 0;
+    double secondesReste = 0;
+    // Done of the motion, 0 to 1: a long segment counts for more than a short one.
+    [[nodiscard]] double PartFaite() const {
+        return secondesTrajet > 0 ? 1 - secondesReste / secondesTrajet : 0;
+    }
     // While cutting, mm: the vertex before, and where end 1 and end 2 of the wire are.
     double XDebut = 0, YDebut = 0;
     double X1 = 0, Y1 = 0;
     double X2 = 0, Y2 = 0;
 };
+
+// "Temps restant : 5 min. 12 s.": of the motion, in seconds begun.
+std::string TexteTempsRestant(const AvanceeDecoupe& avancee);
 
 // Who follows a cut; each call may be empty. None may start an exchange or wait.
 struct SuiviDecoupe {

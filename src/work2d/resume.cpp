@@ -18,22 +18,6 @@ constexpr Masque MasqueDecalage = "#0.0";
 constexpr Masque MasqueSaignee = "#####0.0#";
 constexpr int DureeInconnue = -1;
 
-// "1 h. 0 min. 5 s.": fields left out up to the first that is not zero; the seconds always stand.
-std::string TexteDureeResume(int secondes) {
-    const DureeDecomposee d = DecomposerDuree(secondes);
-    std::string texte;
-    const auto ajouter = [&](TexteProgramme mot, int valeur, bool dernier) {
-        if (valeur == 0 && texte.empty() && !dernier) return;
-        if (!texte.empty()) texte += ' ';
-        texte += TexteRempli(mot, {std::to_string(valeur)});
-    };
-    ajouter(TexteProgramme::DureeJours, d.jours, false);
-    ajouter(TexteProgramme::DureeHeures, d.heures, false);
-    ajouter(TexteProgramme::DureeMinutes, d.minutes, false);
-    ajouter(TexteProgramme::DureeSecondes, d.secondes, true);
-    return texte;
-}
-
 std::string TexteResume(const ResumeDecoupe2D& resume, bool modeExpert, const std::string& nomMatiere) {
     const std::string duree =
         resume.dureeSecondes == DureeInconnue ? "" : TexteDureeResume(resume.dureeSecondes);
@@ -50,6 +34,21 @@ std::string TexteResume(const ResumeDecoupe2D& resume, bool modeExpert, const st
 }
 
 } // namespace
+
+std::string TexteDureeResume(int secondes) {
+    const DureeDecomposee d = DecomposerDuree(secondes);
+    std::string texte;
+    const auto ajouter = [&](TexteProgramme mot, int valeur, bool dernier) {
+        if (valeur == 0 && texte.empty() && !dernier) return;
+        if (!texte.empty()) texte += ' ';
+        texte += TexteRempli(mot, {std::to_string(valeur)});
+    };
+    ajouter(TexteProgramme::DureeJours, d.jours, false);
+    ajouter(TexteProgramme::DureeHeures, d.heures, false);
+    ajouter(TexteProgramme::DureeMinutes, d.minutes, false);
+    ajouter(TexteProgramme::DureeSecondes, d.secondes, true);
+    return texte;
+}
 
 ResumeDecoupe2D PreparerResume(const Decoupe2D& decoupe, const OptionsDecoupe2D& options,
                                const TableMachine& table, const std::string& nomMatiere) {

@@ -7,6 +7,9 @@
 
 namespace tessarel {
 
+// "1 h. 0 min. 5 s.": fields left out up to the first that is not zero; the seconds always stand.
+std::string TexteDureeResume(int secondes);
+
 // What the summary window and the batch program say.
 struct ResumeDecoupe2D {
     int dureeSecondes = 0;

@@ -185,6 +185,36 @@ TEST(DecoupeInterface, LAvanceeDonneLaChauffePuisLaPlaceDuFil) {
     EXPECT_EQ(milieu->X2, milieu->X1);
 }
 
+// Whatever ramps there are, what is told to be left is what it then takes.
+TEST(DecoupeInterface, LeTempsRestantEstCeluiQuIlFaut) {
+    Poste poste;
+    struct Dit {
+        Instant quand;
+        AvanceeDecoupe avancee;
+    };
+    std::vector<Dit> dits;
+    poste.suivi.Avancer = [&](const AvanceeDecoupe& a) { dits.push_back({poste.boite.Temps(), a}); };
+    poste.Lancer();
+    const Instant fin = dits.back().quand;
+    ASSERT_GT(dits.back().avancee.secondesTrajet, 2);
+    EXPECT_NEAR(dits.back().avancee.PartFaite(), 1, 0.02);
+    for (const Dit& dit : dits) {
+        if (dit.avancee.NumSalveCourante < 2) {
+            EXPECT_EQ(dit.avancee.secondesReste, dit.avancee.secondesTrajet);
+            continue;
+        }
+        const double reste = std::chrono::duration<double>(fin - dit.quand).count();
+        EXPECT_NEAR(dit.avancee.secondesReste, reste, 0.15) << dit.avancee.NumSalveCourante;
+        EXPECT_NEAR(dit.avancee.PartFaite(), 1 - dit.avancee.secondesReste / dit.avancee.secondesTrajet,
+                    1e-9);
+    }
+    AvanceeDecoupe avancee;
+    avancee.secondesReste = 311.2;
+    EXPECT_EQ(TexteTempsRestant(avancee), "Temps restant : 5 min. 12 s.");
+    avancee.secondesReste = 0;
+    EXPECT_EQ(TexteTempsRestant(avancee), "Temps restant : 0 s.");
+}
+
 TEST(DecoupeInterface, StopPendantLaChauffe) {
     for (const std::uint64_t n : {2U, 5U, 30U}) { // filling, filling, heating
         Poste poste;

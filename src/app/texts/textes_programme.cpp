@@ -199,6 +199,7 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
      "The interface has not confirmed the stop: the machine may still be moving.\r\n"
      "Press the STOP button of the machine or cut its power supply."},
     {TexteProgramme::MarcheAbandonneeTitre, "Arrêt non confirmé", "Stop not confirmed"},
+    {TexteProgramme::TempsRestant, "Temps restant : %1", "Time left: %1"},
     {TexteProgramme::TableHorsFormatTitre, "La table %1 n'est pas envoyée", "Table %1 is not sent"},
     {TexteProgramme::TableHorsFormat, "La valeur de %1 ne tient pas dans une mémoire de l'interface.",
      "The value of %1 does not fit a memory of the interface."},

@@ -88,6 +88,7 @@ enum class TexteProgramme {
     BoitierMuet,
     MarcheAbandonnee,
     MarcheAbandonneeTitre,
+    TempsRestant,         // %1 duration
     TableHorsFormatTitre, // %1 machine
     TableHorsFormat,      // %1 key
 
