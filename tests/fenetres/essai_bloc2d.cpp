@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QToolButton>
 
 using namespace tessarel;
@@ -27,6 +28,10 @@ private slots:
     void CentrerPlaceLesTracesEtRougit();
     void AjusterMetALEchelle();
     void BlocAutoPrendLaTailleDesTraces();
+    void BlocAutoTientDixMillimetresAuMoins();
+    void BlocAutoSansTracePrendLaTable();
+    void BlocAutoCadreLeBlocQuandLeZoomEstMis();
+    void BlocAutoDepasseLaMachineSansRienDire();
     void VoirPointsMarqueLesPoints();
     void ZoomProjetCadreLesTraces();
     void LesBoutonsDeZoomZooment();
@@ -115,6 +120,62 @@ void EssaiBloc2D::BlocAutoPrendLaTailleDesTraces() {
     QCOMPARE(Espace().bloc.BlocX, 100.0F);
     QCOMPARE(Espace().bloc.BlocY, 50.0F);
     QCOMPARE(m_poste->Trouver<ChampNombre>("txtBloc_0").text(), QStringLiteral("100"));
+}
+
+void EssaiBloc2D::BlocAutoTientDixMillimetresAuMoins() {
+    m_poste->Deposer({m_poste->Fichier("petit.txt", "Trait\r\n0.0:0.0\r\n2.0:0.0\r\n2.0:40.0\r\n")});
+    m_poste->Cliquer<QToolButton>("cmdBlocAuto");
+    QCOMPARE(Espace().bloc.BlocX, 10.0F);
+    QCOMPARE(Espace().bloc.BlocY, 40.0F);
+    QCOMPARE(m_poste->Trouver<ChampNombre>("txtBloc_0").text(), QStringLiteral("10"));
+}
+
+void EssaiBloc2D::BlocAutoSansTracePrendLaTable() {
+    m_poste->Cliquer<QToolButton>("cmdBlocAuto"); // without a path the framing is the table
+    QCOMPARE(Espace().bloc.BlocX, 980.0F);
+    QCOMPARE(Espace().bloc.BlocY, 510.0F);
+    QCOMPARE(NombreBoites(), std::size_t{0});
+}
+
+void EssaiBloc2D::BlocAutoCadreLeBlocQuandLeZoomEstMis() {
+    OuvrirRectangle();
+    const auto& canevas = m_poste->Trouver<Canevas>("pctSequTS2D");
+    const VueDessin table = canevas.Vue();
+    m_poste->Cliquer<QToolButton>("cmdBlocAuto");
+    QVERIFY(canevas.Vue() == table); // without the zoom the view is the user's
+    m_poste->Cliquer<QToolButton>("cmdUndoTS2D_0");
+    m_poste->Cliquer<QCheckBox>("chkZoomProjet");
+    m_poste->Cliquer<QCheckBox>("chkCentrer_2");
+    m_poste->Cliquer<QToolButton>("cmdBlocAuto");
+    QCOMPARE(Espace().bloc.BlocX, 100.0F);
+    // From 0 to 100 and from 0 to 50, as large as the canvas allows with 14 pixels around.
+    const QSizeF zone = canevas.ZoneDessin().size();
+    QVERIFY(canevas.Vue() == VueSurCadre({0, 100, 0, 50}, zone.width(), zone.height(), 14));
+}
+
+// Only a typed block is brought down to the machine: one made on the paths holds them all, and the cut says
+// that it is clipped.
+void EssaiBloc2D::BlocAutoDepasseLaMachineSansRienDire() {
+    m_poste->Deposer({m_poste->Fichier(
+        "grand.txt", "Grand\r\n20.0:10.0\r\n1220.0:10.0\r\n1220.0:610.0\r\n20.0:610.0\r\n20.0:10.0\r\n")});
+    m_poste->Cliquer<QToolButton>("cmdBlocAuto");
+    QCOMPARE(Espace().bloc.BlocX, 1200.0F);
+    QCOMPARE(Espace().bloc.BlocY, 600.0F);
+    QCOMPARE(m_poste->Trouver<ChampNombre>("txtBloc_0").text(), QStringLiteral("1200"));
+    QCOMPARE(m_poste->Trouver<QLabel>("lblDimensionsBloc").text(), QStringLiteral("1200.0 mm x 600.0 mm"));
+    // A look at the field changes nothing.
+    m_poste->Trouver<ChampNombre>("txtBloc_0").setFocus();
+    m_poste->Trouver<ChampNombre>("txtBloc_1").setFocus();
+    QCOMPARE(Espace().bloc.BlocX, 1200.0F);
+    QCOMPARE(NombreBoites(), std::size_t{0});
+    m_poste->Cliquer<QPushButton>("cmdDecouper");
+    QCOMPARE(DerniereBoite().titre, std::string("Dépassement des courses"));
+    QCOMPARE(Espace().TableauSequences[0].Largeur, 1200.0F);
+    m_poste->Cliquer<QPushButton>("cmdAnnulerDecoupe");
+    m_poste->Saisir("txtBloc_0", QStringLiteral("1201\r"));
+    QCOMPARE(Espace().bloc.BlocX, 960.0F);
+    // What was not typed is limited with it.
+    QCOMPARE(Espace().bloc.BlocY, 495.0F);
 }
 
 void EssaiBloc2D::VoirPointsMarqueLesPoints() {

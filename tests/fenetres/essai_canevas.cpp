@@ -1,4 +1,5 @@
 // The canvas as a person uses it: wheel, drags, keys, and what stays on the screen.
+#include "fenetres/souris.h"
 #include "ui/canevas.h"
 
 #include <QPainter>
@@ -149,6 +150,70 @@ private slots:
         m_canevas->Zoomer(5);
         QTest::mouseClick(m_canevas.get(), Qt::MiddleButton, Qt::NoModifier, {333, 222});
         QVERIFY(m_canevas->Vue() == depart);
+    }
+
+    void UnGesteSansBoutonEstAbandonne() {
+        for (const Qt::MouseButton bouton : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton}) {
+            essais::Souris souris(*m_canevas);
+            souris.Appuyer({300, 200}, Qt::NoModifier, bouton);
+            souris.Aller({400, 260});
+            QVERIFY(m_canevas->GesteEnCours());
+            const VueDessin vue = m_canevas->Vue();
+            essais::Souris(*m_canevas).Aller({500, 300}); // its release went elsewhere
+            QVERIFY(!m_canevas->GesteEnCours());
+            QVERIFY(m_canevas->Vue() == vue);
+        }
+    }
+
+    void UnGesteFinitParSonBoutonSeulement() {
+        essais::Souris souris(*m_canevas);
+        souris.Appuyer({300, 200}, Qt::NoModifier, Qt::RightButton);
+        souris.Aller({400, 260});
+        souris.Appuyer({420, 270});
+        souris.Relacher();
+        QVERIFY(m_canevas->GesteEnCours());
+        const double echelle = m_canevas->Vue().echelle;
+        souris.Relacher(Qt::NoModifier, Qt::RightButton);
+        QVERIFY(!m_canevas->GesteEnCours());
+        QVERIFY(m_canevas->Vue().echelle > echelle);
+    }
+
+    void CacheLaToileAbandonneSonGeste() {
+        essais::Souris souris(*m_canevas);
+        souris.Appuyer({300, 200});
+        souris.Aller({400, 260});
+        m_canevas->hide();
+        QVERIFY(!m_canevas->GesteEnCours());
+    }
+
+    void LaMoletteEnPleinCadreGardeSonCoin() {
+        QSignalSpy traces(m_canevas.get(), &Canevas::RectangleTrace);
+        essais::Souris souris(*m_canevas);
+        souris.Appuyer({300, 200});
+        souris.Aller({400, 260});
+        const QPointF ou = m_canevas->EnPixels({400, 260});
+        QWheelEvent cran(ou, m_canevas->mapToGlobal(ou), {}, {0, 120}, Qt::LeftButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+        QApplication::sendEvent(m_canevas.get(), &cran);
+        souris.Aller({450, 300});
+        souris.Relacher();
+        QCOMPARE(traces.size(), 1);
+        const auto cadre = traces[0][0].value<CadreDessin>();
+        QVERIFY(std::abs(cadre.XMin - 300) < 1e-6 && std::abs(cadre.YMin - 200) < 1e-6);
+        QVERIFY(std::abs(cadre.XMax - 450) < 1e-6 && std::abs(cadre.YMax - 300) < 1e-6);
+    }
+
+    void LesNombresDesReglesNeSontPasCoupesParLeBord() {
+        // A number that starts within its own width of the end is left out: the last pixels of the bottom
+        // ruler hold lines only, whatever the view.
+        for (int pas = 0; pas < 60; ++pas) {
+            m_canevas->Deplacer(1, 0);
+            const QImage image = m_canevas->grab().toImage();
+            const QRectF zone = m_canevas->ZoneDessin();
+            const QColor encre = m_canevas->palette().color(QPalette::WindowText);
+            for (int y = static_cast<int>(zone.bottom()) + 6; y < image.height() - 2; ++y)
+                QVERIFY(image.pixelColor(image.width() - 1, y) != encre);
+        }
     }
 
     void LePointeurEstDitEnMm() {

@@ -28,6 +28,7 @@ private slots:
     void cleanup() { m_poste.reset(); }
 
     void LesLibellesSontCompletsDansLesDeuxLangues();
+    void LAideNommeChaqueRaccourci();
     void AuDebutLeBlocEstCeluiDeLaMachine();
 
     void OuvrirParLeDialogue();
@@ -84,6 +85,28 @@ void EssaiTessarel2D::LesLibellesSontCompletsDansLesDeuxLangues() {
         QVERIFY2(defauts.empty(), defauts.empty() ? "" : defauts.front().c_str());
     }
     QCOMPARE(m_poste->Trouver<QToolButton>("cmdOuvrirFichierTS2D").text(), QStringLiteral("Open"));
+}
+
+void EssaiTessarel2D::LAideNommeChaqueRaccourci() {
+    for (const Langue langue : {Langue::Francais, Langue::English}) {
+        m_poste.reset();
+        m_poste = std::make_unique<Poste2D>(langue);
+        m_poste->OuvrirFenetre();
+        m_poste->Cliquer<QToolButton>("cmdAide");
+        QCOMPARE(m_poste->NombreBoites(), std::size_t{1});
+        const bool francais = langue == Langue::Francais;
+        QCOMPARE(m_poste->DerniereBoite().titre,
+                 std::string(francais ? "Souris et clavier" : "Mouse and keyboard"));
+        const QString aide = QString::fromStdString(m_poste->DerniereBoite().texte);
+        for (const Libelle& libelle : LibellesTessarel2D()) {
+            QString touches = QString::fromLatin1(libelle.raccourci);
+            if (touches.isEmpty()) continue;
+            touches.replace(QStringLiteral("Return"),
+                            francais ? QStringLiteral("Entrée") : QStringLiteral("Enter"));
+            if (francais) touches.replace(QStringLiteral("Esc"), QStringLiteral("Échap"));
+            QVERIFY2(aide.contains(touches), libelle.controle);
+        }
+    }
 }
 
 void EssaiTessarel2D::AuDebutLeBlocEstCeluiDeLaMachine() {

@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QToolButton>
+#include <QWheelEvent>
 
 #include <cmath>
 
@@ -27,6 +28,12 @@ private slots:
     void UnGesteRevenuASonDepartNEstPasUnPas();
     void TournerDepuisLExterieurDuCadre();
     void UnFacteurNulGardeLeDernierBon();
+    void UnRelachementPerduAbandonneLeGeste();
+    void UnAutreBoutonEnPleinGesteNeChangeRien();
+    void LeBoutonGauchePendantUnGesteDeLaVueNePrendRien();
+    void LaMoletteEnPleinGesteGardeLaPrise();
+    void AnnulerEnPleinGesteLAbandonne();
+    void OuvrirLaDecoupeEnPleinGesteLAbandonne();
 };
 
 void EssaiGestes2D::GlisserDeplaceLaSelectionSeule() {
@@ -181,6 +188,101 @@ void EssaiGestes2D::UnFacteurNulGardeLeDernierBon() {
     for (const PointProfil& p : Trace(0).Points) QVERIFY(std::isfinite(p.X));
     QVERIFY(Trace(0).Largeur > 0);
     QCOMPARE(m_poste->NombreBoites(), std::size_t{0});
+}
+
+// The release of the button went to another window: a box that came up, say.
+void EssaiGestes2D::UnRelachementPerduAbandonneLeGeste() {
+    m_souris->Cliquer({0, 25});
+    const std::vector<PointProfil> avant = Trace(0).Points;
+    m_souris->Appuyer({50, 25});
+    m_souris->Aller({150, 125});
+    QVERIFY(Atelier().GesteEnCours());
+    essais::Souris(Toile()).Aller({160, 125}); // a mouse without a button
+    QVERIFY(!Atelier().GesteEnCours());
+    QVERIFY(Trace(0).Points == avant);
+    QCOMPARE(m_poste->Trouver<QLabel>("lblDimensionSelection").text(),
+             QStringLiteral("100.00 mm x 50.00 mm"));
+    // A second press without a move between is a new start, not the end of the first drag.
+    essais::Souris perdue(Toile());
+    perdue.Appuyer({50, 25});
+    perdue.Aller({150, 125});
+    essais::Souris(Toile()).Cliquer({210, 10});
+    QVERIFY(Trace(0).Points == avant);
+    QCOMPARE(Choisis(), std::string("01"));
+}
+
+void EssaiGestes2D::UnAutreBoutonEnPleinGesteNeChangeRien() {
+    m_souris->Cliquer({0, 25});
+    const VueDessin vue = Toile().Vue();
+    m_souris->Appuyer({50, 25});
+    m_souris->Aller({60, 35});
+    m_souris->Appuyer({70, 45}, Qt::NoModifier, Qt::RightButton);
+    m_souris->Aller({75, 50});
+    m_souris->Relacher(Qt::NoModifier, Qt::RightButton);
+    QVERIFY(Atelier().GesteEnCours());
+    m_souris->Aller({80, 65});
+    m_souris->Relacher();
+    QVERIFY(std::abs(Trace(0).XMin - 30) < essais::ToleranceMain);
+    QVERIFY(std::abs(Trace(0).YMin - 40) < essais::ToleranceMain);
+    QVERIFY(Toile().Vue() == vue);
+    QVERIFY(!Toile().GesteEnCours());
+}
+
+void EssaiGestes2D::LeBoutonGauchePendantUnGesteDeLaVueNePrendRien() {
+    m_souris->Cliquer({0, 25});
+    const std::vector<PointProfil> avant = Trace(0).Points;
+    m_souris->Appuyer({50, 25}, Qt::NoModifier, Qt::MiddleButton);
+    m_souris->Aller({60, 35});
+    m_souris->Appuyer({60, 35});
+    m_souris->Aller({90, 65});
+    m_souris->Relacher();
+    QVERIFY(!Atelier().GesteEnCours());
+    QVERIFY(Toile().GesteEnCours()); // the pan goes on until its own button is let go
+    m_souris->Relacher(Qt::NoModifier, Qt::MiddleButton);
+    QVERIFY(!Toile().GesteEnCours());
+    QVERIFY(Trace(0).Points == avant);
+    QCOMPARE(Choisis(), std::string("10"));
+}
+
+void EssaiGestes2D::LaMoletteEnPleinGesteGardeLaPrise() {
+    m_souris->Cliquer({0, 25});
+    m_souris->Appuyer({50, 25});
+    m_souris->Aller({80, 65});
+    const QPointF ou = Toile().EnPixels({80, 65});
+    QWheelEvent cran(ou, Toile().mapToGlobal(ou), {}, {0, 120}, Qt::LeftButton, Qt::NoModifier,
+                     Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&Toile(), &cran);
+    m_souris->Aller({90, 65}); // in millimetres of the new view
+    m_souris->Relacher();
+    QVERIFY(std::abs(Trace(0).XMin - 40) < essais::ToleranceMain);
+    QVERIFY(std::abs(Trace(0).YMin - 40) < essais::ToleranceMain);
+}
+
+void EssaiGestes2D::AnnulerEnPleinGesteLAbandonne() {
+    m_souris->Cliquer({0, 25});
+    m_souris->Glisser({50, 25}, {80, 65});
+    m_souris->Appuyer({80, 65});
+    m_souris->Aller({200, 165});
+    m_poste->Trouver<QToolButton>("cmdUndoTS2D_0").click();
+    QVERIFY(!Atelier().GesteEnCours());
+    m_souris->Aller({220, 165});
+    m_souris->Relacher();
+    QCOMPARE(Trace(0).XMin, 0.0F); // the move before it is undone, the drag never was
+    QVERIFY(PeutRefaire(Atelier().Historique()));
+}
+
+void EssaiGestes2D::OuvrirLaDecoupeEnPleinGesteLAbandonne() {
+    m_souris->Cliquer({0, 25});
+    const std::vector<PointProfil> avant = Trace(0).Points;
+    m_souris->Appuyer({50, 25});
+    m_souris->Aller({150, 125});
+    QTest::keyClick(m_poste->fenetre.get(), Qt::Key_F9);
+    QTRY_VERIFY(m_poste->fenetre->DecoupeOuverte());
+    QVERIFY(!Atelier().GesteEnCours());
+    QTest::keyClick(m_poste->fenetre.get(), Qt::Key_Escape);
+    QTRY_VERIFY(!m_poste->fenetre->DecoupeOuverte());
+    QVERIFY(Trace(0).Points == avant);
+    QCOMPARE(Choisis(), std::string("10"));
 }
 
 QTEST_MAIN(EssaiGestes2D)

@@ -1,5 +1,6 @@
 // The tools of the 2D window: undo and redo, point insertion, path cutting, and what the cut tab turns off.
 #include "fenetres/poste_atelier.h"
+#include "work2d/ui/panneau_simulation.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -28,6 +29,9 @@ private slots:
     void LeSommetACouperNommeUnCoin();
     void CouperAuBoutEstRefuse();
     void LesOutilsSontEteintsPendantLaDecoupe();
+    void AnnulerAuxDeuxBoutsNeFaitRien();
+    void ToutSupprimerPendantLaDecoupeNeTouchePasAuProjet();
+    void ToutSupprimerPuisDecouperEstRefuse();
 };
 
 void EssaiOutils2D::AnnulerEtRetablirParLesBoutons() {
@@ -161,6 +165,55 @@ void EssaiOutils2D::LesOutilsSontEteintsPendantLaDecoupe() {
     m_poste->Cliquer<QPushButton>("cmdAnnulerDecoupe");
     m_souris->Glisser({50, 25}, {60, 25});
     QVERIFY(std::abs(Trace(0).XMin - 10) < essais::ToleranceMain);
+}
+
+void EssaiOutils2D::AnnulerAuxDeuxBoutsNeFaitRien() {
+    m_souris->Cliquer({0, 25});
+    m_souris->Glisser({50, 25}, {80, 65});
+    const std::vector<Sequence> fin = Espace().TableauSequences;
+    for (int i = 0; i < 3; ++i) QTest::keyClick(m_poste->fenetre.get(), Qt::Key_Y, Qt::ControlModifier);
+    QVERIFY(Espace().TableauSequences == fin);
+    for (int i = 0; i < 12; ++i) QTest::keyClick(m_poste->fenetre.get(), Qt::Key_Z, Qt::ControlModifier);
+    QVERIFY(Espace().TableauSequences.empty());
+    QCOMPARE(Atelier().Historique().NbTransf, 1.0F);
+    for (int i = 0; i < 12; ++i) QTest::keyClick(m_poste->fenetre.get(), Qt::Key_Y, Qt::ControlModifier);
+    QVERIFY(Espace().TableauSequences == fin);
+    QCOMPARE(m_poste->NombreBoites(), std::size_t{0});
+}
+
+void EssaiOutils2D::ToutSupprimerPendantLaDecoupeNeTouchePasAuProjet() {
+    m_poste->Trouver<QToolButton>("cmdToutSelectionner").click();
+    const std::vector<Sequence> avant = Espace().TableauSequences;
+    m_poste->Cliquer<QPushButton>("cmdDecouper");
+    m_poste->Cliquer<QToolButton>("cmdSimulation");
+    const std::size_t boites = m_poste->NombreBoites();
+    QWidget& decoupe = m_poste->Trouver<Canevas>("pctDecoupe");
+    for (QWidget* ou : {static_cast<QWidget*>(m_poste->fenetre.get()), &decoupe,
+                        static_cast<QWidget*>(&m_poste->Trouver<QToolButton>("cmdSimulation"))}) {
+        QTest::keyClick(ou, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(ou, Qt::Key_Delete);
+        QTest::keyClick(ou, Qt::Key_Backspace);
+    }
+    m_poste->Trouver<QToolButton>("cmdPoubelle").click();
+    QVERIFY(Espace().TableauSequences == avant);
+    QVERIFY(m_poste->fenetre->DecoupeOuverte());
+    QVERIFY(m_poste->fenetre->Simulation().EnMarche());
+    QCOMPARE(m_poste->NombreBoites(), boites);
+    m_poste->Cliquer<QPushButton>("cmdAnnulerDecoupe");
+    QTest::keyClick(&Toile(), Qt::Key_Delete);
+    QVERIFY(Espace().TableauSequences.empty());
+    m_poste->Trouver<QToolButton>("cmdUndoTS2D_0").click();
+    QVERIFY(Espace().TableauSequences == avant);
+}
+
+void EssaiOutils2D::ToutSupprimerPuisDecouperEstRefuse() {
+    m_poste->Trouver<QToolButton>("cmdToutSelectionner").click();
+    m_poste->Trouver<QToolButton>("cmdPoubelle").click();
+    m_poste->Cliquer<QPushButton>("cmdDecouper");
+    QVERIFY(!m_poste->fenetre->DecoupeOuverte());
+    QCOMPARE(m_poste->NombreBoites(), std::size_t{1});
+    m_poste->Trouver<QToolButton>("cmdUndoTS2D_0").click();
+    QCOMPARE(Espace().TableauSequences.size(), std::size_t{2});
 }
 
 QTEST_MAIN(EssaiOutils2D)

@@ -83,12 +83,16 @@ void frmTessarel2D::RelierAtelier() {
             statusBar()->showMessage(texte);
         }
     });
-    // The cut is there to be looked at.
-    connect(pctDecoupe, &Canevas::PointeurDeplace, this, [this] {
+    // A cut and a preview are there to be looked at.
+    const auto direVue = [this] {
         const QString texte = TexteAffiche(Texte(TexteProgramme::AtelierSurDecoupe));
         if (statusBar()->currentMessage() != texte) statusBar()->showMessage(texte);
-    });
+    };
+    connect(pctDecoupe, &Canevas::PointeurDeplace, this, direVue);
     connect(pctDecoupe, &Canevas::PointeurSorti, statusBar(), &QStatusBar::clearMessage);
+    connect(pctSequTS2D, &Canevas::PointeurDeplace, this, [this, direVue] {
+        if (m_apercu) direVue();
+    });
     connect(m_atelier, &Atelier2D::PointVise, this, &frmTessarel2D::MontrerAjoutPoint);
     connect(m_atelier, &Atelier2D::OutilChoisi, this, [this] {
         pctAjoutPoint->setVisible(m_atelier->Outil() == OutilAtelier::InsererPoint);
