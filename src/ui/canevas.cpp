@@ -1,6 +1,8 @@
 // The drawing canvas: its view, and what mouse and keyboard do to it.
 #include "ui/canevas.h"
 
+#include "platform/images/emprise_qt.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -19,8 +21,19 @@ constexpr double FacteurCran = 1.25;      // zoom of one notch of the wheel, or 
 constexpr double UnitesParCran = 120;     // of the wheel
 constexpr double PasTouche = 48;          // pixels panned by an arrow key
 constexpr double DistanceClic = 4;        // pixels: a shorter drag is a click
+constexpr int MorceauxMaxi = 96;          // of a repaint; more of them are painted as one
+constexpr double SurfaceDeTrop = 2;       // so many times what is asked for may be painted at once
 constexpr double EchelleMaxi = 20000;     // pixels per mm: a twentieth of a micron
 constexpr double EchelleMini = 1.0 / 500; // a quarter of a kilometre on a screen
+
+// Each piece of a repaint has its own price: pieces that fill most of the rectangle around them are one.
+bool UnSeulMorceau(const QRegion& region) {
+    double surface = 0;
+    for (const QRect& r : region) surface += static_cast<double>(r.width()) * r.height();
+    const QRect autour = region.boundingRect();
+    return region.rectCount() > MorceauxMaxi ||
+           static_cast<double>(autour.width()) * autour.height() <= SurfaceDeTrop * surface;
+}
 
 } // namespace
 
@@ -37,18 +50,55 @@ bool Canevas::FondSombre() const {
     return palette().color(QPalette::Base).lightness() < 128;
 }
 
+// In pixels of the view, from the upper left corner of the drawing area.
+QRegion Canevas::Emprise(Couche couche) const {
+    return EmpriseDessin(m_couches[couche], m_vue, m_matrices[couche]);
+}
+
+void Canevas::RepeindreZone(const QRegion& ou) {
+    update(ou.translated(ZoneDessin().topLeft().toPoint()));
+}
+
+// The layer changes as a whole: where it was and where it is are painted again.
+void Canevas::Repeindre(Couche couche, const QRegion& avant) {
+    if (couche < m_couchesFixes) {
+        m_fixe.valable = false;
+        m_couchesFixes = std::max(couche, CoucheSelection);
+    }
+    RepeindreZone(avant.united(Emprise(couche)));
+}
+
 void Canevas::Montrer(Couche couche, Dessin dessin) {
+    const QRegion avant = Emprise(couche);
     m_couches[couche].Remplacer(std::move(dessin));
     m_matrices[couche] = {};
-    if (couche < CoucheSelection) m_fixe.valable = false;
-    update();
+    Repeindre(couche, avant);
 }
 
 void Canevas::Transformer(Couche couche, const MatriceDessin& matrice) {
     if (m_matrices[couche] == matrice) return;
+    const QRegion avant = Emprise(couche);
     m_matrices[couche] = matrice;
-    if (couche < CoucheSelection) m_fixe.valable = false;
-    update();
+    Repeindre(couche, avant);
+}
+
+void Canevas::Prolonger(Couche couche, std::span<const PointDessin> points) {
+    DessinPrepare& prepare = m_couches[couche];
+    if (prepare.Liste().traits.empty() || points.empty()) return;
+    const std::uint32_t avant = prepare.Liste().traits.back().nombre;
+    prepare.Prolonger(points);
+    const TraitDessin& trait = prepare.Liste().traits.back();
+    // From the last point of what was there: the first new segment begins there.
+    const std::uint32_t premier = avant == 0 ? 0 : avant - 1;
+    const auto neufs = std::span(prepare.Liste().points).subspan(trait.premier + premier);
+    if (m_couchesFixes != couche + 1) {
+        // What grows is not drawn anew at each step: from now on it is in the picture that stays.
+        m_couchesFixes = couche + 1;
+        m_fixe.valable = false;
+    } else if (m_fixe.valable) {
+        PeindreSurFixe(couche, neufs);
+    }
+    RepeindreZone(EmpriseTrait(neufs, trait.epaisseur, m_vue, m_matrices[couche]));
 }
 
 void Canevas::FixerCurseur(const QCursor& curseur) {
@@ -290,9 +340,13 @@ void Canevas::changeEvent(QEvent* evenement) {
 
 void Canevas::paintEvent(QPaintEvent* evenement) {
     QPainter peintre(this);
-    peintre.setClipRegion(evenement->region());
-    // A pointer that moves over the rulers' band leaves the drawing as it is.
-    Peindre(peintre);
+    m_compte = {};
+    const QRegion& region = evenement->region();
+    if (UnSeulMorceau(region)) {
+        PeindreMorceau(peintre, region.boundingRect());
+        return;
+    }
+    for (const QRect& morceau : region) PeindreMorceau(peintre, morceau);
 }
 
 } // namespace tessarel

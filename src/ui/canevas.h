@@ -11,6 +11,7 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <span>
 
 namespace tessarel {
 
@@ -32,6 +33,9 @@ public:
     // Shows a layer moved, scaled or turned, without a copy of it: for a drag. A new drawing of the layer is
     // shown as it is.
     void Transformer(Couche couche, const MatriceDessin& matrice);
+    // Lengthens the last stroke of a layer, which is best the last of those that are shown for long: only
+    // what is new is painted, however much there is already.
+    void Prolonger(Couche couche, std::span<const PointDessin> points);
 
     // What "everything" is; the next ZoomTout() shows it. The first frame given is shown at once.
     void FixerCadreComplet(const CadreDessin& cadre);
@@ -94,16 +98,21 @@ private:
     void ZoomerAutour(QPointF pixels, double facteur);
     void ChangerVue(VueDessin vue);
     void AbandonnerGeste();
+    void Repeindre(Couche couche, const QRegion& avant);
+    void RepeindreZone(const QRegion& ou);
+    void PeindreSurFixe(Couche couche, std::span<const PointDessin> neufs);
+    [[nodiscard]] QRegion Emprise(Couche couche) const;
+    void PeindreMorceau(QPainter& peintre, const QRect& morceau);
     void PeindreRegles(QPainter& peintre);
-    void PeindreCouches(QPainter& peintre, Couche premiere, Couche fin);
-    void PeindreFixe(QPainter& peintre);
+    void PeindreCouches(QPainter& peintre, std::size_t premiere, std::size_t fin, const QRectF& partie);
+    void PeindreFixe(QPainter& peintre, const QRectF& partie);
     void PeindreElastique(QPainter& peintre);
     [[nodiscard]] bool EstUnClic(QPointF fin) const;
 
     std::array<DessinPrepare, NombreCouches> m_couches;
     std::array<MatriceDessin, NombreCouches> m_matrices;
-    // The layers below the selection as last painted: what moves over them costs its own price only. Made
-    // when a view is painted for the second time, so that a pan does not pay for it.
+    // The first layers as last painted: what moves over them costs its own price only. Made when a view is
+    // painted for the second time, so that a pan does not pay for it.
     struct ImageFixe {
         QPixmap image;
         VueDessin vue;
@@ -112,6 +121,7 @@ private:
         bool valable = false;
     };
     ImageFixe m_fixe;
+    std::size_t m_couchesFixes = CoucheSelection; // how many layers are in it
     VueDessin m_vuePeinte;
     QCursor m_curseur{Qt::CrossCursor};
     PeintreDessin m_pinceau;

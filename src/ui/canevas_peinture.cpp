@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace tessarel {
 
@@ -41,25 +42,34 @@ QRectF Canevas::ZoneDessin() const {
 }
 
 void Canevas::Peindre(QPainter& peintre) {
+    m_compte = {};
+    PeindreMorceau(peintre, rect());
+}
+
+// What the last painting left lies beside this piece.
+void Canevas::PeindreMorceau(QPainter& peintre, const QRect& morceau) {
     const QRectF zone = ZoneDessin();
-    // A region that touches the rulers only is no reason to paint the drawing again.
-    const bool avecDessin = !peintre.hasClipping() || peintre.clipRegion().intersects(zone.toAlignedRect());
-    if (avecDessin) {
+    peintre.save();
+    peintre.setClipRect(morceau, Qt::IntersectClip);
+    // A pointer that moves over the rulers' bands leaves the drawing as it is.
+    const QRectF partie = zone.intersected(morceau);
+    if (!partie.isEmpty()) {
         peintre.save();
         peintre.setClipRect(zone, Qt::IntersectClip);
         peintre.translate(zone.topLeft());
-        m_compte = {};
-        PeindreFixe(peintre);
-        PeindreCouches(peintre, CoucheSelection, NombreCouches);
+        const QRectF dansZone = partie.translated(-zone.topLeft());
+        PeindreFixe(peintre, dansZone);
+        PeindreCouches(peintre, m_couchesFixes, NombreCouches, dansZone);
         peintre.restore();
         PeindreElastique(peintre);
     }
-    if (m_regles) PeindreRegles(peintre);
+    if (m_regles && !zone.contains(morceau)) PeindreRegles(peintre);
+    peintre.restore();
 }
 
-void Canevas::PeindreCouches(QPainter& peintre, Couche premiere, Couche fin) {
+void Canevas::PeindreCouches(QPainter& peintre, std::size_t premiere, std::size_t fin, const QRectF& partie) {
     for (std::size_t couche = premiere; couche < fin; ++couche) {
-        m_pinceau.Peindre(peintre, m_couches[couche], m_vue, m_matrices[couche]);
+        m_pinceau.Peindre(peintre, m_couches[couche], m_vue, m_matrices[couche], partie);
         m_compte.sommets += m_pinceau.DernierCompte().sommets;
         m_compte.marques += m_pinceau.DernierCompte().marques;
         m_compte.textes += m_pinceau.DernierCompte().textes;
@@ -67,7 +77,7 @@ void Canevas::PeindreCouches(QPainter& peintre, Couche premiere, Couche fin) {
 }
 
 // The ground and the layers that stay: painted, or taken from the picture of the last time.
-void Canevas::PeindreFixe(QPainter& peintre) {
+void Canevas::PeindreFixe(QPainter& peintre, const QRectF& partie) {
     const QSizeF taille = ZoneDessin().size();
     const QColor fond = palette().color(QPalette::Base);
     const bool meme = m_fixe.valable && m_fixe.vue == m_vue && m_fixe.fond == fond &&
@@ -75,24 +85,39 @@ void Canevas::PeindreFixe(QPainter& peintre) {
     if (!meme && m_vuePeinte != m_vue) {
         m_vuePeinte = m_vue;
         m_fixe = {};
-        peintre.fillRect(QRectF(QPointF(), taille), fond);
-        PeindreCouches(peintre, CoucheFond, CoucheSelection);
+        peintre.fillRect(partie, fond);
+        PeindreCouches(peintre, CoucheFond, m_couchesFixes, partie);
         return;
     }
     if (!meme) {
+        const PeintreDessin::Compte avant = m_compte;
+        m_compte = {};
         m_fixe.image = QPixmap((taille * devicePixelRatioF()).toSize());
         m_fixe.image.setDevicePixelRatio(devicePixelRatioF());
         m_fixe.image.fill(fond);
         QPainter surImage(&m_fixe.image);
         surImage.setFont(peintre.font());
-        PeindreCouches(surImage, CoucheFond, CoucheSelection);
-        m_fixe.compte = m_compte;
+        PeindreCouches(surImage, CoucheFond, m_couchesFixes, {});
+        m_fixe.compte = std::exchange(m_compte, avant);
         m_fixe.vue = m_vue;
         m_fixe.fond = fond;
         m_fixe.valable = true;
     }
-    m_compte = m_fixe.compte;
+    m_compte.sommets += m_fixe.compte.sommets;
+    m_compte.marques += m_fixe.compte.marques;
+    m_compte.textes += m_fixe.compte.textes;
     peintre.drawPixmap(QPointF(), m_fixe.image);
+}
+
+// The end of the last stroke of a layer, over the picture that holds the rest of it.
+void Canevas::PeindreSurFixe(Couche couche, std::span<const PointDessin> neufs) {
+    Dessin dessin;
+    dessin.points.assign(neufs.begin(), neufs.end());
+    dessin.traits.push_back(m_couches[couche].Liste().traits.back());
+    dessin.traits.back().premier = 0;
+    dessin.traits.back().nombre = static_cast<std::uint32_t>(neufs.size());
+    QPainter surImage(&m_fixe.image);
+    m_pinceau.Peindre(surImage, DessinPrepare(std::move(dessin)), m_fixe.vue, m_matrices[couche]);
 }
 
 void Canevas::PeindreElastique(QPainter& peintre) {

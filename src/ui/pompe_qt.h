@@ -3,7 +3,9 @@
 
 namespace tessarel {
 
-// From here on LaisserPasserEvenements() runs the pending events of the application.
+// From here on LaisserPasserEvenements() runs the pending events of the application: at each call what the
+// program itself has posted, repaints among it; keys, the mouse and timers too, but where two calls are
+// microseconds apart.
 void InstallerPompeQt();
 
 } // namespace tessarel

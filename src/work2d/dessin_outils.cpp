@@ -119,7 +119,6 @@ void DessinerFilm(Dessin& dessin, const Film2D& film, const PlaceFil& place) {
 }
 
 void DessinerDejaCoupe(Dessin& dessin, std::span<const PointDessin> points) {
-    if (points.size() < 2) return;
     Ouvrir(dessin, CouleurDejaCoupe, EpaisseurFine);
     for (const PointDessin& p : points) Ajouter(dessin, p);
 }
@@ -127,7 +126,7 @@ void DessinerDejaCoupe(Dessin& dessin, std::span<const PointDessin> points) {
 void DessinerSegmentEnCours(Dessin& dessin, PointDessin debut, PointDessin fil) {
     Segment(dessin, debut, fil, CouleurOmbre, EpaisseurOmbre);
     Segment(dessin, debut, fil, CouleurSegmentCoupe, EpaisseurSegmentCoupe);
-    Marquer(dessin, GenreMarque::Disque, fil, TailleFil, CouleurDejaCoupe);
+    Marquer(dessin, GenreMarque::PremierPoint, fil, TailleFil, CouleurDejaCoupe); // a ring, as in the film
 }
 
 void DessinerTrajetRetour(Dessin& dessin, std::span<const PointDessin> points) {

@@ -2,12 +2,14 @@
 #include "outils/boites.h"
 #include "outils/dossiers.h"
 #include "platform/fichiers.h"
+#include "platform/horloge.h"
 #include "platform/pompe.h"
 #include "ui/boites_qt.h"
 #include "ui/champ_nombre.h"
 #include "ui/choix_fichier.h"
 #include "ui/icones.h"
 #include "ui/libelles.h"
+#include "ui/place_libelle.h"
 #include "ui/pompe_qt.h"
 #include "ui/theme.h"
 
@@ -29,6 +31,24 @@ using namespace tessarel;
 using essais::BoitesEnregistrees;
 
 namespace {
+
+// Counts the events of one type that reach a widget.
+class GuetteurDeType : public QObject {
+public:
+    GuetteurDeType(QWidget& widget, QEvent::Type type, int& compte) : m_type(type), m_compte(compte) {
+        widget.installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject*, QEvent* evenement) override {
+        if (evenement->type() == m_type) ++m_compte;
+        return false;
+    }
+
+private:
+    QEvent::Type m_type;
+    int& m_compte;
+};
 
 // Presses `bouton` of the box that the next AfficherBoite shows, and keeps what it said.
 struct Repondeur {
@@ -130,6 +150,8 @@ private slots:
     void LesDefautsDUneTableSontDits();
 
     void LaPompeLaissePasserLesEvenements();
+    void LaPompeRegardeAChaqueEchangeDUnCable();
+    void DesMotsQuiChangentNeDerangentRien();
 };
 
 void EssaiKit::init() {
@@ -467,6 +489,69 @@ void EssaiKit::LaPompeLaissePasserLesEvenements() {
     LaisserPasserEvenements();
     QVERIFY(passe);
     InstallerPompe({});
+}
+
+void EssaiKit::LaPompeRegardeAChaqueEchangeDUnCable() {
+    Instant temps{0};
+    const SourceTemps horloge = InstallerHorloge([&temps] { return temps; });
+    InstallerPompeQt();
+    QTimer battement; // only a look at the window system makes it tick
+    int battements = 0;
+    int postes = 0;
+    connect(&battement, &QTimer::timeout, this, [&battements] { ++battements; });
+    battement.start(0);
+    for (int i = 0; i < 10; ++i) {
+        temps += std::chrono::milliseconds(1);
+        LaisserPasserEvenements();
+    }
+    QCOMPARE(battements, 10);
+    // Calls that are microseconds apart share a look; what the program posts passes at each.
+    battements = 0;
+    for (int i = 0; i < 100; ++i) {
+        temps += std::chrono::microseconds(10);
+        QMetaObject::invokeMethod(
+            this, [&postes] { ++postes; }, Qt::QueuedConnection);
+        LaisserPasserEvenements();
+        QCOMPARE(postes, i + 1);
+    }
+    QCOMPARE(battements, 20);
+    // A clock that is behind does not stop it.
+    temps = Instant(0);
+    LaisserPasserEvenements();
+    QCOMPARE(battements, 21);
+    InstallerPompe({});
+    InstallerHorloge(horloge);
+}
+
+void EssaiKit::DesMotsQuiChangentNeDerangentRien() {
+    QWidget fenetre;
+    auto* page = new QVBoxLayout(&fenetre);
+    auto* libelle = new QLabel;
+    libelle->setWordWrap(true);
+    auto* place = new PlaceLibelle(libelle);
+    page->addWidget(place);
+    page->addStretch(1);
+    fenetre.resize(240, 200);
+    fenetre.show();
+    place->Ecrire(QStringLiteral("segment 1999/30000"));
+    QApplication::processEvents();
+    const int hauteur = place->height();
+    QVERIFY(hauteur >= libelle->fontMetrics().height());
+    int demandes = 0;
+    GuetteurDeType guetteur(fenetre, QEvent::LayoutRequest, demandes);
+    for (int i = 2000; i < 2100; ++i) {
+        place->Ecrire(QStringLiteral("segment %1/30000").arg(i));
+        QApplication::processEvents();
+    }
+    QCOMPARE(demandes, 0);
+    QCOMPARE(libelle->text(), QStringLiteral("segment 2099/30000"));
+    // Words that need more lines get them.
+    place->Ecrire(QStringLiteral("des mots bien plus longs, qui ne tiennent pas dans la largeur de la page"));
+    QApplication::processEvents();
+    QVERIFY(demandes > 0);
+    QVERIFY(place->height() > hauteur);
+    QCOMPARE(libelle->size(), place->size());
+    QVERIFY(libelle->heightForWidth(libelle->width()) <= libelle->height());
 }
 
 QTEST_MAIN(EssaiKit)

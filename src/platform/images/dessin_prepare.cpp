@@ -104,4 +104,26 @@ void DessinPrepare::Remplacer(Dessin dessin) {
     for (const TexteDessin& texte : m_dessin.textes) m_textes.push_back(QString::fromStdString(texte.texte));
 }
 
+void DessinPrepare::Prolonger(std::span<const PointDessin> points) {
+    if (m_dessin.traits.empty()) return;
+    TraitDessin& trait = m_dessin.traits.back();
+    Index& index = m_index.back();
+    std::vector<PointDessin>& tous = m_dessin.points;
+    tous.resize(trait.premier + trait.nombre); // what was left out stands behind
+    for (const PointDessin& p : points) {
+        if (!EstFini(p)) continue;
+        const std::uint32_t segment = trait.nombre == 0 ? 0 : trait.nombre - 1;
+        tous.push_back(p);
+        ++trait.nombre;
+        const std::size_t rang = index.premiereBoite + segment / SegmentsParBoite;
+        if (rang == m_boites.size()) {
+            m_boites.push_back(CadreVide());
+            Etendre(m_boites[rang], tous[trait.premier + segment]);
+        }
+        Etendre(m_boites[rang], p);
+        Etendre(index.boite, p);
+        Etendre(m_cadre, p);
+    }
+}
+
 } // namespace tessarel

@@ -114,8 +114,10 @@ CadreDessin PeintreDessin::Projection::operator()(const CadreDessin& c) const {
 }
 
 void PeintreDessin::Peindre(QPainter& peintre, const DessinPrepare& dessin, const VueDessin& vue,
-                            const MatriceDessin& matrice) {
+                            const MatriceDessin& matrice, const QRectF& partie) {
     m_compte = {};
+    const QRectF ecran(0, 0, vue.largeur, vue.hauteur);
+    m_partie = partie.isNull() ? ecran : partie;
     const double e = vue.echelle;
     m_projection = {matrice.xx * e,  matrice.xy * e,  (matrice.dx - vue.xGauche) * e,
                     -matrice.yx * e, -matrice.yy * e, vue.hauteur - (matrice.dy - vue.yBas) * e};
@@ -124,7 +126,7 @@ void PeintreDessin::Peindre(QPainter& peintre, const DessinPrepare& dessin, cons
     const std::vector<TraitDessin>& traits = dessin.Liste().traits;
     for (std::size_t i = 0; i < traits.size(); ++i) {
         const double sort = traits[i].epaisseur + 4;
-        m_zone = QRectF(0, 0, vue.largeur, vue.hauteur).adjusted(-sort, -sort, sort, sort);
+        m_zone = m_partie.adjusted(-sort, -sort, sort, sort);
         if (traits[i].nombre == 0 || Disjoints(m_projection(dessin.Traits()[i].boite), EnCadre(m_zone)))
             continue;
         if (traits[i].genre == GenreTrait::Surface) {
@@ -345,6 +347,7 @@ void PeintreDessin::PeindreMarques(QPainter& peintre, const DessinPrepare& dessi
     const std::vector<MarqueDessin>& marques = dessin.Liste().marques;
     constexpr double sort = 16;
     m_zone = QRectF(0, 0, vue.largeur, vue.hauteur).adjusted(-sort, -sort, sort, sort);
+    const QRectF partie = m_partie.adjusted(-sort, -sort, sort, sort);
     unsigned presents = 0;
     for (const MarqueDessin& marque : marques) presents |= 1U << static_cast<unsigned>(marque.genre);
     // Points lie under arrows, arrows under first points, and all of them under what the hand takes hold of.
@@ -357,7 +360,9 @@ void PeintreDessin::PeindreMarques(QPainter& peintre, const DessinPrepare& dessi
             if (marque.genre != genre) continue;
             const QPointF p = m_projection(marque.ou);
             if (!m_zone.contains(p)) continue;
+            // Which of several marks is painted must not depend on the part that is painted again.
             if (pas > 0 && !PrendrePlace(p, pas)) continue;
+            if (!partie.contains(p)) continue;
             PeindreMarque(peintre, marque, p);
             ++m_compte.marques;
         }
@@ -396,6 +401,7 @@ void PeintreDessin::PeindreTextes(QPainter& peintre, const DessinPrepare& dessin
                          [&](const QRectF& autre) { return autre.intersects(place.adjusted(-3, 0, 3, 0)); });
         if (!libre) continue;
         m_placesTextes.push_back(place);
+        if (!place.adjusted(-2, -2, 2, 2).intersects(m_partie)) continue;
         peintre.setPen(EnQColor(texte.couleur));
         peintre.drawText(QPointF(place.x(), place.y() + mesure.ascent()), mots);
         ++m_compte.textes;

@@ -12,6 +12,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 class QPainter;
@@ -49,6 +50,9 @@ public:
     explicit DessinPrepare(Dessin dessin) { Remplacer(std::move(dessin)); }
     // Takes the list over; the old one's room is given back.
     void Remplacer(Dessin dessin);
+    // Lengthens the last stroke, at no more than the price of what is new. Its points must be the last of the
+    // list; without a stroke nothing happens.
+    void Prolonger(std::span<const PointDessin> points);
 
     [[nodiscard]] const Dessin& Liste() const { return m_dessin; }
     // Box of all strokes; XMax below XMin when there is none.
@@ -77,9 +81,10 @@ private:
 class PeintreDessin {
 public:
     // Strokes, then marks, then labels, in the order of the list, each place taken through `matrice`. The
-    // painter's state is restored.
+    // painter's state is restored. `partie`, in pixels of the view: all that has to be painted, the painter
+    // being clipped to it; nothing of it means the whole view.
     void Peindre(QPainter& peintre, const DessinPrepare& dessin, const VueDessin& vue,
-                 const MatriceDessin& matrice = {});
+                 const MatriceDessin& matrice = {}, const QRectF& partie = {});
     // Labels need fonts, hence an application object; without one they are left out.
     bool avecTextes = true;
 
@@ -133,7 +138,8 @@ private:
     std::vector<QPointF> m_tampon;
     std::vector<std::uint64_t> m_occupation; // one bit for each cell that a mark has taken
     std::vector<QRectF> m_placesTextes;
-    QRectF m_zone; // the view, enlarged by what a pen or a symbol sticks out
+    QRectF m_partie; // what has to be painted
+    QRectF m_zone;   // that, or the view, enlarged by what a pen or a symbol sticks out
 };
 
 } // namespace tessarel

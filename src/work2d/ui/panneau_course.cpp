@@ -4,6 +4,7 @@
 #include "app/texts/textes.h"
 #include "platform/nombres.h"
 #include "ui/boites_qt.h"
+#include "ui/place_libelle.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -92,7 +93,8 @@ QGroupBox* PanneauCourse::DisposerEtat() {
     police.setPointSizeF(police.pointSizeF() * 1.25);
     lblAvertissementDecoupe->setFont(police);
     lblAvertissementDecoupe->setWordWrap(true);
-    pose->addWidget(lblAvertissementDecoupe);
+    m_avertissement = new PlaceLibelle(lblAvertissementDecoupe);
+    pose->addWidget(m_avertissement);
     progrbarChauffe = Barre("progrbarChauffe");
     progrbarDecoupe = Barre("progrbarDecoupe");
     pose->addWidget(progrbarChauffe);
@@ -170,7 +172,7 @@ void PanneauCourse::Commencer(const Depart& depart) {
         hscChauffePendantDecoupe->setValue(static_cast<int>(std::lround(depart.chauffe * PasParPourcent)));
         DemanderChauffe();
     }
-    lblAvertissementDecoupe->clear();
+    m_avertissement->Ecrire({});
     PermettreStop(true);
 }
 
@@ -186,10 +188,10 @@ void PanneauCourse::PermettreStop(bool permis) {
 void PanneauCourse::MontrerPhase(PhaseDecoupe phase) {
     switch (phase) {
     case PhaseDecoupe::Origine:
-        lblAvertissementDecoupe->setText(TexteAffiche(TextesEtats(EtatOrigine)));
+        m_avertissement->Ecrire(TexteAffiche(TextesEtats(EtatOrigine)));
         break;
     case PhaseDecoupe::Chauffe:
-        lblAvertissementDecoupe->setText(TexteAffiche(TextesMessages(MessagesMiseEnTemperature)));
+        m_avertissement->Ecrire(TexteAffiche(TextesMessages(MessagesMiseEnTemperature)));
         progrbarChauffe->setValue(0);
         progrbarChauffe->show();
         break;
@@ -208,15 +210,15 @@ void PanneauCourse::MontrerPhase(PhaseDecoupe phase) {
 
 void PanneauCourse::MontrerAvancee(const AvanceeDecoupe& avancee) {
     if (avancee.phase == PhaseDecoupe::Chauffe) {
-        lblAvertissementDecoupe->setText(TexteAffiche(TextesMessages(MessagesAvancee) +
-                                                      std::to_string(avancee.secondesRestantes) + "/" +
-                                                      std::to_string(avancee.secondesChauffe)));
+        m_avertissement->Ecrire(TexteAffiche(TextesMessages(MessagesAvancee) +
+                                             std::to_string(avancee.secondesRestantes) + "/" +
+                                             std::to_string(avancee.secondesChauffe)));
         progrbarChauffe->setValue(static_cast<int>(avancee.fraction * BarrePleine));
         return;
     }
-    lblAvertissementDecoupe->setText(TexteAffiche(TitresMessages(MessagesAvancee) +
-                                                  std::to_string(avancee.NumSalveCourante) + "/" +
-                                                  std::to_string(avancee.sommets)));
+    m_avertissement->Ecrire(TexteAffiche(TitresMessages(MessagesAvancee) +
+                                         std::to_string(avancee.NumSalveCourante) + "/" +
+                                         std::to_string(avancee.sommets)));
     // Frame k goes to vertex k; the wire stands on the first one.
     const double faits = avancee.NumSalveCourante - 2 + avancee.fraction;
     progrbarDecoupe->setValue(static_cast<int>(faits / (avancee.sommets - 1) * BarrePleine));
@@ -226,7 +228,7 @@ void PanneauCourse::MontrerArret(std::int32_t numero) {
     PermettreStop(false);
     progrbarChauffe->hide();
     optChauffePendantDecoupe->hide();
-    lblAvertissementDecoupe->setText(TexteAffiche(TextesEtats(EtatArrete)));
+    m_avertissement->Ecrire(TexteAffiche(TextesEtats(EtatArrete)));
     lblNumSegmentStop->setText(TexteAffiche(TitresMessages(MessagesArret) + std::to_string(numero)));
     pctRepriseDecoupe->show();
     cmdRepriseDecoupe->setFocus();
@@ -238,7 +240,7 @@ void PanneauCourse::Finir() {
     optChauffePendantDecoupe->hide();
     progrbarChauffe->hide();
     progrbarDecoupe->hide();
-    lblAvertissementDecoupe->clear();
+    m_avertissement->Ecrire({});
     lblNumSegmentStop->clear();
 }
 

@@ -16,6 +16,8 @@ class QVBoxLayout;
 
 namespace tessarel {
 
+class PlaceLibelle;
+
 // Shows and asks, drives nothing: its signals come while the loop of the run lets events go, so whoever hears
 // them sets flags, but for those of the stop panel, which come when the run has ended.
 class PanneauCourse : public QWidget {
@@ -53,6 +55,7 @@ private:
     void PermettreStop(bool permis);
 
     GenreDecoupe m_genre = GenreDecoupe::Decoupe;
+    PlaceLibelle* m_avertissement = nullptr; // around the label of what the run does
     QLabel* lblAvertissementDecoupe = nullptr;
     QProgressBar* progrbarChauffe = nullptr;
     QProgressBar* progrbarDecoupe = nullptr;

@@ -12,10 +12,6 @@ namespace {
 
 // The eye sees no more; the link has the rest of the time.
 constexpr Instant EntreDeuxTraces = std::chrono::milliseconds(40);
-// The layer of what is cut costs as much as it has points.
-constexpr Instant EntreDeuxCouches = std::chrono::milliseconds(500);
-// Until so many are waiting it need not be renewed.
-constexpr std::size_t PointsEnAttente = 64;
 
 } // namespace
 
@@ -42,14 +38,13 @@ bool TraceCourse::Avancer(const AvanceeDecoupe& avancee) {
     // Frame k goes from vertex k - 1 to vertex k, counted from 1.
     const auto passes =
         std::min(static_cast<std::size_t>(std::max(avancee.NumSalveCourante - 1, 0)), m_chemin.size());
-    for (; m_passes < passes; ++m_passes) m_faits.push_back(m_chemin[m_passes]);
-    if (m_faits.size() - m_montres > PointsEnAttente && maintenant - m_derniereCouche >= EntreDeuxCouches) {
-        m_derniereCouche = maintenant;
-        MontrerFaits();
+    if (passes > m_passes) {
+        const auto neufs = std::span(m_chemin).subspan(m_passes, passes - m_passes);
+        m_faits.insert(m_faits.end(), neufs.begin(), neufs.end());
+        m_passes = passes;
+        m_canevas.Prolonger(Canevas::CoucheSelection, neufs);
     }
     Dessin dessin;
-    const std::size_t premier = m_montres == 0 ? 0 : m_montres - 1;
-    DessinerDejaCoupe(dessin, std::span(m_faits).subspan(std::min(premier, m_faits.size())));
     DessinerSegmentEnCours(dessin, {avancee.XDebut, avancee.YDebut}, {avancee.X1, avancee.Y1});
     m_canevas.Montrer(Canevas::CoucheOutil, std::move(dessin));
     return true;
@@ -57,16 +52,15 @@ bool TraceCourse::Avancer(const AvanceeDecoupe& avancee) {
 
 void TraceCourse::MontrerFaits() {
     Dessin dessin;
-    DessinerDejaCoupe(dessin, m_faits);
     if (m_retour) DessinerTrajetRetour(dessin, m_chemin);
-    m_montres = m_faits.size();
+    DessinerDejaCoupe(dessin, m_faits); // the last one: it grows
     m_canevas.Montrer(Canevas::CoucheSelection, std::move(dessin));
 }
 
 void TraceCourse::Effacer() {
     m_chemin.clear();
     m_faits.clear();
-    m_passes = m_montres = 0;
+    m_passes = 0;
     for (const Canevas::Couche couche : {Canevas::CoucheSelection, Canevas::CoucheOutil})
         m_canevas.Montrer(couche, {});
 }

@@ -12,8 +12,8 @@ namespace tessarel {
 
 class Canevas;
 
-// Draws over the path, which is left as it is: what is already cut in one layer, renewed now and then, and in
-// another what came since, the segment under way and the wire. A step costs no more than that.
+// Draws over the path, which is left as it is: what is already cut in one layer, which grows, and in another
+// the segment under way and the wire. A step paints again what has moved, and no more.
 class TraceCourse {
 public:
     explicit TraceCourse(Canevas& canevas) : m_canevas(canevas) {}
@@ -34,11 +34,9 @@ private:
     std::vector<PointDessin> m_chemin; // of this run
     std::vector<PointDessin> m_faits;  // vertices that the wire has passed, of all runs since the start
     std::size_t m_passes = 0;          // of this run's vertices
-    std::size_t m_montres = 0;         // of m_faits, in the layer of what is cut
     bool m_retour = false;
     bool m_enDecoupe = false;
     Instant m_dernierTrace{};
-    Instant m_derniereCouche{};
 };
 
 } // namespace tessarel
