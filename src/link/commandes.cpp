@@ -129,6 +129,7 @@ FinChauffe CouperChauffe(const SuiviChauffe& suivi) {
 }
 
 void SignalerChauffeNonCoupee() {
+    CoupureEnSuspens = true;
     AfficherCritique(TextesDoubles(RangeeChauffeNonCoupee, 1) + "\r\n" +
                          Texte(TexteProgramme::FilPeutEtreChaud),
                      TextesDoubles(RangeeChauffeNonCoupee, 2));

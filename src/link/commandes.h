@@ -62,7 +62,7 @@ FinChauffe EnvoyerChauffe(std::uint8_t valeur, const SuiviChauffe& suivi = {});
 // only heard after that and ends in a critical box that says that the wire may still be hot.
 FinChauffe CouperChauffe(const SuiviChauffe& suivi = {});
 
-// The critical box that says that the wire may still be hot.
+// The critical box that says that the wire may still be hot; the next refresh will try again.
 void SignalerChauffeNonCoupee();
 
 // Called when a program ends, whatever way: where the wire may be hot, CouperChauffe for at most five

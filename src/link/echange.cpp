@@ -28,7 +28,7 @@ void NoterChauffePossible(const Tampon& commande) {
 
 void NoterChauffeCoupee(const Tampon& commande, const Tampon& reponse) {
     if (commande[1] == CommandeChauffe && commande[2] == ChauffeCoupee && reponse[2] == 0 && reponse[4] == 0)
-        chauffePeutEtreActive = false;
+        chauffePeutEtreActive = CoupureEnSuspens = false;
 }
 
 // What a reply that never came reads as.

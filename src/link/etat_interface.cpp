@@ -9,11 +9,13 @@ namespace tessarel {
 std::int32_t DernierResultatZelko = ResultatZelkoSucces;
 bool InterfaceConnectee = false;
 bool MouvementsActifs = false;
+bool CoupureEnSuspens = false;
 
 void ReinitialiserEtatInterface() {
     DernierResultatZelko = ResultatZelkoSucces;
     InterfaceConnectee = false;
     MouvementsActifs = false;
+    CoupureEnSuspens = false;
 }
 
 EtatBibliotheque TesterBibliothequeZelko(const std::vector<std::string>& dossiers) {

@@ -15,6 +15,9 @@ extern bool InterfaceConnectee;
 // A memory of the box holds the current machine unchanged and was loaded to RAM: only then may anything move
 // or heat.
 extern bool MouvementsActifs;
+// A heat-off was given up before the box confirmed it, and the user told. The next refresh that finds the box
+// makes up for it. Cleared by the confirmation alone.
+extern bool CoupureEnSuspens;
 
 // Back to "no interface", the state before any test.
 void ReinitialiserEtatInterface();

@@ -4,6 +4,7 @@
 #include "app/settings/gestion_ini.h"
 #include "app/texts/textes_programme.h"
 #include "echange.h"
+#include "marche.h"
 #include "memoires.h"
 #include "platform/dialogue.h"
 
@@ -20,6 +21,13 @@ void RechargerMachine() {
                         Texte(TexteProgramme::MachineParDefautChargeeTitre));
     EcrireMachineUtilisee(parDefaut);
     ChargerMachine(parDefaut);
+}
+
+// The box was given up with the wire hot, and is there again: it has gone on by itself meanwhile.
+void RattraperCoupure() {
+    if (CoupureEnSuspens && SecourirMarche())
+        AfficherInformation(Texte(TexteProgramme::ChauffeRattrapee),
+                            Texte(TexteProgramme::ChauffeRattrapeeTitre));
 }
 
 // The number of the memory that was made active, -1 for none.
@@ -45,6 +53,7 @@ EtatLiaison RafraichirUsb(const std::string& mode) {
     etat.NomMachine = TableINI.Nom;
     MouvementsActifs = false;
     if (!TesterInterface()) return etat;
+    RattraperCoupure();
     for (int i = 0; i < NombreMemoires; ++i) LireMemoireZelko(MemoiresZelko[static_cast<std::size_t>(i)], i);
     etat.Memoire = ChargerMemoireQuiCorrespond();
     MouvementsActifs = etat.Memoire >= 0;

@@ -21,7 +21,9 @@ struct EtatLiaison {
 
 // Called by the refresh buttons, on entering a window of work and before a cut. Reloads TableINI (the default
 // machine, told, where that fails), reads the three memories into MemoiresZelko and loads the first that
-// agrees with the machine into RAM. Sets InterfaceConnectee and MouvementsActifs. Never changes a memory.
+// agrees with the machine into RAM. A box that had been given up while the wire might be hot is stopped and
+// the heat switched off before all else, with a box of the outcome. Sets InterfaceConnectee and
+// MouvementsActifs. Never changes a memory.
 EtatLiaison RafraichirUsb(const std::string& mode);
 
 } // namespace tessarel

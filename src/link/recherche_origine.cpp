@@ -6,6 +6,7 @@
 #include "link/echange.h"
 #include "platform/dialogue.h"
 #include "platform/nombres.h"
+#include "platform/pompe.h"
 
 #include <algorithm>
 #include <array>
@@ -83,18 +84,21 @@ bool Terminer(Recherche& r, FinOrigine fin, int rangee = 0) {
     return false;
 }
 
+// A stop was heard, and is not to cut short what puts the box back in order.
+bool Annuler(Recherche& r) {
+    if (r.suivi.demandes != nullptr)
+        r.suivi.demandes->StopDemande = r.suivi.demandes->FinOrigineDemandee = false;
+    return Terminer(r, FinOrigine::Annulee, r.rangeeAnnulation);
+}
+
 // False, with the search ended and told, after a move that must not be followed by another.
 bool MouvementUtilisable(Recherche& r, const ResultatMouvement& mouvement) {
     switch (mouvement.marche.fin) {
     case FinMarche::Finie:
-        if (mouvement.marche.statut.ArretBoutonStop)
-            return Terminer(r, FinOrigine::Annulee, r.rangeeAnnulation);
-        return true;
+        return !mouvement.marche.statut.ArretBoutonStop || Annuler(r);
     case FinMarche::StopAvantMouvement:
     case FinMarche::Arretee:
-        if (r.suivi.demandes != nullptr)
-            r.suivi.demandes->StopDemande = r.suivi.demandes->FinOrigineDemandee = false;
-        return Terminer(r, FinOrigine::Annulee, r.rangeeAnnulation);
+        return Annuler(r);
     case FinMarche::SansRaison:
     case FinMarche::SansDuree:
     case FinMarche::Abandonnee:
@@ -125,10 +129,28 @@ bool AllerAuxInterrupteurs(Recherche& r) {
     }
 }
 
+// The loops as two replies in a row tell them: nothing on the wire tells a spoilt reply from a sound one, and
+// an axis that counts as released by mistake would put the whole cut beside its place. False when the user
+// gives up.
+bool LireBoucles(Recherche& r, StatutZelko& statut) {
+    for (bool deja = false;; deja = true) {
+        if (!EnvoyerJusquaReponse(CommandeStatut, 0, r.suivi)) return Annuler(r);
+        const StatutZelko avant = statut;
+        statut = LireStatut(TamponEchange);
+        if (deja && statut.OrigineOuverte == avant.OrigineOuverte &&
+            statut.FinCourseOuverte == avant.FinCourseOuverte)
+            return true;
+        LaisserPasserEvenements();
+        if (r.suivi.demandes != nullptr && r.suivi.demandes->ArretVoulu()) return Annuler(r);
+    }
+}
+
 // Out of the switch of one axis, in homing mode. The axis is done when its steps have closed the loop; one
 // that finds the loop closed was not on its switch. False when the search ends here.
 bool DegagerAxe(Recherche& r, std::size_t axe) {
-    if (!InterrupteurOrigineOuvert()) return true;
+    StatutZelko boucles;
+    if (!LireBoucles(r, boucles)) return false;
+    if (!boucles.OrigineOuverte) return true;
     const double parMm = PasParMillimetre(r.table, axe, axe);
     const double recul = (r.table.CourseX > CourseDesGrandes ? GrandRecul : PetitRecul) * parMm;
     Distances pas = {};
@@ -136,12 +158,13 @@ bool DegagerAxe(Recherche& r, std::size_t axe) {
     for (double faits = 0; faits <= ReculMaxi * parMm; faits += recul) {
         ResultatMouvement mouvement = Bouger(r, pas);
         if (!MouvementUtilisable(r, mouvement)) return false;
-        const StatutZelko& statut = mouvement.marche.statut;
-        if (statut.FinCourseOuverte || statut.FinCourseOuverteEnMouvement) {
+        const StatutZelko statut = mouvement.marche.statut;
+        if (!LireBoucles(r, boucles)) return false;
+        if (boucles.FinCourseOuverte || statut.FinCourseOuverteEnMouvement) {
             AnnoncerCause(CauseFin::FinCourseOuverte);
             return Terminer(r, FinOrigine::FinDeCourse);
         }
-        if (!statut.FinDeListe || statut.OrigineOuverte) continue;
+        if (!statut.FinDeListe || boucles.OrigineOuverte) continue;
         mouvement = Bouger(r, pas); // one more, so that the switch is left for good
         if (!MouvementUtilisable(r, mouvement)) return false;
         r.distances[axe] = 0;
@@ -156,8 +179,7 @@ bool ToutDegage(const Recherche& r) {
 
 // The mode must be known: in homing mode no switch would stop the next travel. False when the user gives up.
 bool ChangerMode(Recherche& r, std::uint8_t mode) {
-    if (EnvoyerJusquaReponse(CommandeOrigine, mode, r.suivi)) return true;
-    return Terminer(r, FinOrigine::Annulee, r.rangeeAnnulation);
+    return EnvoyerJusquaReponse(CommandeOrigine, mode, r.suivi) || Annuler(r);
 }
 
 // One travel to the switches and out of them. False when the search ends here.
@@ -176,14 +198,14 @@ FinOrigine ChercherDirection(Recherche& r) {
     int essais = 0;
     while (!ToutDegage(r)) {
         const Distances avant = r.distances;
-        bool continuer = UnPassage(r);
-        const bool ouverte = continuer && InterrupteurOrigineOuvert();
+        StatutZelko boucles;
+        bool continuer = UnPassage(r) && LireBoucles(r, boucles);
         if (continuer)
             continuer = ChangerMode(r, ModeUsuel);
         else
             EnvoyerJusquaReponse(CommandeOrigine, ModeUsuel, r.suivi); // what ended it has been told already
         if (!continuer) return r.fin;
-        if (!ouverte && r.distances != avant) continue;
+        if (!boucles.OrigineOuverte && r.distances != avant) continue;
         if (++essais == Essais) {
             Terminer(r, FinOrigine::EncoreOuverts, RangeeEchec);
             return r.fin;

@@ -18,7 +18,9 @@ namespace tessarel::essais {
 class BoiteDesFenetres {
 public:
     // By default a run ends after a few polls.
-    explicit BoiteDesFenetres(Instant parEchange = std::chrono::milliseconds(20)) {
+    explicit BoiteDesFenetres(Instant parEchange = std::chrono::milliseconds(20),
+                              std::size_t capaciteFile = simulateur::CapaciteFileUsuelle)
+        : m_virtuelle("(Defaut)", capaciteFile) {
         m_virtuelle.boite.EcrireMemoires({});
         m_virtuelle.PasParEchange = parEchange;
         m_virtuelle.AvantEchange = [this](const Tampon& tampon) { commandes.push_back(tampon); };
@@ -34,6 +36,8 @@ public:
 
     // The machine lies in memory 1, as a save leaves it, and runs.
     void Memoriser(const TableMachine& table) { m_virtuelle.PreparerMachine(TableMachine(table)); }
+    // Time that each exchange takes from here on.
+    void FixerParEchange(Instant duree) { m_virtuelle.PasParEchange = duree; }
     // How often a command went out, with its first argument.
     [[nodiscard]] std::size_t Compter(std::uint8_t code, std::uint8_t argument) const {
         return static_cast<std::size_t>(std::ranges::count_if(

@@ -1,8 +1,7 @@
 // A cut on the virtual machine from the 2D window, button by button: heating, cutting, stop, resume, return,
 // giving up, a box that is lost, a window that is closed meanwhile. After each the box's own record says that
 // the wire is cold, or the user was told.
-#include "fenetres/boite_des_fenetres.h"
-#include "fenetres/poste_2d.h"
+#include "fenetres/coupe_2d.h"
 #include "fenetres/poste_machine.h"
 #include "ui/theme.h"
 #include "work2d/ui/trace_course.h"
@@ -21,77 +20,6 @@
 
 using namespace tessarel;
 using namespace tessarel::essais;
-
-namespace {
-
-// The rectangle in its block, the cut page open, the machine in memory 1 of the box.
-struct Coupe {
-    explicit Coupe(Langue langue = Langue::Francais)
-        : poste(langue), virtuelle(std::chrono::milliseconds(200)) {
-        virtuelle.Memoriser(TableINI);
-        poste.OuvrirFenetre();
-        poste.Deposer({poste.Fichier("rectangle.txt", RectangleTexte)});
-        for (const char* regle : {"chkCentrer_1", "chkCentrer_2"}) poste.Cliquer<QCheckBox>(regle);
-        poste.Cliquer<QPushButton>("cmdDecouper");
-    }
-    void Lancer() { poste.Cliquer<QPushButton>("cmdLancerLaDecoupeTS2D"); }
-    [[nodiscard]] QString Avertissement() const {
-        return poste.Trouver<QLabel>("lblAvertissementDecoupe").text();
-    }
-    // Runs `geste` once, when the words of the run first begin so.
-    void Quand(const QString& debut, std::function<void()> geste) {
-        fait = false;
-        virtuelle.SurPompe = [this, debut, geste = std::move(geste)] {
-            if (fait || !Avertissement().startsWith(debut)) return;
-            fait = true;
-            geste();
-        };
-    }
-    void StopQuand(const QString& debut) {
-        Quand(debut, [this] { poste.Cliquer<QPushButton>("cmdSTOP"); });
-    }
-    void Arreter() {
-        StopQuand(QStringLiteral("Découpe segment n°4/"));
-        Lancer();
-        virtuelle.SurPompe = {};
-    }
-    [[nodiscard]] bool FilFroid() const {
-        const auto etat = virtuelle.boite->Etat();
-        return etat.pwmCommande == 0 && etat.file == simulateur::EtatFile::Repos;
-    }
-    [[nodiscard]] bool Dit(IconeBoite icone) const {
-        return std::ranges::any_of(poste.boites.boites, [icone](const Boite& b) { return b.icone == icone; });
-    }
-    // Idle: the launch button is there, Stop is not.
-    [[nodiscard]] bool AuRepos() const {
-        return poste.Trouver<QPushButton>("cmdLancerLaDecoupeTS2D").isVisible() &&
-               poste.Trouver<QPushButton>("cmdAnnulerDecoupe").isEnabled() &&
-               !poste.Trouver<QPushButton>("cmdSTOP").isEnabled() &&
-               poste.Trouver<QToolButton>("cmdOuvrirFichierTS2D").isEnabled() &&
-               !poste.fenetre->Course().enCours && !poste.fenetre->Course().arretee;
-    }
-    // Steps that the cut shown asks of each axis, both ways together, as the box counts them.
-    [[nodiscard]] std::array<std::uint64_t, 4> PasVoulus() const {
-        const TrajetPas trajet =
-            CalculerTrajetPas(poste.fenetre->DecoupeMontree().SequenceDecoupe.Points, TableINI);
-        std::array<std::uint64_t, 4> pas = {};
-        const auto ecart = [](std::int32_t a, std::int32_t b) {
-            return static_cast<std::uint64_t>(std::abs(std::int64_t{a} - b));
-        };
-        for (std::size_t i = 2; i < trajet.bout1.size(); ++i) {
-            pas[AxeX1] += ecart(trajet.bout1[i].X, trajet.bout1[i - 1].X);
-            pas[AxeY1] += ecart(trajet.bout1[i].Y, trajet.bout1[i - 1].Y);
-            pas[AxeX2] += ecart(trajet.bout2[i].X, trajet.bout2[i - 1].X);
-            pas[AxeY2] += ecart(trajet.bout2[i].Y, trajet.bout2[i - 1].Y);
-        }
-        return pas;
-    }
-    Poste2D poste;
-    BoiteDesFenetres virtuelle;
-    bool fait = false;
-};
-
-} // namespace
 
 class EssaiCourse2D : public QObject {
     Q_OBJECT

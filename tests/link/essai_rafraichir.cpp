@@ -3,6 +3,7 @@
 #include "boite_memoires.h"
 
 #include "app/settings/gestion_ini.h"
+#include "link/commandes.h"
 #include "link/rafraichir.h"
 #include "outils/dossiers.h"
 
@@ -78,6 +79,44 @@ TEST_F(Rafraichir, LaPremiereMemoireEgaleGagne) {
     Ranger(2, TableINI);
     EXPECT_EQ(RafraichirUsb("TS2D").Memoire, 1);
     EXPECT_EQ(envois.size(), 7U); // nothing is sent for the third
+}
+
+TEST_F(Rafraichir, UneChauffeAbandonneeEstCoupeeDesQueLaBoiteEstRetrouvee) {
+    Ranger(0, TableINI);
+    m_boite.pwm = 127;
+    m_boite.chauffe = true;
+    SignalerChauffeNonCoupee();
+    branchee = 0;
+    RafraichirUsb("TS2D"); // nothing is there yet
+    EXPECT_TRUE(envois.empty());
+    branchee = ZelkoBranchee;
+    m_boite.panne = essais::Panne::CommandePerdue;
+    m_boite.echangeEnPanne = 2; // the first heat-off
+    EXPECT_EQ(RafraichirUsb("TS2D").Liaison, LiaisonZelko::MouvementsPermis);
+    EXPECT_FALSE(m_boite.chauffe);
+    ASSERT_EQ(envois.size(), 11U);
+    const std::string lettres = {char(envois[0][1]), char(envois[1][1]), char(envois[2][1]),
+                                 char(envois[3][1])};
+    EXPECT_EQ(lettres, "SPSP"); // before any memory is read
+    ASSERT_EQ(boites.boites.size(), 2U);
+    EXPECT_EQ(boites.boites[1].titre, "Interface retrouvée");
+    // Once.
+    RafraichirUsb("TS2D");
+    EXPECT_EQ(envois.size(), 18U);
+    EXPECT_EQ(boites.boites.size(), 2U);
+}
+
+TEST_F(Rafraichir, UneChauffeQuiNeSeCoupeToujoursPasEstRedite) {
+    MouvementsActifs = true;
+    EnvoyerChauffe(127); // so the wire may be hot
+    SignalerChauffeNonCoupee();
+    m_boite.panne = essais::Panne::Debranchee;
+    m_boite.echangeEnPanne = m_boite.recus + 1;
+    RafraichirUsb("TS2D");
+    EXPECT_GE(boites.boites.size(), 2U);
+    EXPECT_EQ(boites.boites[1].texte, boites.boites[0].texte);
+    EXPECT_EQ(boites.boites[1].icone, IconeBoite::Critique);
+    EXPECT_TRUE(CoupureEnSuspens);
 }
 
 TEST_F(Rafraichir, MemeNomEtParametresDifferentsNActivePas) {

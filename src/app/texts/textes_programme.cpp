@@ -178,6 +178,12 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
      "Coupez l'alimentation de la chauffe à la main avant d'approcher du fil.",
      "The interface has not confirmed that the heating is off: the wire may still be hot.\r\n"
      "Switch the power of the heating off by hand before you go near the wire."},
+    {TexteProgramme::ChauffeRattrapee,
+     "L'interface répond à nouveau : les mouvements sont arrêtés et la chauffe est coupée.\r\n"
+     "Le fil n'est peut-être plus où il était.",
+     "The interface answers again: the moves are stopped and the heating is off.\r\n"
+     "The wire may no longer be where it was."},
+    {TexteProgramme::ChauffeRattrapeeTitre, "Interface retrouvée", "Interface found again"},
     {TexteProgramme::VitesseIncorrecte, "Valeur de Vitesse incorrecte", "Incorrect speed"},
     {TexteProgramme::ErreurPositionStop, "Erreur dans le calcul de la position du Stop => " COURRIEL,
      "Error in the calculation of the stop position => " COURRIEL},

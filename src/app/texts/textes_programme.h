@@ -81,6 +81,8 @@ enum class TexteProgramme {
 
     // The interface box
     FilPeutEtreChaud,
+    ChauffeRattrapee,
+    ChauffeRattrapeeTitre,
     VitesseIncorrecte,
     ErreurPositionStop,
     MarcheSansRaison,
