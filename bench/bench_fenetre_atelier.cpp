@@ -6,7 +6,6 @@
 #include "machine/table_machine.h"
 #include "ui/canevas.h"
 #include "work2d/edition.h"
-#include "work2d/historique2d.h"
 #include "work2d/index_points.h"
 #include "work2d/selection.h"
 #include "work2d/ui/atelier_2d.h"
@@ -145,29 +144,6 @@ void SurvolerGribouillis100000(benchmark::State& etat) {
     }
 }
 
-// A hundred deeds on all of 100 000 points, and all the way back.
-void CentPasEtRetour(benchmark::State& etat) {
-    std::size_t octets = 0;
-    for (auto _ : etat) {
-        std::vector<Sequence> sequences = Contours(100000);
-        ToutSelectionner(sequences, true);
-        Historique2D historique;
-        Bloc bloc;
-        float coeff = 1;
-        for (int i = 0; i < 100; ++i) {
-            const Transformation t = Rotation({490, 255}, 1 + i % 5);
-            MemoriserTransformation(historique, sequences, bloc, coeff);
-            TransformerSelection(sequences, t);
-            AnnoncerTransformation(historique, t);
-        }
-        MemoriserTransformation(historique, sequences, bloc, coeff);
-        octets = MemoireHistorique(historique);
-        while (PeutAnnuler(historique))
-            cmdUndoTS2D(historique, SensHistorique::Arriere, sequences, bloc, coeff);
-    }
-    etat.counters["Mo"] = static_cast<double>(octets) / (1 << 20);
-}
-
 // From the click on the button to the painted tab.
 void OuvrirOngletDecoupe32000(benchmark::State& etat) {
     const std::string dossier = std::filesystem::temp_directory_path() / "tessarel-banc";
@@ -215,7 +191,6 @@ BENCHMARK(ChercherContours100000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(ChercherGribouillis100000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(SurvolerGribouillis100000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(Indexer100000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(CentPasEtRetour)->Unit(benchmark::kMillisecond);
 BENCHMARK(OuvrirOngletDecoupe32000)->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -1,6 +1,7 @@
 // What every user of a path needs: its box, its reverse, several of them end to end.
 #include "points.h"
 
+#include "paths/bornes.h"
 #include "platform/nombres.h"
 
 #include <algorithm>
@@ -8,24 +9,34 @@
 
 namespace tessarel {
 
-void CalculerBornesSequence(Sequence& sequence) {
-    sequence.XMin = sequence.XMax = sequence.YMin = sequence.YMax = 0;
-    if (!sequence.Points.empty()) {
-        const PointProfil& premier = sequence.Points.front();
-        sequence.XMin = sequence.XMax = EnSimple(premier.X);
-        sequence.YMin = sequence.YMax = EnSimple(premier.Y);
+Sequence BornesDesPoints(std::span<const PointProfil> points) {
+    Sequence bornes;
+    if (!points.empty()) {
+        bornes.XMin = bornes.XMax = EnSimple(points.front().X);
+        bornes.YMin = bornes.YMax = EnSimple(points.front().Y);
     }
     // The box is held in 32 bits, so what an unrounded coordinate leaves in it is its rounded value.
-    for (const PointProfil& p : sequence.Points) {
+    for (const PointProfil& p : points) {
         const float x = EnSimple(p.X);
         const float y = EnSimple(p.Y);
-        if (x < sequence.XMin) sequence.XMin = x;
-        if (x > sequence.XMax) sequence.XMax = x;
-        if (y < sequence.YMin) sequence.YMin = y;
-        if (y > sequence.YMax) sequence.YMax = y;
+        if (x < bornes.XMin) bornes.XMin = x;
+        if (x > bornes.XMax) bornes.XMax = x;
+        if (y < bornes.YMin) bornes.YMin = y;
+        if (y > bornes.YMax) bornes.YMax = y;
     }
-    sequence.Largeur = std::abs(sequence.XMax - sequence.XMin);
-    sequence.Hauteur = std::abs(sequence.YMax - sequence.YMin);
+    bornes.Largeur = std::abs(bornes.XMax - bornes.XMin);
+    bornes.Hauteur = std::abs(bornes.YMax - bornes.YMin);
+    return bornes;
+}
+
+void CalculerBornesSequence(Sequence& sequence) {
+    const Sequence bornes = BornesDesPoints(sequence.Points);
+    sequence.XMin = bornes.XMin;
+    sequence.XMax = bornes.XMax;
+    sequence.YMin = bornes.YMin;
+    sequence.YMax = bornes.YMax;
+    sequence.Largeur = bornes.Largeur;
+    sequence.Hauteur = bornes.Hauteur;
 }
 
 void InverserSequence(Sequence& sequence) {

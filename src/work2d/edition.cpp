@@ -70,6 +70,7 @@ bool CouperSequence(std::vector<Sequence>& sequences, std::size_t rang, std::siz
     const auto coupure = debut.Points.begin() + static_cast<std::ptrdiff_t>(sommet);
     fin.Points.assign(coupure, debut.Points.end());
     debut.Points.erase(coupure + 1, debut.Points.end());
+    debut.Points.shrink_to_fit(); // each piece would keep the room of the whole
     CalculerBornesSequence(debut);
     CalculerBornesSequence(fin);
     sequences.insert(sequences.begin() + static_cast<std::ptrdiff_t>(rang) + 1, std::move(fin));

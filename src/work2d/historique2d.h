@@ -1,8 +1,7 @@
 // Undo and redo of 2D work: a stack of states that share what did not change between them.
 //
-// A state holds every path of the project. The points of a path that two states have alike stand in memory
-// once. A path that one transformation turned into the next is held as that transformation: played again on
-// the same points it gives the same bits, so a hundred moves of a large project cost a few copies of it.
+// A state holds every path of the project, and costs what the deed changed: a transformed path is held as the
+// transformation, a path with one point more as its two halves and that point (work2d/points_memorises.h).
 //
 //    PileTransformations   [ 1 ][ 2 ][ 3 ][ 4 ]
 //                                      ^ NbTransf = 3: what TableauSequences shows
@@ -11,39 +10,14 @@
 // deed then makes is taken up at the next call, or when the user goes back from it.
 #pragma once
 
-#include "paths/points.h"
-#include "work2d/placement.h"
-#include "work2d/transformations.h"
+#include "work2d/etat_memorise.h"
 
 #include <cstddef>
-#include <memory>
 #include <optional>
 #include <span>
 #include <vector>
 
 namespace tessarel {
-
-// Points that states share. Either held whole, or as another's with a transformation on top.
-struct PointsPartages {
-    std::vector<PointDessin> places;  // X and Y, where all other fields are those of a new point
-    std::vector<PointProfil> entiers; // whole records, where they are not
-    std::shared_ptr<const PointsPartages> source;
-    Transformation transformation;
-    std::size_t nombre = 0;
-    int profondeur = 0; // transformations to play from the nearest points held whole
-};
-
-struct SequenceMemorisee {
-    std::shared_ptr<const PointsPartages> points;
-    Sequence bornes; // the rest of the record; its Points are empty
-};
-
-// What undo gives back: the paths, and the block that they are placed in.
-struct EtatTransformations {
-    std::vector<SequenceMemorisee> sequences;
-    Bloc bloc;
-    float coeffTransf = 1;
-};
 
 struct Historique2D {
     std::vector<EtatTransformations> PileTransformations;
@@ -54,14 +28,11 @@ struct Historique2D {
     std::optional<Transformation> derniere; // what made it, when one transformation of the selection did
 };
 
-// Longest chain of transformations before points are held whole again: what going back may have to replay.
-inline constexpr int ProfondeurMaxi = 16;
-
 // Keeps the state before a deed; states after NbTransf are dropped. To be called before anything changes.
 void MemoriserTransformation(Historique2D& historique, std::span<const Sequence> TableauSequences, Bloc bloc,
                              float coeffTransf);
-// Says that the deed just done was this transformation of the selected paths. A word on how to hold it in
-// less room: it is checked, never trusted.
+// Says what the deed just done made of the paths that it changed, or of those it copied. A word on how to
+// hold it in less room: it is checked, never trusted. Insertions, cuts and removals need no word.
 void AnnoncerTransformation(Historique2D& historique, const Transformation& transformation);
 
 // After a deed that may have changed nothing: the kept state is no step then, and is taken off again; the

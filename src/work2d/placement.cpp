@@ -7,6 +7,7 @@
 #include "work2d/affichage.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace tessarel {
 
@@ -27,10 +28,9 @@ bool OntDesPoints(const std::vector<Sequence>& sequences) {
                        [](const Sequence& s) { return !s.Points.empty(); });
 }
 
-template <typename Deplacer>
-void DeplacerPoints(std::vector<Sequence>& sequences, Deplacer deplacer) {
+void Appliquer(std::vector<Sequence>& sequences, const Transformation& transformation) {
     for (Sequence& sequence : sequences) {
-        for (PointProfil& point : sequence.Points) deplacer(point);
+        TransformerPoints(sequence.Points, transformation);
         CalculerBornesSequence(sequence);
     }
 }
@@ -45,27 +45,35 @@ double CalculerFacteur(const Etendue& cadre, double placeX, double placeY) {
     return 0;
 }
 
-void AjusterTaille(std::vector<Sequence>& sequences, const Bloc& bloc, const ReglesPlacement& regles,
-                   float& coeffTransf) {
+// The scaling that fits the paths into the block; nothing after a box that says why.
+std::optional<Transformation> CalculerAjustement(const std::vector<Sequence>& sequences, const Bloc& bloc,
+                                                 const ReglesPlacement& regles) {
     const Etendue cadre = CadrageSequences(sequences);
     if (cadre.XMax <= cadre.XMin && cadre.YMax <= cadre.YMin) {
         AfficherExclamation(Texte(TexteProgramme::PasDeCoefficient), "");
-        return;
+        return std::nullopt;
     }
-    const double facteur =
+    Transformation ajustement;
+    ajustement.genre = GenreTransformation::Ajustement;
+    ajustement.fixe = {cadre.XMin, cadre.YMin};
+    ajustement.facteur =
         CalculerFacteur(cadre, bloc.BlocX - 2.0 * regles.margeX, bloc.BlocY - 2.0 * regles.margeY);
-    if (!(facteur > 0)) { // would crush the paths to a point or turn them over
+    if (!(ajustement.facteur > 0)) { // would crush the paths to a point or turn them over
         AfficherExclamation(Texte(TexteProgramme::MargesPlusGrandesQueLeBloc),
                             Texte(TexteProgramme::TitreOperationImpossible));
-        return;
+        return std::nullopt;
     }
-    const double x0 = cadre.XMin;
-    const double y0 = cadre.YMin;
-    DeplacerPoints(sequences, [=](PointProfil& p) {
-        p.X = (p.X - x0) * facteur + x0;
-        p.Y = (p.Y - y0) * facteur + y0;
-    });
-    coeffTransf = EnSimple(coeffTransf * facteur);
+    return ajustement;
+}
+
+// The move that brings the middle of the paths to that of the block, on the axes that are to be centred.
+Transformation CalculerCentrage(const std::vector<Sequence>& sequences, const Bloc& bloc,
+                                const ReglesPlacement& regles, const TableMachine& table) {
+    const Etendue cadre = CadrageSequences(sequences);
+    const double milieuX = (static_cast<double>(cadre.XMin) + cadre.XMax) / 2;
+    const double milieuY = (static_cast<double>(cadre.YMin) + cadre.YMax) / 2;
+    return Deplacement(regles.centrerX ? bloc.BlocX / 2.0 + table.MargeOrigineBloc - milieuX : 0,
+                       regles.centrerY ? bloc.BlocY / 2.0 - milieuY : 0);
 }
 
 } // namespace
@@ -93,31 +101,23 @@ Bloc LimiterBlocOuvert(Bloc bloc, const TableMachine& table) {
     return bloc;
 }
 
-std::optional<PointDessin> AjusterAuBloc(std::vector<Sequence>& sequences, const Bloc& bloc,
-                                         const ReglesPlacement& regles, const TableMachine& table,
-                                         float& coeffTransf) {
-    PointDessin deplacement{0, 0};
-    if (!OntDesPoints(sequences)) return deplacement;
-    if (regles.ajuster)
-        AjusterTaille(sequences, bloc, regles, coeffTransf);
-    else
+Transformation AjusterAuBloc(std::vector<Sequence>& sequences, const Bloc& bloc,
+                             const ReglesPlacement& regles, const TableMachine& table, float& coeffTransf) {
+    Transformation faite;
+    if (!OntDesPoints(sequences)) return faite;
+    if (!regles.ajuster) {
         coeffTransf = 1;
-    if (regles.centrerX) {
-        const Etendue cadre = CadrageSequences(sequences);
-        const double milieu = (static_cast<double>(cadre.XMin) + cadre.XMax) / 2;
-        const double pas = bloc.BlocX / 2.0 + table.MargeOrigineBloc - milieu;
-        DeplacerPoints(sequences, [=](PointProfil& p) { p.X += pas; });
-        deplacement.X = pas;
+    } else if (const auto ajustement = CalculerAjustement(sequences, bloc, regles)) {
+        faite = *ajustement;
+        Appliquer(sequences, faite);
+        coeffTransf = EnSimple(coeffTransf * faite.facteur);
     }
-    if (regles.centrerY) {
-        const Etendue cadre = CadrageSequences(sequences);
-        const double milieu = (static_cast<double>(cadre.YMin) + cadre.YMax) / 2;
-        const double pas = bloc.BlocY / 2.0 - milieu;
-        DeplacerPoints(sequences, [=](PointProfil& p) { p.Y += pas; });
-        deplacement.Y = pas;
-    }
-    if (regles.ajuster) return std::nullopt;
-    return deplacement;
+    if (!regles.centrerX && !regles.centrerY) return faite;
+    const Transformation centrage = CalculerCentrage(sequences, bloc, regles, table);
+    Appliquer(sequences, centrage);
+    faite.dx = centrage.dx;
+    faite.dy = centrage.dy;
+    return faite;
 }
 
 BlocPlace BlocAuto(std::vector<Sequence>& sequences, const ReglesPlacement& regles, const TableMachine& table,

@@ -3,9 +3,8 @@
 
 #include "machine/table_machine.h"
 #include "paths/points.h"
-#include "platform/dessin.h"
+#include "work2d/transformations.h"
 
-#include <optional>
 #include <vector>
 
 namespace tessarel {
@@ -32,14 +31,13 @@ Bloc LimiterBlocOuvert(Bloc bloc, const TableMachine& table);
 
 // Applies the rules in their order; `coeffTransf` is the running product of the factors, 1 again when the
 // paths are not scaled. Two sizes of zero show the told box and leave the paths.
-// Gives the move (mm) that the rules made of every point; nothing when they scaled.
-std::optional<PointDessin> AjusterAuBloc(std::vector<Sequence>& sequences, const Bloc& bloc,
-                                         const ReglesPlacement& regles, const TableMachine& table,
-                                         float& coeffTransf);
+// Gives what the rules made of every point, a move or a fit; without effect where they left the paths.
+Transformation AjusterAuBloc(std::vector<Sequence>& sequences, const Bloc& bloc,
+                             const ReglesPlacement& regles, const TableMachine& table, float& coeffTransf);
 // Sizes the block on the paths (at least 10 mm each way), then places them by the rules.
 struct BlocPlace {
     Bloc bloc;
-    std::optional<PointDessin> deplacement; // as AjusterAuBloc gives it
+    Transformation transformation; // as AjusterAuBloc gives it
 };
 BlocPlace BlocAuto(std::vector<Sequence>& sequences, const ReglesPlacement& regles, const TableMachine& table,
                    float& coeffTransf);

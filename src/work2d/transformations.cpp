@@ -74,6 +74,8 @@ bool SansEffet(const Transformation& transformation) {
         return transformation.facteurX == 1 && transformation.facteurY == 1;
     case GenreTransformation::Rotation:
         return transformation.angle == 0;
+    case GenreTransformation::Ajustement:
+        return transformation.facteur == 1 && transformation.dx == 0 && transformation.dy == 0;
     case GenreTransformation::Miroir:
     case GenreTransformation::Sens:
         break;
@@ -97,6 +99,9 @@ PointDessin Transformer(PointDessin p, const Transformation& t) {
     case GenreTransformation::Miroir:
         return t.axe == AxeMiroir::X ? PointDessin{2 * t.fixe.X - p.X, p.Y}
                                      : PointDessin{p.X, 2 * t.fixe.Y - p.Y};
+    case GenreTransformation::Ajustement:
+        return {(p.X - t.fixe.X) * t.facteur + t.fixe.X + t.dx,
+                (p.Y - t.fixe.Y) * t.facteur + t.fixe.Y + t.dy};
     case GenreTransformation::Sens:
         break;
     }
@@ -149,6 +154,12 @@ void TransformerPoints(std::span<PointProfil> points, const Transformation& t) {
         break;
     case GenreTransformation::Sens:
         std::reverse(points.begin(), points.end());
+        break;
+    case GenreTransformation::Ajustement:
+        PourChacun(points, [&](PointProfil& p) {
+            p.X = (p.X - t.fixe.X) * t.facteur + t.fixe.X + t.dx;
+            p.Y = (p.Y - t.fixe.Y) * t.facteur + t.fixe.Y + t.dy;
+        });
         break;
     }
 }

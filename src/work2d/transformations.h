@@ -19,7 +19,9 @@
 
 namespace tessarel {
 
-enum class GenreTransformation : std::uint8_t { Deplacement, Echelle, Rotation, Miroir, Sens };
+// A scale is a hand's, with its two factors in 32 bits; a fit is what the block asks for: one factor in 64
+// bits, then a move.
+enum class GenreTransformation : std::uint8_t { Deplacement, Echelle, Rotation, Miroir, Sens, Ajustement };
 
 // The coordinate that a mirror turns over.
 enum class AxeMiroir : int { X = 0, Y = 1 };
@@ -27,17 +29,18 @@ enum class AxeMiroir : int { X = 0, Y = 1 };
 // One deed on every point of the paths it is meant for. Only the fields of its kind count.
 struct Transformation {
     GenreTransformation genre = GenreTransformation::Deplacement;
-    double dx = 0; // mm, of a move
+    double dx = 0; // mm, of a move, and of a fit after its scaling
     double dy = 0;
-    PointDessin fixe;   // mm: fixed point of a scale, centre of a rotation, middle of a mirror
+    PointDessin fixe;   // mm: fixed point of a scale or a fit, centre of a rotation, middle of a mirror
     float facteurX = 1; // of a scale; a negative one turns over
     float facteurY = 1;
-    double angle = 0; // radians of a rotation, counterclockwise
+    double facteur = 1; // of a fit, both axes
+    double angle = 0;   // radians of a rotation, counterclockwise
     AxeMiroir axe = AxeMiroir::X;
     friend bool operator==(const Transformation& a, const Transformation& b) {
         return a.genre == b.genre && a.dx == b.dx && a.dy == b.dy && a.fixe.X == b.fixe.X &&
                a.fixe.Y == b.fixe.Y && a.facteurX == b.facteurX && a.facteurY == b.facteurY &&
-               a.angle == b.angle && a.axe == b.axe;
+               a.facteur == b.facteur && a.angle == b.angle && a.axe == b.axe;
     }
 };
 

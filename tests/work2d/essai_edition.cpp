@@ -82,6 +82,14 @@ TEST(Coupure, SepareAuSommetQueLesDeuxGardent) {
     EXPECT_EQ(Lieux(s[2]), (std::vector<Lieu>{{0, 0}, {10, 5}}));
 }
 
+TEST(Coupure, UnMorceauCoupeNeGardeQueSaPlace) {
+    std::vector<Sequence> s(1);
+    s[0].Points.resize(1000);
+    EXPECT_TRUE(CouperSequence(s, 0, 3));
+    EXPECT_LT(s[0].Points.capacity(), 100U);
+    EXPECT_LT(s[1].Points.capacity(), 1100U);
+}
+
 TEST(Coupure, RefuseLePremierEtLeDernierPoint) {
     ChargerMessages(Langue::Francais);
     BoitesEnregistrees boites;

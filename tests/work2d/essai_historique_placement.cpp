@@ -28,26 +28,10 @@ TEST(HistoriquePlacement, CentBlocsAvecCentrageSurCentMillePointsTiennentEn64Mo)
     for (int i = 0; i < 100; ++i) {
         MemoriserTransformation(historique, sequences, bloc, coeff);
         bloc.BlocX += 0.1F * static_cast<float>(i + 1);
-        const auto pas = AjusterAuBloc(sequences, bloc, regles, table, coeff);
-        ASSERT_TRUE(pas.has_value());
-        Transformation deplacement;
-        deplacement.dx = pas->X;
-        deplacement.dy = pas->Y;
-        AnnoncerTransformation(historique, deplacement);
+        AnnoncerTransformation(historique, AjusterAuBloc(sequences, bloc, regles, table, coeff));
     }
     EXPECT_LT(MemoireHistorique(historique), std::size_t{64} << 20U);
     while (PeutAnnuler(historique))
         ASSERT_TRUE(cmdUndoTS2D(historique, SensHistorique::Arriere, sequences, bloc, coeff));
     EXPECT_EQ(sequences, depart);
-}
-
-TEST(HistoriquePlacement, UneMiseALEchelleNEstPasUnDeplacement) {
-    std::vector<Sequence> sequences(1);
-    sequences[0].Points.resize(2);
-    sequences[0].Points[1].X = 10;
-    sequences[0].Points[1].Y = 10;
-    CalculerBornesSequence(sequences[0]);
-    float coeff = 1;
-    EXPECT_FALSE(
-        AjusterAuBloc(sequences, {300, 200}, {true, true, true, 5, 5}, MachineEssai(), coeff).has_value());
 }

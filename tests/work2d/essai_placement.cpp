@@ -179,3 +179,44 @@ TEST(BlocAuto, SansTraceLeCadreEstLaTable) {
     EXPECT_EQ(bloc.BlocX, 300);
     EXPECT_EQ(bloc.BlocY, 200);
 }
+
+// What is given back makes the same bits of the paths as they were.
+TEST(Placement, LaTransformationRendueRefaitLePlacementBitABit) {
+    const auto place = [](const ReglesPlacement& regles) {
+        std::vector<Sequence> sequences = {Rectangle(1.0 / 3, 2.0 / 7, 39.7, 11.3),
+                                           Rectangle(-7.1, 0.01, 3, 1.0 / 9)};
+        std::vector<Sequence> refaites = sequences;
+        float coeff = 1;
+        const Transformation t = AjusterAuBloc(sequences, {171.3F, 83.9F}, regles, MachineEssai(), coeff);
+        for (Sequence& s : refaites) {
+            TransformerPoints(s.Points, t);
+            CalculerBornesSequence(s);
+        }
+        EXPECT_EQ(refaites, sequences);
+        return t;
+    };
+    const Transformation rien = place({});
+    EXPECT_TRUE(SansEffet(rien));
+    EXPECT_EQ(place({false, true, false, 5, 5}).dy, 0);
+    EXPECT_EQ(place({false, false, true, 5, 5}).dx, 0);
+    EXPECT_EQ(place({false, true, true, 5, 5}).genre, GenreTransformation::Deplacement);
+    const Transformation ajuste = place({true, true, true, 5, 5});
+    EXPECT_EQ(ajuste.genre, GenreTransformation::Ajustement);
+    // The framing is 32 bits wide: 161.3 over 47.133..., and 73.9 over 11.57... is more.
+    EXPECT_NEAR(ajuste.facteur, 161.3 / (1.0 / 3 + 39.7 + 7.1), 1e-5);
+    EXPECT_NE(ajuste.facteur, static_cast<double>(static_cast<float>(ajuste.facteur)));
+    EXPECT_EQ(place({true, false, false, 5, 5}).dx, 0);
+}
+
+TEST(Placement, SansMiseALEchellePossibleSeulLeCentrageEstRendu) {
+    BoitesEnregistrees boites;
+    std::vector<Sequence> sequences = {Rectangle(0, 0, 40, 10)};
+    float coeff = 1;
+    const Transformation t =
+        AjusterAuBloc(sequences, {8, 100}, {true, true, false, 5, 5}, MachineEssai(), coeff);
+    EXPECT_EQ(boites.boites.size(), 1U); // the margins are wider than the block
+    EXPECT_EQ(t.genre, GenreTransformation::Deplacement);
+    EXPECT_EQ(t.dx, -11); // 8 / 2 + 5 - 20
+    EXPECT_EQ(sequences[0].XMin, -11);
+    EXPECT_EQ(coeff, 1);
+}

@@ -251,3 +251,27 @@ TEST(Transformations, SansEffetEstCeQuiNeBougeRien) {
     EXPECT_FALSE(SansEffet(echelle));
     EXPECT_FALSE(SansEffet(Miroir(Sequence(), AxeMiroir::X)));
 }
+
+TEST(Transformations, UnAjustementMetALEchellePuisDeplace) {
+    Transformation t;
+    t.genre = GenreTransformation::Ajustement;
+    EXPECT_TRUE(SansEffet(t));
+    t.fixe = {10, 20};
+    t.facteur = 2.5;
+    t.dx = 3;
+    EXPECT_FALSE(SansEffet(t));
+    // (12 - 10) * 2.5 + 10 + 3; (24 - 20) * 2.5 + 20
+    EXPECT_EQ(Transformer({12, 24}, t).X, 18);
+    EXPECT_EQ(Transformer({12, 24}, t).Y, 30);
+    const MatriceDessin m = EnMatrice(t);
+    EXPECT_EQ(m.xx, 2.5);
+    EXPECT_EQ(m.yy, 2.5);
+    EXPECT_EQ(m.dx, -12); // (0 - 10) * 2.5 + 10 + 3
+    EXPECT_EQ(m.dy, -30); // (0 - 20) * 2.5 + 20
+    // A factor that 32 bits can't hold counts whole.
+    t.fixe = {0, 0};
+    t.dx = 0;
+    t.facteur = 1 + 0x1p-50;
+    EXPECT_FALSE(SansEffet(t));
+    EXPECT_EQ(Transformer({1, 0}, t).X, 1 + 0x1p-50);
+}

@@ -130,11 +130,7 @@ void Atelier2D::Memoriser(std::size_t avant) {
                             m_espace.coeffTransf);
 }
 
-void Atelier2D::AnnoncerDeplacement(const std::optional<PointDessin>& deplacement) {
-    if (!deplacement) return;
-    Transformation transformation;
-    transformation.dx = deplacement->X;
-    transformation.dy = deplacement->Y;
+void Atelier2D::Annoncer(const Transformation& transformation) {
     AnnoncerTransformation(m_historique, transformation);
 }
 
@@ -160,7 +156,7 @@ void Atelier2D::Transformer(const Transformation& transformation) {
     if (!TransformationPossible(m_boite, transformation)) return;
     Memoriser();
     TransformerSelection(m_espace.TableauSequences, transformation);
-    AnnoncerTransformation(m_historique, transformation);
+    Annoncer(transformation);
     Changement();
 }
 
@@ -168,6 +164,7 @@ void Atelier2D::Dupliquer() {
     if (m_selections == 0) return;
     Memoriser();
     DupliquerSelection(m_espace.TableauSequences);
+    Annoncer(Deplacement(EcartCopie, EcartCopie));
     Changement();
 }
 

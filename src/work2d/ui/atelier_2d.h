@@ -44,9 +44,8 @@ public:
     // stood there already.
     void Memoriser();
     void Memoriser(std::size_t avant);
-    // Says that the deed just done moved every path by this much, where it did: undo then holds it in less
-    // room.
-    void AnnoncerDeplacement(const std::optional<PointDessin>& deplacement);
+    // Says what the deed just done made of every path: undo then holds it in less room.
+    void Annoncer(const Transformation& transformation);
     // Takes the last kept state back when nothing differs from it.
     void OublierSiInchange();
 

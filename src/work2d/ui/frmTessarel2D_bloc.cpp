@@ -45,7 +45,7 @@ void frmTessarel2D::AjusterBlocAuto() {
     m_atelier->Memoriser();
     const BlocPlace place = BlocAuto(m_espace.TableauSequences, Regles(), TableINI, m_espace.coeffTransf);
     m_espace.bloc = place.bloc;
-    m_atelier->AnnoncerDeplacement(place.deplacement);
+    m_atelier->Annoncer(place.transformation);
     m_atelier->OublierSiInchange();
     MontrerTout();
     if (chkZoomProjet->isChecked()) {
@@ -65,7 +65,7 @@ void frmTessarel2D::ChangerRegle() {
 }
 
 void frmTessarel2D::Replacer() {
-    m_atelier->AnnoncerDeplacement(
+    m_atelier->Annoncer(
         AjusterAuBloc(m_espace.TableauSequences, m_espace.bloc, Regles(), TableINI, m_espace.coeffTransf));
     m_atelier->OublierSiInchange();
     MontrerTout();

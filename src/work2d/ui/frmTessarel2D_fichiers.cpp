@@ -167,7 +167,8 @@ bool frmTessarel2D::OuvrirFichier(const std::string& chemin) {
         RetenirFichierRecent(chemin);
         // What it brings stands behind what was there, and can be undone.
         m_atelier->Memoriser(avant);
-        AjusterAuBloc(m_espace.TableauSequences, m_espace.bloc, Regles(), TableINI, m_espace.coeffTransf);
+        m_atelier->Annoncer(AjusterAuBloc(m_espace.TableauSequences, m_espace.bloc, Regles(), TableINI,
+                                          m_espace.coeffTransf));
     }
     m_fichiersImportes.push_back(chemin);
     MontrerOptionsDecoupe();
