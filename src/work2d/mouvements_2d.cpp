@@ -1,7 +1,8 @@
-// Moves and heat by hand in 2D.
+// Moves by hand in 2D, and the question before the heat.
 #include "work2d/mouvements_2d.h"
 
 #include "app/texts/textes.h"
+#include "app/texts/textes_programme.h"
 #include "link/commandes.h"
 #include "platform/dialogue.h"
 
@@ -16,6 +17,8 @@ constexpr int RangeeAnnulee = 25;
 constexpr int RangeeQuestionRangement = 28;
 constexpr int RangeeRangementFait = 29;
 // Rows of the messages.
+constexpr int MessagesChauffeSurOff = 106;
+constexpr int MessagesSansInterface = 108;
 constexpr int MessagesChauffeSurManu = 171;
 constexpr int MessagesSansRetourAutomatique = 197;
 
@@ -51,16 +54,33 @@ FinProcedure DepuisMouvement(const ResultatMouvement& mouvement, const SuiviMarc
     return FinProcedure::Echouee;
 }
 
-// The checks that both procedures share, and the question.
-FinProcedure DemanderProcedure(int rangeeQuestion) {
-    if (VerifierLiaison() != AvantDecoupe::Permise) return FinProcedure::Refusee;
+void Refuser(int rangee) {
+    AfficherExclamation(TextesMessages(rangee), TitresMessages(rangee));
+}
+
+// What every procedure needs before its question: the link, and a machine that finds its origin by itself.
+FinProcedure PermettreProcedure() {
+    const AvantDecoupe liaison = VerifierLiaison();
+    if (liaison == AvantDecoupe::OuvrirParametrage) return FinProcedure::OuvrirParametrage;
+    if (liaison != AvantDecoupe::Permise) return FinProcedure::Refusee;
     if (!TableINI.OrigineAutomatique) {
-        AfficherExclamation(TextesMessages(MessagesSansRetourAutomatique),
-                            TitresMessages(MessagesSansRetourAutomatique));
+        Refuser(MessagesSansRetourAutomatique);
         return FinProcedure::Refusee;
     }
-    const bool oui = DemanderOuiNon(TextesDoubles(rangeeQuestion, 1), TextesDoubles(rangeeQuestion, 2));
-    return oui ? FinProcedure::Faite : FinProcedure::Declinee;
+    return FinProcedure::Faite;
+}
+
+// The user's Yes, and a cold wire.
+FinProcedure Confirmer(const std::string& question, const std::string& titre,
+                       const RefroidirManuel& refroidir) {
+    if (!DemanderOuiNon(question, titre)) return FinProcedure::Declinee;
+    return !refroidir || refroidir() ? FinProcedure::Faite : FinProcedure::Refusee;
+}
+
+FinProcedure DemanderProcedure(int rangeeQuestion, const RefroidirManuel& refroidir) {
+    const FinProcedure permise = PermettreProcedure();
+    if (permise != FinProcedure::Faite) return permise;
+    return Confirmer(TextesDoubles(rangeeQuestion, 1), TextesDoubles(rangeeQuestion, 2), refroidir);
 }
 
 FinProcedure AllerAuRangement(const TableMachine& table, const SuiviMarche& suivi) {
@@ -86,39 +106,57 @@ FinProcedure MiseAOrigine(const TableMachine& table, AxesOrigine axes, const Sui
     return DepuisMouvement(AllerDesInterrupteursALOrigine(table, axes, suivi), suivi);
 }
 
-FinProcedure RetourOrigine(const SuiviMarche& suivi) {
-    const FinProcedure permise = DemanderProcedure(RangeeQuestionRetour);
+FinProcedure RetourOrigine(const SuiviMarche& suivi, const RefroidirManuel& refroidir) {
+    const FinProcedure permise = DemanderProcedure(RangeeQuestionRetour, refroidir);
     if (permise != FinProcedure::Faite) return permise;
     return Conclure(MiseAOrigine(TableINI, AxesOrigine::XetY, suivi), RangeeRetourFait);
 }
 
-FinProcedure RangerLePortique(const SuiviMarche& suivi) {
-    FinProcedure fin = DemanderProcedure(RangeeQuestionRangement);
+FinProcedure RangerLePortique(const SuiviMarche& suivi, const RefroidirManuel& refroidir) {
+    FinProcedure fin = DemanderProcedure(RangeeQuestionRangement, refroidir);
     if (fin != FinProcedure::Faite) return fin;
     fin = MiseAOrigine(TableINI, AxesOrigine::XetY, suivi);
     if (fin == FinProcedure::Faite) fin = AllerAuRangement(TableINI, suivi);
     return Conclure(fin, RangeeRangementFait);
 }
 
-bool DeplacerManuellement(const TableMachine& table, const std::array<double, 4>& mm, float vitesse,
-                          const SuiviMarche& suivi) {
+FinProcedure OrigineDUnAxe(AxesOrigine axe, const SuiviMarche& suivi, const RefroidirManuel& refroidir) {
+    FinProcedure fin = PermettreProcedure();
+    if (fin != FinProcedure::Faite) return fin;
+    if (VerifierInterrupteurs(TableINI) != StatutSucces) return FinProcedure::Refusee;
+    const std::string nom = axe == AxesOrigine::X ? "X" : "Y";
+    fin = Confirmer(TexteRempli(TexteProgramme::OrigineAxeQuestion, {nom}),
+                    TextesDoubles(RangeeQuestionRetour, 2), refroidir);
+    if (fin == FinProcedure::Faite) fin = MiseAOrigine(TableINI, axe, suivi);
+    if (fin == FinProcedure::Faite)
+        AfficherInformation(TexteRempli(TexteProgramme::OrigineAxeFaite, {nom}),
+                            Texte(TexteProgramme::OrigineAxeFaiteTitre));
+    return fin;
+}
+
+FinProcedure DeplacerManuellement(const TableMachine& table, const std::array<double, 4>& mm, float vitesse,
+                                  const SuiviMarche& suivi, const RefroidirManuel& refroidir) {
     const std::optional<VitessesSalve> vitesses = VitessesManuelles(vitesse, table);
-    if (!vitesses) return false;
+    if (!vitesses) return FinProcedure::Refusee;
     PasAxes pas = {};
     for (const Axe axe : {AxeX1, AxeY1, AxeX2, AxeY2}) pas[axe] = PasDeMillimetres(table, axe, mm[axe]);
     const ResultatMouvement mouvement = FaireMouvement(table, pas, *vitesses, suivi);
+    if (mouvement.cause == CauseFin::FinDeListe) return FinProcedure::Faite;
+    if (mouvement.cause == CauseFin::StopEcran || mouvement.cause == CauseFin::StopEcranMoteursOff)
+        return FinProcedure::Annulee;
+    if (refroidir) refroidir();
     if (!AnnoncerCause(mouvement.cause)) AnnoncerMarcheAnormale(mouvement.marche.fin);
-    return true;
+    return FinProcedure::Echouee;
 }
 
 bool ChauffeManuellePermise() {
-    if (!DemanderStatut().ChauffeSurManu) return true;
+    const StatutZelko statut = DemanderStatut();
+    if (!statut.Recu || statut.ChauffeSurOff) {
+        Refuser(statut.Recu ? MessagesChauffeSurOff : MessagesSansInterface);
+        return false;
+    }
+    if (!statut.ChauffeSurManu) return true;
     return DemanderOuiNon(TextesMessages(MessagesChauffeSurManu), TitresMessages(MessagesChauffeSurManu));
-}
-
-bool AllumerChauffeManuelle(float chauffe, const SuiviMarche& suivi) {
-    const auto interrompre = [&suivi] { return suivi.demandes != nullptr && suivi.demandes->ArretVoulu(); };
-    return EnvoyerChauffe(ValeurPWM(chauffe), {interrompre, suivi.Prevenir}) == FinChauffe::Confirmee;
 }
 
 } // namespace tessarel

@@ -38,6 +38,8 @@ public:
     void Memoriser(const TableMachine& table) { m_virtuelle.PreparerMachine(TableMachine(table)); }
     // Time that each exchange takes from here on.
     void FixerParEchange(Instant duree) { m_virtuelle.PasParEchange = duree; }
+    // Lets the driven clock go on.
+    void Attendre(Instant duree) { m_virtuelle.Attendre(duree); }
     // How often a command went out, with its first argument.
     [[nodiscard]] std::size_t Compter(std::uint8_t code, std::uint8_t argument) const {
         return static_cast<std::size_t>(std::ranges::count_if(

@@ -1,9 +1,8 @@
 // The moves by hand of the 2D window on the virtual machine: arrows held and let go, the rest position, the
 // storage position, Stop, a box that is lost, a window that is closed meanwhile.
-#include "fenetres/boite_des_fenetres.h"
 #include "fenetres/images.h"
-#include "fenetres/poste_2d.h"
 #include "fenetres/poste_machine.h"
+#include "fenetres/poste_manuel.h"
 #include "link/liste_salves.h"
 #include "ui/theme.h"
 #include "work2d/ui/libelles_2d.h"
@@ -16,40 +15,6 @@
 
 using namespace tessarel;
 using namespace tessarel::essais;
-
-namespace {
-
-struct Manuel {
-    explicit Manuel(const char* machine = "(Defaut)", Langue langue = Langue::Francais) : poste(langue) {
-        ChargerMachine(machine);
-        virtuelle.Memoriser(TableINI);
-        poste.OuvrirFenetre();
-        poste.Cliquer<QToolButton>("cmdDeplacementsManuels");
-    }
-    [[nodiscard]] simulateur::PositionPas Position() const { return virtuelle.boite->Position(); }
-    // Holds an arrow for so many turns of the pump.
-    void Tenir(const char* nom, int tours) {
-        auto& fleche = poste.Trouver<QToolButton>(nom);
-        int n = 0;
-        virtuelle.SurPompe = [&] {
-            if (++n == tours) QTest::mouseRelease(&fleche, Qt::LeftButton);
-        };
-        QTest::mousePress(&fleche, Qt::LeftButton);
-        virtuelle.SurPompe = {};
-        if (n < tours) QTest::mouseRelease(&fleche, Qt::LeftButton);
-    }
-    [[nodiscard]] bool AuRepos() const {
-        return !poste.fenetre->Course().enCours &&
-               !poste.Trouver<QPushButton>("optAnnulerHome").isEnabled() &&
-               poste.Trouver<QToolButton>("cmdOuvrirFichierTS2D").isEnabled() &&
-               poste.Trouver<QToolButton>("optGoManuel_4").isEnabled() &&
-               virtuelle.boite->Etat().file == simulateur::EtatFile::Repos;
-    }
-    Poste2D poste;
-    BoiteDesFenetres virtuelle;
-};
-
-} // namespace
 
 class EssaiManuel2D : public QObject {
     Q_OBJECT

@@ -1,5 +1,6 @@
 // A 2D cut on the virtual machine: what is checked, what is said, where the wire is at each end, resume and
 // return; and every exchange of it broken in turn.
+#include "link/chauffe_manuelle.h"
 #include "work2d/assemblage.h"
 #include "work2d/decoupe_interface.h"
 #include "work2d/mouvements_2d.h"
@@ -519,16 +520,17 @@ TEST(Mouvements2D, SansOrigineAutomatiqueLeRetourEstRefuse) {
 TEST(Mouvements2D, FlechesEtChauffe) {
     Poste poste;
     const SuiviMarche suivi = SuiviDeMarche(poste.suivi);
-    EXPECT_TRUE(DeplacerManuellement(TableINI, {1, 0, 1, 0}, 4, suivi));
+    EXPECT_EQ(DeplacerManuellement(TableINI, {1, 0, 1, 0}, 4, suivi), FinProcedure::Faite);
     EXPECT_EQ(poste.Position(), (PasAxes{320, 0, 320, 0}));
-    EXPECT_FALSE(DeplacerManuellement(TableINI, {1, 0, 1, 0}, 400, suivi));
+    EXPECT_EQ(DeplacerManuellement(TableINI, {1, 0, 1, 0}, 400, suivi), FinProcedure::Refusee);
     EXPECT_TRUE(ChauffeManuellePermise());
-    EXPECT_TRUE(AllumerChauffeManuelle(50, suivi));
+    ChauffeManuelle fil;
+    EXPECT_TRUE(AllumerFil(fil, 50, {}));
     EXPECT_EQ(poste.boite.boite.Etat().pwmCommande, 127); // 50 x 2.55 falls just short of the half
     poste.boite.boite.FixerCommutateurs({.chauffeManu = true});
     poste.boites.reponses = {ReponseBoite::Non};
     EXPECT_FALSE(ChauffeManuellePermise());
     EXPECT_EQ(poste.DernierTitre(), "Attention à la position des interrupteurs");
-    EXPECT_TRUE(RefroidirFil(suivi));
+    EXPECT_TRUE(EteindreFil(fil, {}));
     poste.FilFroidOuDit();
 }

@@ -210,6 +210,19 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
     {TexteProgramme::TableHorsFormat, "La valeur de %1 ne tient pas dans une mémoire de l'interface.",
      "The value of %1 does not fit a memory of the interface."},
 
+    // Moves and heat by hand in 2D
+    {TexteProgramme::OrigineAxeQuestion, "Chercher l'origine de l'axe %1 ?",
+     "Find the origin of the %1 axis?"},
+    {TexteProgramme::OrigineAxeFaite, "L'axe %1 est à son origine.", "The %1 axis is at its origin."},
+    {TexteProgramme::OrigineAxeFaiteTitre, "Origine trouvée", "Origin found"},
+    {TexteProgramme::SigneFilChaud, "FIL CHAUD", "HOT WIRE"},
+    {TexteProgramme::SigneFilIncertain, "FIL PEUT-ÊTRE CHAUD", "WIRE MAY BE HOT"},
+    {TexteProgramme::ChauffeManuelleAtteinte, "Fil à température", "Wire at temperature"},
+    {TexteProgramme::ChauffeManuelleCoupeeParMachine, "La machine a coupé la chauffe",
+     "The machine has switched the heating off"},
+    {TexteProgramme::ChauffeManuelleCoupeeEnfin, "Chauffe coupée, l'interface le confirme",
+     "Heating off, the interface confirms it"},
+
     // Projects
     {TexteProgramme::FiltreProjet, "Projet Tessarel(*.tsr)|*.tsr|Tous les fichiers (*.*)|*.*",
      "Tessarel project (*.tsr)|*.tsr|All files (*.*)|*.*"},

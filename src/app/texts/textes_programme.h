@@ -94,6 +94,16 @@ enum class TexteProgramme {
     TableHorsFormatTitre, // %1 machine
     TableHorsFormat,      // %1 key
 
+    // Moves and heat by hand in 2D
+    OrigineAxeQuestion, // %1 axis
+    OrigineAxeFaite,    // %1 axis
+    OrigineAxeFaiteTitre,
+    SigneFilChaud,
+    SigneFilIncertain,
+    ChauffeManuelleAtteinte,
+    ChauffeManuelleCoupeeParMachine,
+    ChauffeManuelleCoupeeEnfin,
+
     // Projects
     FiltreProjet,
     CommentaireTropLong,

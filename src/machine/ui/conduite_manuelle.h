@@ -3,13 +3,12 @@
 #pragma once
 
 #include "app/texts/textes_programme.h"
-#include "link/commandes.h"
+#include "link/chauffe_manuelle.h"
 #include "link/mouvements.h"
 
 #include <QObject>
 #include <QPointer>
 #include <functional>
-#include <string>
 
 class QMessageBox;
 class QWidget;
@@ -54,8 +53,8 @@ public:
     bool CouperSiChaud();
 
     [[nodiscard]] bool EnMouvement() const { return m_enMouvement; }
-    [[nodiscard]] bool Occupee() const { return m_occupee; }
-    [[nodiscard]] bool Chaude() const { return m_chaude; }
+    [[nodiscard]] bool Occupee() const { return m_fil.occupee; }
+    [[nodiscard]] bool Chaude() const { return m_fil.chaude; }
 
 signals:
     void DebutMouvement();
@@ -64,20 +63,15 @@ signals:
     void ChauffeChangee(bool chaude);
 
 private:
-    void NoterChauffe(bool chaude);
-    bool EnvoyerChauffeVoulue();
-    [[nodiscard]] bool InterrupteursPermettent();
+    [[nodiscard]] SuiviChauffeManuelle SuiviFil();
     // Warns over the window while a loop keeps trying; the button of the warning calls `abandonner`.
-    void Prevenir(QPointer<QMessageBox>& alerte, const std::string& texte, std::function<void()> abandonner);
+    void Prevenir(TexteProgramme texte, std::function<void()> abandonner);
 
     QWidget* m_fenetre;
+    QPointer<QMessageBox> m_alerte;
     DemandesMarche m_demandes;
+    ChauffeManuelle m_fil;
     bool m_enMouvement = false;
-    bool m_occupee = false; // a loop that repeats a command is under way
-    bool m_chaude = false;
-    double m_chauffeVoulue = 0; // percent, as asked for last
-    bool m_abandon = false;
-    bool m_coupureVoulue = false; // asked for and not confirmed yet; during a move it is confirmed after it
 };
 
 } // namespace tessarel

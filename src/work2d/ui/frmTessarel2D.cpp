@@ -87,8 +87,10 @@ void frmTessarel2D::Relier() {
     connect(cmdZoomTout, &QToolButton::clicked, this, [vue] { vue()->ZoomTout(); });
     connect(cmdZoomPlus, &QToolButton::clicked, this, [vue] { vue()->Zoomer(FacteurLoupe); });
     connect(cmdZoomMoins, &QToolButton::clicked, this, [vue] { vue()->Zoomer(1 / FacteurLoupe); });
-    connect(cmdParametresMachine, &QToolButton::clicked, this, &frmTessarel2D::ParametrerMachine);
-    connect(cmdMatieres, &QToolButton::clicked, this, &frmTessarel2D::GererMatieres);
+    connect(cmdParametresMachine, &QToolButton::clicked, this,
+            [this] { OuvrirReglages(&frmTessarel2D::ParametrerMachine); });
+    connect(cmdMatieres, &QToolButton::clicked, this,
+            [this] { OuvrirReglages(&frmTessarel2D::GererMatieres); });
     connect(cmdAide, &QToolButton::clicked, this, [] {
         AfficherInformation(Texte(TexteProgramme::Fenetre2DAide), Texte(TexteProgramme::Fenetre2DAideTitre));
     });
@@ -163,6 +165,7 @@ void frmTessarel2D::ActualiserMachine() {
         canevas->FixerCadreComplet(CadreTable(TableINI, false));
     TraceSequTS2D();
     MontrerEtat();
+    if (ManuelOuvert()) MontrerMachineManuel();
     if (!DecoupeOuverte()) return;
     m_valeurs = LimiterValeurs(DecoupeCourante, TableINI, static_cast<float>(Parametres.SaigneeMaxiSoft));
     CalculerDecoupe();
@@ -203,6 +206,8 @@ void frmTessarel2D::closeEvent(QCloseEvent* evenement) {
         evenement->ignore();
         return;
     }
+    EteindreFilManuel();            // before anything is asked: the question may stand for hours
+    m_course.fermerEnsuite = false; // asked again meanwhile: this is it
     if (m_espace.modifie && !m_espace.TableauSequences.empty()) {
         const ReponseBoite reponse = AfficherBoite({TextesMessages(MessagesSauverAvantDeQuitter),
                                                     TitresMessages(MessagesSauverAvantDeQuitter),

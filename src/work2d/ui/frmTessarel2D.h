@@ -2,12 +2,14 @@
 // right, and the cut tab.
 #pragma once
 
+#include "link/chauffe_manuelle.h"
 #include "machine/matieres.h"
 #include "work2d/apercu.h"
 #include "work2d/decoupe2d.h"
 #include "work2d/decoupe_interface.h"
 #include "work2d/dessin_table.h"
 #include "work2d/espace2d.h"
+#include "work2d/mouvements_2d.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -182,6 +184,8 @@ private:
     // The cut on the machine (frmTessarel2D_machine.cpp)
     void RelierCourse();
     void MontrerLiaison();
+    // A loop that talks to the box is under way.
+    [[nodiscard]] bool Occupee() const;
     void DecouperSurMachine();
     bool LancerCourse(bool origineAuto, bool suite);
     void FinirCourse(const ResultatDecoupe& resultat, bool memeArret);
@@ -203,9 +207,25 @@ private:
     void RelierManuel();
     void OuvrirManuel();
     void FermerManuel();
+    [[nodiscard]] bool ManuelOuvert() const;
+    void MontrerMachineManuel();
+    void ArreterManuel();
     void DeplacerParFleche(int x, int y);
     // Runs one move with `etat`, a row of TextesEtats, as what is shown of it.
-    void Mouvoir(int etat, const std::function<void(const SuiviMarche&)>& mouvement);
+    void Mouvoir(int etat, const std::function<FinProcedure(const SuiviMarche&)>& mouvement);
+
+    // Heat by hand (frmTessarel2D_chauffe.cpp)
+    void RelierChauffe();
+    [[nodiscard]] SuiviChauffeManuelle SuiviFil();
+    void MontrerFil();
+    void AllumerFilManuel();
+    // Puts out a wire that was lit by hand. False when it may still be hot, which was told.
+    bool EteindreFilManuel();
+    void VeillerSurFilManuel();
+    // Moves are enabled, at the latest after a look at the box; else a box told why not.
+    bool LiaisonPermet();
+    // Asks for the window of the machine or of the materials; comes back when it is closed.
+    void OuvrirReglages(void (frmTessarel2D::*fenetre)());
 
     Espace2D m_espace;
     Decoupe2D m_decoupe;
@@ -219,6 +239,9 @@ private:
     std::vector<std::string> m_fichiersImportes; // drawings of this project: no export replaces them
 
     CourseMachine m_course;
+    ChauffeManuelle m_fil;     // lit by hand
+    bool m_stopManuel = false; // Stop was pressed in the move by hand that runs
+    bool m_ailleurs = false;   // a window of the machine or of the materials is open
     std::unique_ptr<TraceCourse> m_trace;
     PanneauCourse* m_panneauCourse = nullptr;
     PanneauManuel* m_panneauManuel = nullptr;

@@ -11,6 +11,7 @@
 #include "work2d/ui/panneau_manuel.h"
 #include "work2d/ui/panneau_saisie.h"
 #include "work2d/ui/panneau_simulation.h"
+#include "work2d/ui/style_2d.h"
 #include "work2d/ui/trace_course.h"
 
 #include <QAbstractButton>
@@ -79,13 +80,6 @@ void ReserverLignes(QLabel* etiquette, int lignes) {
     etiquette->setMinimumHeight(lignes * etiquette->fontMetrics().lineSpacing());
     etiquette->setAlignment(Qt::AlignLeft | Qt::AlignTop);
 }
-
-// The option that is set stands out on a dark ground as on a light one, which a sunk button does not.
-constexpr const char* StyleOptions =
-    "QToolButton { border: 1px solid palette(mid); border-radius: 4px; padding: 4px; background: "
-    "palette(button); }"
-    "QToolButton:hover, QToolButton:focus { border-color: palette(highlight); }"
-    "QToolButton:checked { border: 2px solid palette(highlight); padding: 3px; background: palette(base); }";
 
 // A row of options of which one is set: pictures with a word under each.
 template <std::size_t N>

@@ -4,6 +4,8 @@
 #include "app/texts/textes_programme.h"
 #include "link/etat_interface.h"
 #include "link/rafraichir.h"
+#include "platform/drapeau.h"
+#include "ui/alerte.h"
 #include "ui/boites_qt.h"
 #include "ui/icones.h"
 #include "work2d/ui/frmTessarel2D.h"
@@ -28,19 +30,6 @@ namespace tessarel {
 namespace {
 
 constexpr int MessagesEtatLiaison = 247; // the text: no interface, the title: moves disabled
-constexpr int DoublesChauffeNonCoupee = 40;
-
-// Up while the loop of a run is under way, whatever way it ends.
-class Drapeau {
-public:
-    explicit Drapeau(bool& drapeau) : m_drapeau(drapeau) { m_drapeau = true; }
-    ~Drapeau() { m_drapeau = false; }
-    Drapeau(const Drapeau&) = delete;
-    Drapeau& operator=(const Drapeau&) = delete;
-
-private:
-    bool& m_drapeau;
-};
 
 } // namespace
 
@@ -59,16 +48,21 @@ void frmTessarel2D::RelierCourse() {
 }
 
 void frmTessarel2D::RafraichirInterface() {
-    if (m_course.enCours) return;
+    if (Occupee()) return;
+    EteindreFilManuel(); // another table may come to run
     const std::string machine = TableINI.Nom;
-    RafraichirUsb(TS2D);
+    {
+        const Drapeau occupee(m_course.enCours); // its boxes let events run
+        RafraichirUsb(TS2D);
+    }
     if (TableINI.Nom == machine) {
         MontrerLiaison();
-        return;
+    } else {
+        // The steps of a stop say nothing to another machine.
+        if (m_course.arretee) AbandonnerDecoupe();
+        ActualiserMachine();
     }
-    // The steps of a stop say nothing to another machine.
-    if (m_course.arretee) AbandonnerDecoupe();
-    ActualiserMachine();
+    FermerSiDemande();
 }
 
 void frmTessarel2D::MontrerLiaison() {
@@ -86,7 +80,10 @@ void frmTessarel2D::MontrerLiaison() {
 }
 
 void frmTessarel2D::DecouperSurMachine() {
-    if (m_course.enCours || m_course.arretee) return;
+    if (Occupee() || m_course.arretee) return;
+    // A wire that a hand has lit is put out when the cut tab opens; where that was not confirmed, homing
+    // would drag a hot wire along.
+    if (!EteindreFilManuel()) return;
     const std::string machine = TableINI.Nom;
     AvantDecoupe avant = AvantDecoupe::SansInterface;
     {
@@ -99,7 +96,7 @@ void frmTessarel2D::DecouperSurMachine() {
         return;
     }
     MontrerLiaison();
-    if (avant == AvantDecoupe::OuvrirParametrage) emit ParametrerMachine();
+    if (avant == AvantDecoupe::OuvrirParametrage) OuvrirReglages(&frmTessarel2D::ParametrerMachine);
     if (avant != AvantDecoupe::Permise) return;
     m_course.genre = GenreDecoupe::Decoupe;
     m_course.decoupe = m_decoupe;
@@ -121,19 +118,11 @@ SuiviDecoupe frmTessarel2D::SuiviCourse() {
 // Beside the loop, not instead of it: it goes on trying while the user reads.
 void frmTessarel2D::PrevenirSilence() {
     if (m_alerteInterface) return;
-    m_alerteInterface = new QMessageBox(this);
-    PreparerBoite(*m_alerteInterface,
-                  {Texte(TexteProgramme::BoitierMuet), TextesDoubles(DoublesChauffeNonCoupee, 2),
-                   IconeBoite::Critique, BoutonsBoite::Ok});
-    m_alerteInterface->setObjectName(QStringLiteral("alerteInterface"));
-    m_alerteInterface->button(QMessageBox::Ok)
-        ->setText(TexteAffiche(Texte(TexteProgramme::BoutonAbandonner)));
-    connect(m_alerteInterface, &QMessageBox::buttonClicked, this, [this] {
+    m_alerteInterface = OuvrirAlerte(this, Texte(TexteProgramme::BoitierMuet), [this] {
         m_course.demandes.StopDemande = true;
         m_alerteInterface->deleteLater();
         m_alerteInterface.clear(); // the next silence is told anew
     });
-    m_alerteInterface->open();
 }
 
 // `suite`: the rest of a stopped cut, or the way back from it. False when the wire stands where it stood.
@@ -261,9 +250,12 @@ void frmTessarel2D::PermettreCommandes(bool libre) {
 }
 
 bool frmTessarel2D::ArreterPourFermer() {
-    if (!m_course.enCours) return false;
+    if (!Occupee()) return false;
     m_course.fermerEnsuite = true;
-    m_course.demandes.StopDemande = true;
+    if (m_course.enCours)
+        m_course.demandes.StopDemande = true;
+    else
+        EteindreFilManuel(); // a heat that is being asked for ends in a heat-off
     return true;
 }
 

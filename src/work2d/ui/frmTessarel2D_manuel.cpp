@@ -1,10 +1,10 @@
 // The moves by hand: one at a time, Stop between two exchanges, and nothing else at hand meanwhile.
 #include "app/texts/textes.h"
-#include "link/etat_interface.h"
 #include "platform/dialogue.h"
 #include "ui/boites_qt.h"
 #include "work2d/mouvements_2d.h"
 #include "work2d/ui/frmTessarel2D.h"
+#include "work2d/ui/panneau_chauffe.h"
 #include "work2d/ui/panneau_manuel.h"
 
 #include <QMessageBox>
@@ -12,40 +12,69 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <optional>
 
 namespace tessarel {
 
 void frmTessarel2D::RelierManuel() {
     connect(cmdDeplacementsManuels, &QToolButton::clicked, this, &frmTessarel2D::OuvrirManuel);
     connect(m_panneauManuel, &PanneauManuel::FermetureDemandee, this, &frmTessarel2D::FermerManuel);
-    connect(m_panneauManuel, &PanneauManuel::StopDemande, this,
+    connect(m_panneauManuel, &PanneauManuel::FlecheLachee, this,
             [this] { m_course.demandes.StopDemande = true; });
-    connect(m_panneauManuel, &PanneauManuel::RetourOrigineDemande, this,
-            [this] { Mouvoir(EtatRetour, [](const SuiviMarche& suivi) { RetourOrigine(suivi); }); });
-    connect(m_panneauManuel, &PanneauManuel::RangementDemande, this,
-            [this] { Mouvoir(EtatRangement, [](const SuiviMarche& suivi) { RangerLePortique(suivi); }); });
+    connect(m_panneauManuel, &PanneauManuel::StopDemande, this, &frmTessarel2D::ArreterManuel);
     connect(m_panneauManuel, &PanneauManuel::DeplacementDemande, this, &frmTessarel2D::DeplacerParFleche);
+    const auto froid = [this] { return EteindreFilManuel(); };
+    connect(m_panneauManuel, &PanneauManuel::RetourOrigineDemande, this, [this, froid] {
+        Mouvoir(EtatRetour, [&](const SuiviMarche& suivi) { return RetourOrigine(suivi, froid); });
+    });
+    connect(m_panneauManuel, &PanneauManuel::RangementDemande, this, [this, froid] {
+        Mouvoir(EtatRangement, [&](const SuiviMarche& suivi) { return RangerLePortique(suivi, froid); });
+    });
+    connect(m_panneauManuel, &PanneauManuel::OrigineXDemandee, this, [this, froid] {
+        Mouvoir(EtatOrigine,
+                [&](const SuiviMarche& suivi) { return OrigineDUnAxe(AxesOrigine::X, suivi, froid); });
+    });
+    connect(m_panneauManuel, &PanneauManuel::OrigineYDemandee, this, [this, froid] {
+        Mouvoir(EtatOrigine,
+                [&](const SuiviMarche& suivi) { return OrigineDUnAxe(AxesOrigine::Y, suivi, froid); });
+    });
+    RelierChauffe();
 }
 
 void frmTessarel2D::OuvrirManuel() {
-    if (m_course.enCours || m_course.arretee) return;
+    if (Occupee() || m_course.arretee || ManuelOuvert()) return;
     FermerDecoupe();
     RafraichirInterface();
-    m_panneauManuel->MontrerMachine(TableINI.VitesseDecoupeParDefaut, TableINI.VmaxAvecAccXY);
+    MontrerMachineManuel();
     m_pages->setCurrentIndex(PageManuel);
+}
+
+bool frmTessarel2D::ManuelOuvert() const {
+    return m_pages->currentIndex() == PageManuel;
+}
+
+void frmTessarel2D::MontrerMachineManuel() {
+    m_panneauManuel->MontrerMachine(TableINI.VitesseDecoupeParDefaut, TableINI.VmaxAvecAccXY);
+    m_panneauManuel->Chauffe().MontrerMachine(static_cast<double>(DecoupeCourante.Chauffe),
+                                              static_cast<double>(TableINI.ChauffeMaxiSur100));
 }
 
 void frmTessarel2D::FermerManuel() {
     if (m_course.enCours) return;
-    m_pages->setCurrentIndex(PageProjet);
+    m_pages->setCurrentIndex(PageProjet); // and so the wire is put out
+}
+
+void frmTessarel2D::ArreterManuel() {
+    m_stopManuel = true;
+    if (m_course.enCours)
+        m_course.demandes.StopDemande = true;
+    else
+        EteindreFilManuel();
 }
 
 void frmTessarel2D::DeplacerParFleche(int x, int y) {
-    if (m_course.enCours) return;
-    if (!MouvementsActifs && VerifierLiaison() != AvantDecoupe::Permise) {
-        MontrerLiaison();
-        return; // its box has taken the mouse: the arrow is pressed again
-    }
+    if (Occupee() || !LiaisonPermet())
+        return; // after a box, which took the mouse, the arrow is pressed again
     // As far as it is held: the travel of the machine, or of its shorter side on a slant.
     const double course = x == 0   ? TableINI.CourseY
                           : y == 0 ? TableINI.CourseX
@@ -55,15 +84,31 @@ void frmTessarel2D::DeplacerParFleche(int x, int y) {
             delete m_alerteInterface;
             if (!m_panneauManuel->FlecheTenue()) m_course.demandes.StopDemande = true;
         };
-        DeplacerManuellement(TableINI, {x * course, y * course, x * course, y * course},
-                             m_panneauManuel->Vitesse(), suivi);
+        std::optional<FilEnMarche> marche(std::in_place, m_fil, m_course.demandes);
+        const auto froid = [&] {
+            marche.reset();
+            return EteindreFilManuel();
+        };
+        const FinProcedure fin =
+            DeplacerManuellement(TableINI, {x * course, y * course, x * course, y * course},
+                                 m_panneauManuel->Vitesse(), suivi, froid);
+        // An arrow that is let go leaves the wire as hot as it was; Stop does not.
+        const bool eteindre = m_stopManuel || m_course.fermerEnsuite || m_fil.coupureVoulue;
+        marche.reset();
+        if (eteindre)
+            EteindreFilManuel();
+        else
+            ChangerChauffeFil(m_fil, m_panneauManuel->Chauffe().Pourcent(), SuiviFil());
+        return fin;
     });
 }
 
-void frmTessarel2D::Mouvoir(int etat, const std::function<void(const SuiviMarche&)>& mouvement) {
-    if (m_course.enCours || m_course.arretee) return;
+void frmTessarel2D::Mouvoir(int etat, const std::function<FinProcedure(const SuiviMarche&)>& mouvement) {
+    if (Occupee() || m_course.arretee) return;
+    const std::string machine = TableINI.Nom;
     m_course.fermerEnsuite = false;
     m_course.demandes = {};
+    m_stopManuel = false;
     PermettreCommandes(false);
     m_vues->setEnabled(false); // a box of the workshop would stand before Stop
     m_panneauManuel->MontrerMouvement(true, TexteAffiche(TextesEtats(etat)));
@@ -75,16 +120,20 @@ void frmTessarel2D::Mouvoir(int etat, const std::function<void(const SuiviMarche
         PermettreCommandes(true);
     };
     m_course.enCours = true;
+    FinProcedure fin = FinProcedure::Echouee;
     try {
         SuiviMarche suivi = SuiviDeMarche(SuiviCourse());
         suivi.Avancer = [this](const AvanceeMarche&) { delete m_alerteInterface; };
-        mouvement(suivi);
+        fin = mouvement(suivi);
     } catch (...) {
         finir();
         throw;
     }
     finir();
     MontrerLiaison();
+    if (TableINI.Nom != machine) ActualiserMachine();
+    if (fin == FinProcedure::OuvrirParametrage && !m_course.fermerEnsuite)
+        OuvrirReglages(&frmTessarel2D::ParametrerMachine);
     FermerSiDemande();
 }
 

@@ -5,6 +5,7 @@
 #include "platform/nombres.h"
 #include "ui/boites_qt.h"
 #include "ui/place_libelle.h"
+#include "work2d/ui/style_2d.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -28,13 +29,6 @@ constexpr int MessagesAvancee = 190;           // "Chauffe ", and its title "Dé
 constexpr double PasParPourcent = 2;
 constexpr int BarrePleine = 1000;
 constexpr int HauteurBouton = 40; // pixels
-constexpr int HauteurStop = 64;
-// The one button that must be found without looking for it; the same on a light and on a dark ground.
-constexpr const char* StyleStop =
-    "QPushButton { background: #c92a2a; color: white; border: 1px solid #8f1d1d; border-radius: 6px; }"
-    "QPushButton:hover, QPushButton:focus { background: #e03131; }"
-    "QPushButton:pressed { background: #a51f1f; }"
-    "QPushButton:disabled { background: palette(button); color: palette(mid); border-color: palette(mid); }";
 
 template <typename Controle>
 Controle* Nommer(Controle* controle, const char* nom) {
@@ -111,6 +105,7 @@ QGroupBox* PanneauCourse::DisposerChauffe() {
     auto* pose = new QHBoxLayout(optChauffePendantDecoupe);
     hscChauffePendantDecoupe = Nommer(new QScrollBar(Qt::Horizontal), "hscChauffePendantDecoupe");
     hscChauffePendantDecoupe->setMinimumHeight(22);
+    hscChauffePendantDecoupe->setInvertedControls(false); // the right key and the wheel turned up: hotter
     hscChauffePendantDecoupe->setPageStep(static_cast<int>(PasParPourcent));
     lblChauffePendantDecoupe = Nommer(new QLabel, "lblChauffePendantDecoupe");
     lblChauffePendantDecoupe->setAlignment(Qt::AlignRight | Qt::AlignVCenter);

@@ -2,6 +2,8 @@
 #include "work2d/ui/panneau_manuel.h"
 
 #include "platform/nombres.h"
+#include "work2d/ui/panneau_chauffe.h"
+#include "work2d/ui/style_2d.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -45,6 +47,7 @@ Controle* Nommer(Controle* controle, const char* nom) {
 QPushButton* Bouton(const char* nom) {
     auto* bouton = Nommer(new QPushButton, nom);
     bouton->setMinimumHeight(HauteurBouton);
+    bouton->setIconSize({20, 20});
     return bouton;
 }
 
@@ -53,8 +56,24 @@ QPushButton* Bouton(const char* nom) {
 PanneauManuel::PanneauManuel(QWidget* parent) : QWidget(parent) {
     auto* page = new QVBoxLayout(this);
     page->setSpacing(8);
+    page->addWidget(DisposerFleches());
+    m_chauffe = new PanneauChauffe;
+    page->addWidget(m_chauffe);
+    page->addLayout(DisposerProcedures());
+    lblEtatManuel = Nommer(new QLabel, "lblEtatManuel");
+    lblEtatManuel->setWordWrap(true);
+    page->addWidget(lblEtatManuel);
+    page->addStretch(1);
+    cmdFermerManuel = Bouton("cmdFermerManuel");
+    page->addWidget(cmdFermerManuel);
+    DisposerStop();
+    page->addWidget(optAnnulerHome);
+    Relier();
+    MontrerMouvement(false);
+}
+
+QWidget* PanneauManuel::DisposerFleches() {
     auto* fleches = Nommer(new QGroupBox, "frameFleches");
-    page->addWidget(fleches);
     auto* pose = new QVBoxLayout(fleches);
     auto* grille = new QGridLayout;
     pose->addLayout(grille);
@@ -74,12 +93,13 @@ PanneauManuel::PanneauManuel(QWidget* parent) : QWidget(parent) {
             emit DeplacementDemande(d.x, d.y);
             m_tenue = nullptr;
         });
-        connect(fleche, &QToolButton::released, this, &PanneauManuel::StopDemande);
+        connect(fleche, &QToolButton::released, this, &PanneauManuel::FlecheLachee);
     }
     auto* vitesse = new QHBoxLayout;
     vitesse->addWidget(Nommer(new QLabel, "lblVitesseManuel"));
     hscVitesseManuel = Nommer(new QScrollBar(Qt::Horizontal), "hscVitesseManuel");
     hscVitesseManuel->setMinimumHeight(22);
+    hscVitesseManuel->setInvertedControls(false); // the right key and the wheel turned up: faster
     lblValeurVitesseManuel = Nommer(new QLabel, "lblValeurVitesseManuel");
     lblValeurVitesseManuel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     lblValeurVitesseManuel->setMinimumWidth(
@@ -87,30 +107,42 @@ PanneauManuel::PanneauManuel(QWidget* parent) : QWidget(parent) {
     vitesse->addWidget(hscVitesseManuel, 1);
     vitesse->addWidget(lblValeurVitesseManuel);
     pose->addLayout(vitesse);
+    return fleches;
+}
+
+QLayout* PanneauManuel::DisposerProcedures() {
+    auto* pose = new QVBoxLayout;
+    auto* axes = new QHBoxLayout;
+    optHomeX = Bouton("optHomeX");
+    optHomeY = Bouton("optHomeY");
+    axes->addWidget(optHomeX);
+    axes->addWidget(optHomeY);
+    pose->addLayout(axes);
     cmdRetourOrigine = Bouton("cmdRetourOrigine");
     cmdPlierLePortique = Bouton("cmdPlierLePortique");
-    page->addWidget(cmdRetourOrigine);
-    page->addWidget(cmdPlierLePortique);
-    lblEtatManuel = Nommer(new QLabel, "lblEtatManuel");
-    page->addWidget(lblEtatManuel);
-    page->addStretch(1);
-    cmdFermerManuel = Bouton("cmdFermerManuel");
-    page->addWidget(cmdFermerManuel);
+    pose->addWidget(cmdRetourOrigine);
+    pose->addWidget(cmdPlierLePortique);
+    return pose;
+}
+
+void PanneauManuel::DisposerStop() {
     optAnnulerHome = Bouton("optAnnulerHome");
-    optAnnulerHome->setMinimumHeight(64);
+    optAnnulerHome->setMinimumHeight(HauteurStop);
     QFont gras = optAnnulerHome->font();
     gras.setBold(true);
     optAnnulerHome->setFont(gras);
-    optAnnulerHome->setStyleSheet(QStringLiteral("QPushButton:enabled { background: #c92a2a; color: white; "
-                                                 "border: 1px solid #8f1d1d; border-radius: 6px; }"
-                                                 "QPushButton:pressed { background: #a51f1f; }"));
-    page->addWidget(optAnnulerHome);
+    optAnnulerHome->setStyleSheet(QString::fromLatin1(StyleStop));
+}
+
+void PanneauManuel::Relier() {
     connect(hscVitesseManuel, &QScrollBar::valueChanged, this, &PanneauManuel::MontrerVitesse);
+    connect(optHomeX, &QPushButton::clicked, this, &PanneauManuel::OrigineXDemandee);
+    connect(optHomeY, &QPushButton::clicked, this, &PanneauManuel::OrigineYDemandee);
     connect(cmdRetourOrigine, &QPushButton::clicked, this, &PanneauManuel::RetourOrigineDemande);
     connect(cmdPlierLePortique, &QPushButton::clicked, this, &PanneauManuel::RangementDemande);
-    connect(optAnnulerHome, &QPushButton::clicked, this, &PanneauManuel::StopDemande);
+    // On the way down: nobody waits for a finger to come up, nor for the keys to show the button sunk.
+    connect(optAnnulerHome, &QPushButton::pressed, this, &PanneauManuel::StopDemande);
     connect(cmdFermerManuel, &QPushButton::clicked, this, &PanneauManuel::FermetureDemandee);
-    MontrerMouvement(false);
 }
 
 void PanneauManuel::MontrerMachine(float vitesse, float vitesseMaxi) {
@@ -133,12 +165,23 @@ bool PanneauManuel::FlecheTenue() const {
 }
 
 void PanneauManuel::MontrerMouvement(bool enMouvement, const QString& quoi) {
+    m_enMouvement = enMouvement;
     for (QToolButton* fleche : optGoManuel) fleche->setEnabled(!enMouvement || fleche == m_tenue);
     for (QWidget* commande :
-         {static_cast<QWidget*>(hscVitesseManuel), static_cast<QWidget*>(cmdRetourOrigine),
+         {static_cast<QWidget*>(hscVitesseManuel), static_cast<QWidget*>(optHomeX),
+          static_cast<QWidget*>(optHomeY), static_cast<QWidget*>(cmdRetourOrigine),
           static_cast<QWidget*>(cmdPlierLePortique), static_cast<QWidget*>(cmdFermerManuel)})
         commande->setEnabled(!enMouvement);
-    optAnnulerHome->setEnabled(enMouvement);
+    m_chauffe->PermettreAllumage(!enMouvement);
+    MontrerStop();
+    lblEtatManuel->setText(quoi);
+}
+
+void PanneauManuel::MontrerStop() {
+    optAnnulerHome->setEnabled(m_enMouvement || m_chauffe->FilMontre() != PanneauChauffe::Fil::Froid);
+}
+
+void PanneauManuel::MontrerEtat(const QString& quoi) {
     lblEtatManuel->setText(quoi);
 }
 

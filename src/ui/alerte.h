@@ -1,0 +1,18 @@
+// The warning that stands beside a loop which goes on trying, with the one button that makes it give up.
+#pragma once
+
+#include <QPointer>
+#include <functional>
+#include <string>
+
+class QMessageBox;
+class QWidget;
+
+namespace tessarel {
+
+// Opened over `fenetre` under the title of the heat that is not off, and not waited for. Its button calls
+// `abandonner`. Whoever opened it deletes it when the loop has ended.
+QPointer<QMessageBox> OuvrirAlerte(QWidget* fenetre, const std::string& texte,
+                                   std::function<void()> abandonner);
+
+} // namespace tessarel

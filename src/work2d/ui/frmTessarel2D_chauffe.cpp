@@ -1,0 +1,118 @@
+// The wire's heat by hand: lit from the page of the moves, watched while it is on, and put out whenever that
+// page is left, whatever the way.
+#include "app/texts/textes_programme.h"
+#include "link/etat_interface.h"
+#include "link/liste_salves.h"
+#include "machine/table_machine.h"
+#include "platform/drapeau.h"
+#include "ui/alerte.h"
+#include "ui/boites_qt.h"
+#include "work2d/mouvements_2d.h"
+#include "work2d/ui/frmTessarel2D.h"
+#include "work2d/ui/panneau_chauffe.h"
+#include "work2d/ui/panneau_manuel.h"
+
+#include <QMessageBox>
+#include <QStackedWidget>
+
+namespace tessarel {
+
+void frmTessarel2D::RelierChauffe() {
+    PanneauChauffe* chauffe = &m_panneauManuel->Chauffe();
+    connect(chauffe, &PanneauChauffe::AllumageDemande, this, &frmTessarel2D::AllumerFilManuel);
+    connect(chauffe, &PanneauChauffe::CoupureDemandee, this, [this] { EteindreFilManuel(); });
+    connect(chauffe, &PanneauChauffe::ChauffeVoulue, this, [this](double pourcent) {
+        ChangerChauffeFil(m_fil, pourcent, SuiviFil());
+        FermerSiDemande();
+    });
+    // Queued: a loop that asks for the heat-off from within the timer would hold the sign still.
+    connect(chauffe, &PanneauChauffe::Battement, this, &frmTessarel2D::VeillerSurFilManuel,
+            Qt::QueuedConnection);
+    connect(m_pages, &QStackedWidget::currentChanged, this, [this](int page) {
+        if (page != PageManuel) EteindreFilManuel();
+    });
+}
+
+SuiviChauffeManuelle frmTessarel2D::SuiviFil() {
+    SuiviChauffeManuelle suivi;
+    suivi.Permise = ChauffeManuellePermise;
+    suivi.Prevenir = [this](std::function<void()> abandonner) {
+        delete m_alerteInterface;
+        m_alerteInterface =
+            OuvrirAlerte(this, Texte(TexteProgramme::ChauffeEssaiCoupure), std::move(abandonner));
+    };
+    suivi.FinPrevenir = [this] { delete m_alerteInterface; };
+    suivi.Changee = [this](bool) { MontrerFil(); };
+    return suivi;
+}
+
+void frmTessarel2D::MontrerFil() {
+    using Fil = PanneauChauffe::Fil;
+    const Fil fil = m_fil.chaude ? Fil::Chaud : m_fil.incertaine ? Fil::Incertain : Fil::Froid;
+    m_panneauManuel->Chauffe().MontrerFil(
+        fil, TempoChauffePourChauffe(static_cast<float>(m_fil.voulue), TableINI));
+    m_panneauManuel->MontrerStop();
+}
+
+void frmTessarel2D::AllumerFilManuel() {
+    // In a move of the arrows it can be taken back that the wire is to be put out; in a procedure nothing
+    // can.
+    const bool libre = !m_course.enCours || m_fil.enMarche != nullptr;
+    const bool permis = libre && (m_course.enCours || m_fil.occupee || LiaisonPermet());
+    if (permis) {
+        m_panneauManuel->MontrerEtat({});
+        AllumerFil(m_fil, m_panneauManuel->Chauffe().Pourcent(), SuiviFil());
+        MontrerLiaison();
+    }
+    MontrerFil(); // the option that was pressed goes back where the wire stayed cold
+    FermerSiDemande();
+}
+
+bool frmTessarel2D::EteindreFilManuel() {
+    const bool froid = EteindreFilSiChaud(m_fil, SuiviFil());
+    MontrerFil();
+    if (!m_course.enCours) FermerSiDemande();
+    return froid;
+}
+
+void frmTessarel2D::VeillerSurFilManuel() {
+    if (m_course.enCours || m_ailleurs) return;
+    const bool etaitIncertain = m_fil.incertaine;
+    switch (VeillerSurFil(m_fil, SuiviFil())) {
+    case VeilleFil::Calme:
+        return;
+    case VeilleFil::Coupee:
+        m_panneauManuel->MontrerEtat(
+            TexteAffiche(Texte(etaitIncertain ? TexteProgramme::ChauffeManuelleCoupeeEnfin
+                                              : TexteProgramme::ChauffeManuelleCoupeeParMachine)));
+        break;
+    case VeilleFil::Perdue:
+        MontrerLiaison();
+        break;
+    }
+    MontrerFil();
+    FermerSiDemande();
+}
+
+bool frmTessarel2D::LiaisonPermet() {
+    if (MouvementsActifs) return true;
+    const std::string machine = TableINI.Nom;
+    const AvantDecoupe liaison = VerifierLiaison();
+    MontrerLiaison();
+    if (TableINI.Nom != machine) ActualiserMachine();
+    if (liaison == AvantDecoupe::OuvrirParametrage) OuvrirReglages(&frmTessarel2D::ParametrerMachine);
+    return liaison == AvantDecoupe::Permise;
+}
+
+void frmTessarel2D::OuvrirReglages(void (frmTessarel2D::*fenetre)()) {
+    if (Occupee() || m_ailleurs) return;
+    EteindreFilManuel(); // that window heats and moves by itself, and shows a cold wire
+    const Drapeau ailleurs(m_ailleurs);
+    emit(this->*fenetre)();
+}
+
+bool frmTessarel2D::Occupee() const {
+    return m_course.enCours || m_fil.occupee;
+}
+
+} // namespace tessarel
