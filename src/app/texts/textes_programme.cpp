@@ -437,7 +437,9 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
      "Ctrl+B : bloc auto    F9 : découper    Ctrl+Entrée : lancer    Échap : annuler la découpe\r\n"
      "Ctrl+E : export DXF    Ctrl+R : fichiers récents    Ctrl+I : rapport d'ouverture\r\n"
      "Ctrl+L : bibliothèque    F5 : la relire    F7 : matières    F8 : machine\r\n"
-     "Ctrl+J : mouvements à la main    Ctrl+U : chercher l'interface    F1 : cette aide",
+     "Ctrl+J : mouvements à la main    Ctrl+H : chauffer le fil    Ctrl+Shift+H : couper la chauffe\r\n"
+     "Ctrl+Shift+O : position de repos    Échap : STOP\r\n"
+     "Ctrl+U : chercher l'interface    F1 : cette aide",
      "Zoom: mouse wheel, the + and - keys, or Ctrl++ and Ctrl+-\r\n"
      "Zoom to a frame: right-click + drag\r\n"
      "Pan: wheel click + drag, Shift + left-click + drag, arrow keys, scroll bars\r\n"
@@ -454,7 +456,9 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
      "Ctrl+B: auto block    F9: cut    Ctrl+Enter: start    Esc: cancel the cut\r\n"
      "Ctrl+E: export DXF    Ctrl+R: recent files    Ctrl+I: opening report\r\n"
      "Ctrl+L: library    F5: read it again    F7: materials    F8: machine\r\n"
-     "Ctrl+J: moves by hand    Ctrl+U: look for the interface    F1: this help"},
+     "Ctrl+J: moves by hand    Ctrl+H: heat the wire    Ctrl+Shift+H: heat off\r\n"
+     "Ctrl+Shift+O: rest position    Esc: STOP\r\n"
+     "Ctrl+U: look for the interface    F1: this help"},
     {TexteProgramme::Fenetre2DLecture, "Lecture de %1", "Reading %1"},
     {TexteProgramme::BoutonAnnuler, "Annuler", "Cancel"},
     {TexteProgramme::AtelierTableVide, "Ouvrez un fichier, ou déposez-le ici. Molette : zoom",
