@@ -88,7 +88,7 @@ void EssaiSelection2D::LeCadreVersLaDroitePrendLesEntiers() {
 void EssaiSelection2D::LeCadreVersLaGauchePrendCeQuIlTouche() {
     m_souris->Appuyer({150, 80});
     m_souris->Aller({90, 20});
-    QVERIFY(Etat().startsWith(QStringLiteral("Relâcher : choisir tous les tracés que le cadre touche")));
+    QVERIFY(Etat().startsWith(QStringLiteral("Relâcher : choisir tous les tracés touchés")));
     m_souris->Aller({300, 20});
     QVERIFY(Etat().startsWith(QStringLiteral("Relâcher : choisir les tracés entiers")));
     m_souris->Aller({151, 150});

@@ -19,7 +19,7 @@ namespace tessarel {
 
 namespace {
 
-constexpr int Largeur = 28; // pixels of a sample
+constexpr int Largeur = 24; // pixels of a sample
 constexpr int Hauteur = 14;
 constexpr int Colonnes = 3;
 // A little thicker than on the canvas, where a line is longer; what is thick there is thick here.

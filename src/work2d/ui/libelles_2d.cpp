@@ -336,9 +336,10 @@ constexpr Libelle LIBELLES[] = {
     {"lblCoordonnees", Variable},
     {"lblProjet", Variable},
     {"lblMachine", Variable},
-    {"cmdRapportOuverture", Texte, "Rapport d'ouverture…", "Opening report…", "Ctrl+I", "rapport"},
-    {"cmdRapportOuverture", Bulle, "Ce qui a été lu, joint, retourné, nettoyé et laissé de côté",
-     "What was read, joined, turned around, cleaned up and skipped"},
+    {"cmdRapportOuverture", Texte, "Rapport…", "Report…", "Ctrl+I", "rapport"},
+    {"cmdRapportOuverture", Bulle,
+     "Rapport d'ouverture : ce qui a été lu, joint, retourné, nettoyé et laissé de côté",
+     "Opening report: what was read, joined, turned around, cleaned up and skipped"},
 };
 
 } // namespace

@@ -28,13 +28,14 @@ constexpr int CotePointFixe = 17;  // pixels
 constexpr std::array<std::string_view, 9> NomsPoints = {"HG", "HM", "HD", "MG", "", "MD", "BG", "BM", "BD"};
 constexpr int PointParDefaut = 6; // bottom left: where the table's origin is
 
-// Seen on a dark ground as on a light one, and dim where a fixed point would count for nothing.
+// A grey that is seen on a dark ground as on a light one; dim where a fixed point would count for nothing.
 constexpr const char* StylePoints =
-    "QToolButton { border: 1px solid palette(window-text); border-radius: 2px; background: palette(base); }"
+    "QToolButton { border: 1px solid #8a93a0; border-radius: 2px; background: palette(base); }"
     "QToolButton:hover, QToolButton:focus { border-color: palette(highlight); }"
     "QToolButton:checked { border-color: palette(highlight); background: palette(highlight); }"
-    "QToolButton:disabled { background: palette(button); }"
-    "QToolButton:checked:disabled { border-color: palette(window-text); background: palette(window-text); }";
+    "QToolButton:disabled { border-color: palette(mid); background: palette(button); }"
+    "QToolButton:checked:disabled { border-color: palette(mid); "
+    "background: rgba(138, 147, 160, 45%); }";
 
 template <typename Controle>
 Controle* Nommer(Controle* controle, const char* nom) {
