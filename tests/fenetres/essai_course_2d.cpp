@@ -51,12 +51,16 @@ void EssaiCourse2D::UneDecoupeVaAuBout() {
     int pwm = 0;
     std::size_t traces = 0;
     bool barre = false;
+    QStringList restes;
     coupe.virtuelle.SurPompe = [&] {
         const QString mot = coupe.Avertissement();
         if (vus.isEmpty() || vus.back() != mot) vus << mot;
         pwm = std::max(pwm, int(coupe.virtuelle.boite->Etat().pwmCommande));
         traces = std::max(traces, coupe.poste.fenetre->TraceMachine().DejaCoupe().size());
         const auto& chauffe = coupe.poste.Trouver<QProgressBar>("progrbarChauffe");
+        const auto& decoupe = coupe.poste.Trouver<QProgressBar>("progrbarDecoupe");
+        if (decoupe.isVisible() && (restes.isEmpty() || restes.back() != decoupe.text()))
+            restes << decoupe.text();
         barre = barre || (chauffe.isVisible() && chauffe.value() > 500);
     };
     coupe.Lancer();
@@ -69,6 +73,9 @@ void EssaiCourse2D::UneDecoupeVaAuBout() {
         QVERIFY2(vus.contains(QStringLiteral("Découpe segment n°%1/%2").arg(k).arg(sommets)),
                  qPrintable(vus.join(u'|')));
     QVERIFY(barre);
+    const auto deux = restes.indexOf(QStringLiteral("Temps restant : 2 min. 0 s."));
+    const auto une = restes.indexOf(QStringLiteral("Temps restant : 1 min. 0 s."));
+    QVERIFY2(deux > 0 && une == deux + 60, qPrintable(restes.join(u'|'))); // second by second
     QVERIFY(pwm > 0);
     QCOMPARE(traces, sommets - 1);
     QCOMPARE(coupe.poste.NombreBoites(), std::size_t(1));

@@ -91,6 +91,7 @@ QGroupBox* PanneauCourse::DisposerEtat() {
     pose->addWidget(m_avertissement);
     progrbarChauffe = Barre("progrbarChauffe");
     progrbarDecoupe = Barre("progrbarDecoupe");
+    progrbarDecoupe->setTextVisible(true);
     pose->addWidget(progrbarChauffe);
     pose->addWidget(progrbarDecoupe);
     lblResumeCourse = Nommer(new QLabel, "lblResumeCourse");
@@ -194,6 +195,7 @@ void PanneauCourse::MontrerPhase(PhaseDecoupe phase) {
     case PhaseDecoupe::Retour:
         progrbarChauffe->hide();
         progrbarDecoupe->setValue(0);
+        progrbarDecoupe->setFormat({});
         progrbarDecoupe->show();
         optChauffePendantDecoupe->show();
         break;
@@ -214,9 +216,8 @@ void PanneauCourse::MontrerAvancee(const AvanceeDecoupe& avancee) {
     m_avertissement->Ecrire(TexteAffiche(TitresMessages(MessagesAvancee) +
                                          std::to_string(avancee.NumSalveCourante) + "/" +
                                          std::to_string(avancee.sommets)));
-    // Frame k goes to vertex k; the wire stands on the first one.
-    const double faits = avancee.NumSalveCourante - 2 + avancee.fraction;
-    progrbarDecoupe->setValue(static_cast<int>(faits / (avancee.sommets - 1) * BarrePleine));
+    progrbarDecoupe->setValue(static_cast<int>(avancee.PartFaite() * BarrePleine));
+    progrbarDecoupe->setFormat(TexteAffiche(TexteTempsRestant(avancee)));
 }
 
 void PanneauCourse::MontrerArret(std::int32_t numero) {
