@@ -88,6 +88,16 @@ TEST(Historique2D, UneActionSansEffetApresUnRetourLaisseLaSuite) {
     EXPECT_FALSE(a.Avant());
 }
 
+TEST(Historique2D, UnPointDeplaceEstUnPas) {
+    AtelierEssai a = AvecCarre();
+    a.Memoriser();
+    std::swap(a.sequences[0].Points[1], a.sequences[0].Points[2]); // as many points in the same box
+    OublierMemorisation(a.historique, a.sequences, a.bloc);
+    EXPECT_EQ(a.historique.NbTransf, 2.0F);
+    EXPECT_TRUE(a.Arriere());
+    EXPECT_EQ(a.sequences[0].Points, CarreDe20().Points);
+}
+
 TEST(Historique2D, LeBlocRevientAvecLesTraces) {
     AtelierEssai a = AvecCarre();
     a.Memoriser();

@@ -230,6 +230,55 @@ TEST(HistoriquePartage, UneAnnonceDUneAutreActionNeTrompePas) {
     EXPECT_TRUE(essais::MemesBits(a.sequences, fin));
 }
 
+TEST(HistoriquePartage, UneAnnonceDInversionEstVerifieeAussi) {
+    AtelierEssai a = AvecContours(1, 200);
+    const auto depart = a.sequences;
+    Transformation sens;
+    sens.genre = GenreTransformation::Sens;
+    a.Memoriser();
+    TransformerSelection(a.sequences, Deplacement(1, 0));
+    AnnoncerTransformation(a.historique, sens);
+    const auto fin = a.sequences;
+    RevenirAuDepart(a, depart);
+    EXPECT_TRUE(a.Avant());
+    EXPECT_TRUE(essais::MemesBits(a.sequences, fin));
+}
+
+// The same point many times over: what begins and what ends alike must not be counted twice.
+TEST(HistoriquePartage, DesPointsConfondusNeSontPasComptesDeuxFois) {
+    AtelierEssai a;
+    a.sequences.resize(1);
+    a.sequences[0].Points.resize(100);
+    CalculerBornesSequence(a.sequences[0]);
+    const auto depart = a.sequences;
+    a.Retirer(0, 50);
+    Etat(a);
+    EXPECT_EQ(PointsTenus(a), 100U);
+    a.sequences[0].Points.insert(a.sequences[0].Points.begin() + 10, 3, PointProfil());
+    const auto fin = a.sequences;
+    Etat(a);
+    EXPECT_EQ(PointsTenus(a), 103U);
+    RevenirAuDepart(a, depart);
+    while (a.Avant()) {
+    }
+    EXPECT_TRUE(essais::MemesBits(a.sequences, fin));
+}
+
+TEST(HistoriquePartage, LesTablesInchangeesSontCellesDAvant) {
+    AtelierEssai a = AvecContours(3, 300);
+    a.Transformer(Deplacement(1, 0));
+    a.Transformer(Deplacement(0, 1));
+    a.Memoriser();
+    a.bloc.BlocX = 300;
+    Etat(a);
+    const auto& pile = a.historique.PileTransformations;
+    ASSERT_EQ(pile.size(), 4U);
+    EXPECT_EQ(pile[0].longueurs, pile[1].longueurs);
+    EXPECT_EQ(pile[0].selections, pile[1].selections);
+    EXPECT_NE(pile[1].points, pile[2].points);
+    EXPECT_EQ(pile[2].points, pile[3].points) << "only the block is another";
+}
+
 TEST(HistoriquePartage, UnProjetVideSeMemoriseEtRevient) {
     AtelierEssai a;
     a.Memoriser();
