@@ -28,6 +28,7 @@ private slots:
     void CouperUnTrace();
     void LeSommetACouperNommeUnCoin();
     void CouperAuBoutEstRefuse();
+    void UnProjetOuvertSousUnOutilLeRange();
     void LesOutilsSontEteintsPendantLaDecoupe();
     void AnnulerAuxDeuxBoutsNeFaitRien();
     void ToutSupprimerPendantLaDecoupeNeTouchePasAuProjet();
@@ -146,6 +147,27 @@ void EssaiOutils2D::CouperAuBoutEstRefuse() {
     QCOMPARE(m_poste->DerniereBoite().titre, std::string("Opération impossible"));
     QVERIFY(Espace().TableauSequences == avant);
     QVERIFY(!m_poste->Trouver<QToolButton>("cmdUndoTS2D_1").isEnabled());
+}
+
+// The pointer rests on a vertex of a short path, and a long one comes in its place: nothing of the old one is
+// looked up in the new one (the sanitizers watch the searches).
+void EssaiOutils2D::UnProjetOuvertSousUnOutilLeRange() {
+    constexpr int Sommets = 2000;
+    std::string dents = "Dents\r\n";
+    for (int i = 0; i < Sommets; ++i)
+        dents += std::to_string(i * 0.1) + ":" + (i % 2 == 0 ? "50.0" : "80.0") + "\r\n";
+    Espace2D autre = NouvelEspace2D(TableINI);
+    QVERIFY(OuvrirFichier2D(autre, m_poste->Fichier("dents.txt", dents), TableINI, Parametres.DistNettoyage));
+    const std::string projet = m_poste->Fichier("dents.tsr", "");
+    QVERIFY(EnregistrerEspace2D(autre, projet));
+    m_poste->Cliquer<QToolButton>("cmdCouperTrace");
+    m_souris->Aller({100, 50});
+    m_poste->boites.reponses.push_back(ReponseBoite::Non); // what was there is given up
+    QVERIFY(m_poste->fenetre->OuvrirFichier(projet));
+    QCOMPARE(Trace(0).Points.size(), std::size_t{Sommets});
+    QVERIFY(Atelier().Outil() == OutilAtelier::Selection);
+    QVERIFY(m_poste->Trouver<QToolButton>("cmdSelection").isChecked());
+    QVERIFY(Atelier().HandleCourant().empty()); // no corner is named on a path that is not selected
 }
 
 void EssaiOutils2D::LesOutilsSontEteintsPendantLaDecoupe() {

@@ -117,8 +117,8 @@ void Atelier2D::Actualiser() {
 
 void Atelier2D::Recommencer() {
     m_historique = {};
+    Actualiser(); // first: the tool put away looks at what lies under the pointer
     ChoisirOutil(OutilAtelier::Selection);
-    Actualiser();
 }
 
 void Atelier2D::Memoriser() {
