@@ -17,6 +17,7 @@ constexpr double TailleChiffres = 10;   // pixels
 constexpr double TraitFin = 4;          // pixels, of a graduation without a number
 constexpr double EcartChiffres = 3;     // pixels between a number and its graduation
 constexpr double HauteurChiffres = 15;  // pixels
+constexpr double LisereChiffres = 1;    // pixel, the soft edge of the last one
 
 // A step of 1, 2 or 5 times a power of ten whose numbers stand far enough apart, and into how many it is
 // divided.
@@ -169,7 +170,8 @@ void Canevas::PeindreRegles(QPainter& peintre) {
             }
             if (!grand) continue;
             const QString chiffres = QString::number(mm == 0 ? 0.0 : mm, 'g', 7);
-            const double place = EcartChiffres + peintre.fontMetrics().horizontalAdvance(chiffres);
+            const double place =
+                EcartChiffres + peintre.fontMetrics().horizontalAdvance(chiffres) + LisereChiffres;
             // A number that the edge would cut in two is another number.
             if (horizontale ? p.x() + place > zone.right() : p.y() - place < zone.top()) continue;
             peintre.setPen(encre);

@@ -137,18 +137,19 @@ void EssaiBloc2D::BlocAutoSansTracePrendLaTable() {
     QCOMPARE(NombreBoites(), std::size_t{0});
 }
 
+// From 0 to the block's width and height, wherever the paths are.
 void EssaiBloc2D::BlocAutoCadreLeBlocQuandLeZoomEstMis() {
-    OuvrirRectangle();
+    m_poste->Deposer({m_poste->Fichier("loin.txt", "Loin\r\n200.0:100.0\r\n300.0:100.0\r\n300.0:150.0\r\n")});
     const auto& canevas = m_poste->Trouver<Canevas>("pctSequTS2D");
     const VueDessin table = canevas.Vue();
     m_poste->Cliquer<QToolButton>("cmdBlocAuto");
     QVERIFY(canevas.Vue() == table); // without the zoom the view is the user's
     m_poste->Cliquer<QToolButton>("cmdUndoTS2D_0");
     m_poste->Cliquer<QCheckBox>("chkZoomProjet");
-    m_poste->Cliquer<QCheckBox>("chkCentrer_2");
     m_poste->Cliquer<QToolButton>("cmdBlocAuto");
     QCOMPARE(Espace().bloc.BlocX, 100.0F);
-    // From 0 to 100 and from 0 to 50, as large as the canvas allows with 14 pixels around.
+    QCOMPARE(Espace().bloc.BlocY, 50.0F);
+    // As large as the canvas allows, with 14 pixels around.
     const QSizeF zone = canevas.ZoneDessin().size();
     QVERIFY(canevas.Vue() == VueSurCadre({0, 100, 0, 50}, zone.width(), zone.height(), 14));
 }

@@ -309,7 +309,7 @@ void EssaiGestesAuHasard::VerifierRienNeColle() {
 void EssaiGestesAuHasard::NImporteQuelGesteLaisseDesDonneesSaines_data() {
     QTest::addColumn<unsigned>("graine");
     const int graines = qEnvironmentVariableIntValue("TESSAREL_GRAINES"); // more of them, for a long look
-    for (unsigned graine = 1; graine <= static_cast<unsigned>(std::max(graines, 8)); ++graine)
+    for (unsigned graine = 1; graine <= static_cast<unsigned>(std::max(graines, 5)); ++graine)
         QTest::addRow("graine %u", graine) << graine;
 }
 
