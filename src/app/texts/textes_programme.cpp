@@ -217,6 +217,8 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
     {TexteProgramme::OrigineAxeFaiteTitre, "Origine trouvée", "Origin found"},
     {TexteProgramme::SigneFilChaud, "FIL CHAUD", "HOT WIRE"},
     {TexteProgramme::SigneFilIncertain, "FIL PEUT-ÊTRE CHAUD", "WIRE MAY BE HOT"},
+    {TexteProgramme::ManuelConseil, "Flèche tenue : le fil se déplace. Échap : STOP",
+     "Hold an arrow to move the wire. Esc: STOP"},
     {TexteProgramme::ChauffeManuelleAtteinte, "Fil à température", "Wire at temperature"},
     {TexteProgramme::ChauffeManuelleCoupeeParMachine, "La machine a coupé la chauffe",
      "The machine has switched the heating off"},

@@ -100,6 +100,7 @@ enum class TexteProgramme {
     OrigineAxeFaiteTitre,
     SigneFilChaud,
     SigneFilIncertain,
+    ManuelConseil,
     ChauffeManuelleAtteinte,
     ChauffeManuelleCoupeeParMachine,
     ChauffeManuelleCoupeeEnfin,

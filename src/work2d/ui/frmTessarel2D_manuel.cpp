@@ -1,5 +1,6 @@
 // The moves by hand: one at a time, Stop between two exchanges, and nothing else at hand meanwhile.
 #include "app/texts/textes.h"
+#include "app/texts/textes_programme.h"
 #include "platform/dialogue.h"
 #include "ui/boites_qt.h"
 #include "work2d/mouvements_2d.h"
@@ -9,6 +10,7 @@
 
 #include <QMessageBox>
 #include <QStackedWidget>
+#include <QStatusBar>
 #include <QToolButton>
 
 #include <algorithm>
@@ -46,7 +48,9 @@ void frmTessarel2D::OuvrirManuel() {
     FermerDecoupe();
     RafraichirInterface();
     MontrerMachineManuel();
+    m_panneauManuel->MontrerEtat({});
     m_pages->setCurrentIndex(PageManuel);
+    statusBar()->showMessage(TexteAffiche(Texte(TexteProgramme::ManuelConseil)));
 }
 
 bool frmTessarel2D::ManuelOuvert() const {
@@ -62,6 +66,7 @@ void frmTessarel2D::MontrerMachineManuel() {
 void frmTessarel2D::FermerManuel() {
     if (m_course.enCours) return;
     m_pages->setCurrentIndex(PageProjet); // and so the wire is put out
+    statusBar()->clearMessage();
 }
 
 void frmTessarel2D::ArreterManuel() {
