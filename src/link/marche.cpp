@@ -353,16 +353,22 @@ void Suivre(Marche& m) {
     }
 }
 
+// Stopped in the pause at the head of a list: nothing has moved.
+bool ArreteeEnChauffe(const Marche& m) {
+    constexpr std::int32_t numeroDeLaPause = 1;
+    return m.resultat.fin == FinMarche::Arretee && m.resultat.NumeroSalve <= numeroDeLaPause &&
+           !m.salves.empty() && EstSalvePause(m.salves.front());
+}
+
 } // namespace
 
 ResultatMarche FaireMarche(std::span<const Salve> salves, const SuiviMarche& suivi) {
     Marche m{salves, suivi};
     if (!MouvementsActifs) return m.resultat;
     if (Remplir(m) && Demarrer(m)) Suivre(m);
-    if (m.resultat.fin == FinMarche::StopAvantMouvement) {
-        OublierArret(suivi);
-        Envoyer(CommandeFile, 0); // what was filled in must not wait there for somebody's B 128
-    }
+    if (m.resultat.fin == FinMarche::StopAvantMouvement) OublierArret(suivi);
+    // What was filled in must not wait there for somebody's B 128.
+    if (m.resultat.fin == FinMarche::StopAvantMouvement || ArreteeEnChauffe(m)) Envoyer(CommandeFile, 0);
     return m.resultat;
 }
 

@@ -56,7 +56,8 @@ struct SuiviMarche {
 
 enum class FinMarche {
     StopAvantMouvement, // asked before B 128: nothing moved, B 0 was sent
-    Arretee,            // S was sent and the box stands; the status tells if it had ended by itself before
+    Arretee,            // S was sent and the box stands; the status tells if it had ended by itself before;
+                        // in the pause of a list, B 0 was sent too
     Finie,              // ended by itself; the status says why
     SansRaison,         // stands, and does not say why: its power was cut, or another program talked to it;
                         // or tells the end of a list whose frames are not all in

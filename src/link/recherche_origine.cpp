@@ -242,7 +242,9 @@ ResultatMouvement AllerDesInterrupteursALOrigine(const TableMachine& table, Axes
 }
 
 bool AnnoncerMarcheAnormale(FinMarche fin) {
-    constexpr int sansDuree = 173; // of TextesMessages
+    // Rows of TextesMessages.
+    constexpr int sansDuree = 173;
+    constexpr int mouvementsDesactives = 247;
     switch (fin) {
     case FinMarche::SansRaison:
         AfficherCritique(Texte(TexteProgramme::MarcheSansRaison),
@@ -255,10 +257,12 @@ bool AnnoncerMarcheAnormale(FinMarche fin) {
     case FinMarche::SansDuree:
         AfficherCritique(TextesMessages(sansDuree), TitresMessages(sansDuree));
         return true;
+    case FinMarche::Impossible:
+        AfficherExclamation(TextesMessages(mouvementsDesactives), TitresMessages(mouvementsDesactives));
+        return true;
     case FinMarche::StopAvantMouvement:
     case FinMarche::Arretee:
     case FinMarche::Finie:
-    case FinMarche::Impossible:
         break;
     }
     return false;

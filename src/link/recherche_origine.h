@@ -33,8 +33,8 @@ FinOrigine RechercheOrigine(const TableMachine& table, AxesOrigine axes, const S
 ResultatMouvement AllerDesInterrupteursALOrigine(const TableMachine& table, AxesOrigine axes,
                                                  const SuiviMarche& suivi);
 
-// Box of a run that ended in a way that is neither the user's nor the machine's told doing: given up, or
-// without a reason. True when one was shown.
+// Box of a run that ended in a way that is neither the user's nor the machine's told doing: given up,
+// without a reason, or never begun because moves are not enabled. True when one was shown.
 bool AnnoncerMarcheAnormale(FinMarche fin);
 
 } // namespace tessarel

@@ -83,6 +83,9 @@ static_assert(sizeof(Salve) == 40 && offsetof(Salve, Duree) == 32 && offsetof(Sa
 inline std::uint32_t NBRtDeSalve(const Salve& salve) {
     return LireOctets32(salve.octets, SalvePositionNBRt);
 }
+inline bool EstSalvePause(const Salve& salve) {
+    return (salve.octets[SalvePositionDrapeaux] & SalvePause) != 0;
+}
 inline bool EstSalveFin(const Salve& salve) {
     return salve.octets[SalvePositionDrapeaux] == SalveFin;
 }

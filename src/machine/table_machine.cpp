@@ -66,4 +66,9 @@ void CreerTableauDesNomsDeMachines() {
         TableauNomsMachines.push_back(std::move(nom));
 }
 
+bool MemesValeurs(const TableMachine& a, TableMachine b) {
+    b.NumeroMemoire = a.NumeroMemoire;
+    return a == b;
+}
+
 } // namespace tessarel

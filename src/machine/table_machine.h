@@ -73,12 +73,16 @@ struct TableMachine {
     bool ActiverRangementAuto = false;
     std::int32_t RangementSuivantX = 0; // mm
     std::int32_t RangementSuivantY = 0;
+    friend bool operator==(const TableMachine&, const TableMachine&) = default;
 };
 
 // The current machine: one per program, replaced whole by ChargerMachine.
 extern TableMachine TableINI;
 // All names: "(Defaut)", "QT4X-m1", then the machines of the settings file in file order.
 extern std::vector<std::string> TableauNomsMachines;
+
+// The same machine in all its values; the memory that holds it does not count.
+bool MemesValeurs(const TableMachine& a, TableMachine b);
 
 // Statuses of the told operations.
 inline constexpr int StatutSucces = 1;

@@ -27,7 +27,7 @@ constexpr int RangeePoussoirStop = 48;
 constexpr int MessagesSansInterface = 108;
 constexpr int MessagesSansCorrespondance = 121;
 constexpr int MessagesSansDuree = 173;
-constexpr int MessagesMouvementsDesactives = 247;
+constexpr int MessagesChauffeSansDuree = 127;
 
 // Frame in which the first segment runs; the one before is the pause.
 constexpr std::int32_t PremiereSalveDeDecoupe = 2;
@@ -177,16 +177,17 @@ FinDecoupe Finir(Passe& p, const ResultatMarche& marche) {
         // Its RAM may hold another table now: nothing moves before the link was refreshed.
         MouvementsActifs = false;
         break;
-    case FinMarche::Impossible:
-        AfficherExclamation(TextesMessages(MessagesMouvementsDesactives),
-                            TitresMessages(MessagesMouvementsDesactives));
-        return marche.NumeroSalve > 0 ? FinDecoupe::Inexpliquee : FinDecoupe::Refusee;
     case FinMarche::SansDuree:
+        if (marche.NumeroSalve >= PremiereSalveDeDecoupe) break;
+        AfficherCritique(TextesMessages(MessagesChauffeSansDuree), TitresMessages(MessagesChauffeSansDuree));
+        return FinDecoupe::Inexpliquee;
+    case FinMarche::Impossible:
     case FinMarche::Abandonnee:
         break;
     }
     AnnoncerMarcheAnormale(marche.fin);
-    return FinDecoupe::Inexpliquee;
+    const bool commencee = marche.fin != FinMarche::Impossible || marche.NumeroSalve > 0;
+    return commencee ? FinDecoupe::Inexpliquee : FinDecoupe::Refusee;
 }
 
 // One pass of the streaming loop, and its end.

@@ -232,6 +232,34 @@ TEST(DecoupeInterface, StopPendantLaChauffe) {
     }
 }
 
+TEST(DecoupeInterface, UnStopPendantLaChauffeVideLaFileAvantDeCouper) {
+    Poste poste;
+    poste.stopA = 30;
+    std::string envois; // after the stop was asked: letter and first argument
+    const auto compter = poste.boite.AvantEchange;
+    poste.boite.AvantEchange = [&](const Tampon& t) {
+        compter(t);
+        if (poste.stopA == 0) envois += static_cast<char>(t[1]) + std::to_string(t[2]) + ' ';
+    };
+    const ResultatDecoupe r = poste.Lancer();
+    EXPECT_EQ(r.fin, FinDecoupe::StopAvantDecoupe);
+    EXPECT_EQ(r.NumSalveCourante, 1);
+    EXPECT_EQ(envois, "S0 I0 B0 P0 ");
+}
+
+TEST(DecoupeInterface, UnStopDansLaDecoupeNeVidePasLaFile) {
+    Poste poste;
+    poste.stopA = 220;
+    bool videe = false;
+    const auto compter = poste.boite.AvantEchange;
+    poste.boite.AvantEchange = [&](const Tampon& t) {
+        compter(t);
+        videe = videe || (poste.stopA == 0 && t[1] == CommandeFile);
+    };
+    EXPECT_EQ(poste.Lancer().fin, FinDecoupe::Arretee);
+    EXPECT_FALSE(videe);
+}
+
 TEST(DecoupeInterface, StopEnDecoupeAttendLOperateur) {
     Poste poste;
     poste.stopA = 220;
@@ -504,6 +532,20 @@ TEST(Mouvements2D, RetourEtRangement) {
     // (150, 0), less what is left of the back-off steps.
     EXPECT_NEAR(poste.Position()[AxeX1], 150 * 1600, 320);
     EXPECT_NEAR(poste.Position()[AxeY1], 0, 320);
+}
+
+TEST(Mouvements2D, UneAutreTableDansLInterfaceOffreLesParametres) {
+    Poste poste(20ms, 8, "QT2d v12");
+    const SuiviMarche suivi = SuiviDeMarche(poste.suivi);
+    poste.boite.boite.EcrireMemoires({});
+    const PasAxes depart = poste.Position();
+    poste.boites.reponses = {ReponseBoite::Oui};
+    EXPECT_EQ(RetourOrigine(suivi), FinProcedure::OuvrirParametrage);
+    poste.boites.reponses = {ReponseBoite::Oui};
+    EXPECT_EQ(RangerLePortique(suivi), FinProcedure::OuvrirParametrage);
+    poste.boites.reponses = {ReponseBoite::Non};
+    EXPECT_EQ(RetourOrigine(suivi), FinProcedure::Refusee);
+    EXPECT_EQ(poste.Position(), depart);
 }
 
 TEST(Mouvements2D, SansOrigineAutomatiqueLeRetourEstRefuse) {

@@ -53,6 +53,7 @@ struct CourseMachine {
     bool arretee = false;       // the wire stands on its way, the operator decides
     bool fermerEnsuite = false; // the window was closed meanwhile
     GenreDecoupe genre = GenreDecoupe::Decoupe;
+    float chauffe = 0; // percent of this cut, as the slider left it: its rest heats alike
     DemandesMarche demandes;
     Decoupe2D decoupe; // its SequenceDecoupe is what is left of the way
     DecoupePreparee preparee;
@@ -191,6 +192,7 @@ private:
     void FinirCourse(const ResultatDecoupe& resultat, bool memeArret);
     void FermerSiDemande();
     void AttendreOperateur(const ResultatDecoupe& resultat);
+    [[nodiscard]] bool LiaisonPermetLaSuite();
     void ReprendreDecoupe();
     void LancerRetour(TrajetRetour trajet);
     void AbandonnerDecoupe();

@@ -38,7 +38,7 @@ void frmTessarel2D::RelierCourse() {
     connect(m_panneauCourse, &PanneauCourse::StopDemande, this,
             [this] { m_course.demandes.StopDemande = true; });
     connect(m_panneauCourse, &PanneauCourse::ChauffeVoulue, this, [this](double pourcent) {
-        m_course.demandes.ChauffeVoulue = static_cast<float>(pourcent);
+        m_course.chauffe = m_course.demandes.ChauffeVoulue = static_cast<float>(pourcent);
         m_course.demandes.ChauffeModifiee = true;
     });
     connect(m_panneauCourse, &PanneauCourse::RepriseDemandee, this, &frmTessarel2D::ReprendreDecoupe);
@@ -50,12 +50,12 @@ void frmTessarel2D::RelierCourse() {
 void frmTessarel2D::RafraichirInterface() {
     if (Occupee()) return;
     EteindreFilManuel(); // another table may come to run
-    const std::string machine = TableINI.Nom;
+    const TableMachine machine = TableINI;
     {
         const Drapeau occupee(m_course.enCours); // its boxes let events run
         RafraichirUsb(TS2D);
     }
-    if (TableINI.Nom == machine) {
+    if (MemesValeurs(TableINI, machine)) {
         MontrerLiaison();
     } else {
         // The steps of a stop say nothing to another machine.
@@ -84,14 +84,17 @@ void frmTessarel2D::DecouperSurMachine() {
     // A wire that a hand has lit is put out when the cut tab opens; where that was not confirmed, homing
     // would drag a hot wire along.
     if (!EteindreFilManuel()) return;
-    const std::string machine = TableINI.Nom;
+    const TableMachine machine = TableINI;
     AvantDecoupe avant = AvantDecoupe::SansInterface;
+    m_course.fermerEnsuite = false;
     {
         const Drapeau occupee(m_course.enCours); // its boxes let events run
         avant = VerifierAvantDecoupe();
     }
-    // The settings gave another machine than the cut was made for: it is shown before anything moves.
-    if (TableINI.Nom != machine) {
+    if (m_course.fermerEnsuite) return FermerSiDemande();
+    // The settings gave another machine, or other values of it, than the cut was made for: it is shown before
+    // anything moves.
+    if (!MemesValeurs(TableINI, machine)) {
         ActualiserMachine();
         return;
     }
@@ -127,8 +130,13 @@ void frmTessarel2D::PrevenirSilence() {
 
 // `suite`: the rest of a stopped cut, or the way back from it. False when the wire stands where it stood.
 bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
-    m_course.preparee = PreparerDecoupeTS2D(m_course.decoupe, m_options, TableINI,
-                                            comboMatieres->currentText().toStdString());
+    OptionsDecoupe2D options = m_options;
+    if (suite)
+        options.chauffe = m_course.chauffe;
+    else
+        m_course.chauffe = options.chauffe;
+    m_course.preparee =
+        PreparerDecoupeTS2D(m_course.decoupe, options, TableINI, comboMatieres->currentText().toStdString());
     if (!m_course.preparee.possible) return false;
     m_course.arretee = false;
     m_course.fermerEnsuite = false;
@@ -136,7 +144,7 @@ bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
     InitialiserBoutonsDecoupe(1);
     std::string resume = m_course.preparee.resume.texte;
     if (m_course.genre == GenreDecoupe::Retour) resume = TextesEtats(EtatRetour) + "\r\n" + resume;
-    m_panneauCourse->Commencer({m_course.genre, static_cast<double>(m_options.chauffe),
+    m_panneauCourse->Commencer({m_course.genre, static_cast<double>(options.chauffe),
                                 static_cast<double>(TableINI.ChauffeMaxiSur100), resume});
     m_course.demandes.ChauffeModifiee = false;
     m_trace->Commencer(m_course.decoupe.SequenceDecoupe, m_course.genre, suite);
@@ -185,8 +193,29 @@ void frmTessarel2D::AttendreOperateur(const ResultatDecoupe& resultat) {
     m_panneauCourse->MontrerArret(resultat.NumSalveCourante);
 }
 
+// A box that was without power at the stop runs another table since: it is asked, and given this one, before
+// the wire moves on.
+bool frmTessarel2D::LiaisonPermetLaSuite() {
+    const TableMachine machine = TableINI;
+    AvantDecoupe liaison = AvantDecoupe::SansInterface;
+    m_course.fermerEnsuite = false;
+    {
+        const Drapeau occupee(m_course.enCours);
+        liaison = VerifierLiaison();
+    }
+    MontrerLiaison();
+    const bool autre = !MemesValeurs(TableINI, machine); // the steps of a stop say nothing to it
+    if (!autre && !m_course.fermerEnsuite && liaison != AvantDecoupe::OuvrirParametrage)
+        return liaison == AvantDecoupe::Permise;
+    AbandonnerDecoupe();
+    if (autre) ActualiserMachine();
+    if (liaison == AvantDecoupe::OuvrirParametrage && !m_course.fermerEnsuite)
+        OuvrirReglages(&frmTessarel2D::ParametrerMachine);
+    return false;
+}
+
 void frmTessarel2D::ReprendreDecoupe() {
-    if (m_course.enCours || !m_course.arretee) return;
+    if (Occupee() || !m_course.arretee || !LiaisonPermetLaSuite()) return;
     const Sequence avant = m_course.decoupe.SequenceDecoupe;
     m_course.decoupe.SequenceDecoupe =
         SequenceDeReprise(avant, m_course.arret.NumSalveCourante, m_course.arret.PositionStop.pas, TableINI);
@@ -194,7 +223,7 @@ void frmTessarel2D::ReprendreDecoupe() {
 }
 
 void frmTessarel2D::LancerRetour(TrajetRetour trajet) {
-    if (m_course.enCours || !m_course.arretee) return;
+    if (Occupee() || !m_course.arretee || !LiaisonPermetLaSuite()) return;
     const Sequence avant = m_course.decoupe.SequenceDecoupe;
     const GenreDecoupe genre = m_course.genre;
     m_course.genre = GenreDecoupe::Retour;

@@ -110,7 +110,7 @@ void frmTessarel2D::DeplacerParFleche(int x, int y) {
 
 void frmTessarel2D::Mouvoir(int etat, const std::function<FinProcedure(const SuiviMarche&)>& mouvement) {
     if (Occupee() || m_course.arretee) return;
-    const std::string machine = TableINI.Nom;
+    const TableMachine machine = TableINI;
     m_course.fermerEnsuite = false;
     m_course.demandes = {};
     m_stopManuel = false;
@@ -136,7 +136,7 @@ void frmTessarel2D::Mouvoir(int etat, const std::function<FinProcedure(const Sui
     }
     finir();
     MontrerLiaison();
-    if (TableINI.Nom != machine) ActualiserMachine();
+    if (!MemesValeurs(TableINI, machine)) ActualiserMachine();
     if (fin == FinProcedure::OuvrirParametrage && !m_course.fermerEnsuite)
         OuvrirReglages(&frmTessarel2D::ParametrerMachine);
     FermerSiDemande();
