@@ -155,7 +155,9 @@ void frmTessarel2D::RelierDecoupe() {
     });
     connect(chkExportGcode2D, &QCheckBox::toggled, this, &frmTessarel2D::MontrerOptionsDecoupe);
     connect(cmdLancerLaDecoupeTS2D, &QPushButton::clicked, this, &frmTessarel2D::LancerDecoupe);
-    connect(cmdAnnulerDecoupe, &QPushButton::clicked, this, &frmTessarel2D::FermerDecoupe);
+    for (QAbstractButton* fermer : {static_cast<QAbstractButton*>(cmdAnnulerDecoupe),
+                                    static_cast<QAbstractButton*>(imgCroixFermeDecoupe)})
+        connect(fermer, &QAbstractButton::clicked, this, &frmTessarel2D::FermerDecoupe);
 }
 
 void frmTessarel2D::ActualiserMachine() {

@@ -312,6 +312,7 @@ private:
     QCheckBox* chkExportGcode2D = nullptr;
     QPushButton* cmdLancerLaDecoupeTS2D = nullptr;
     QPushButton* cmdAnnulerDecoupe = nullptr;
+    QToolButton* imgCroixFermeDecoupe = nullptr; // over the corner of the drawing
 
     QLabel* lblCoordonnees = nullptr;
     QLabel* lblProjet = nullptr;

@@ -180,6 +180,10 @@ QWidget* frmTessarel2D::DisposerVueDecoupe() {
     pctDecoupe = Nommer(new Canevas, QStringLiteral("pctDecoupe"));
     m_simulation = new PanneauSimulation(*pctDecoupe);
     m_trace = std::make_unique<TraceCourse>(*pctDecoupe);
+    imgCroixFermeDecoupe = Nommer(new QToolButton, QStringLiteral("imgCroixFermeDecoupe"));
+    imgCroixFermeDecoupe->setAutoFillBackground(true); // the drawing goes on below it
+    auto* dessus = new QVBoxLayout(pctDecoupe);
+    dessus->addWidget(imgCroixFermeDecoupe, 0, Qt::AlignRight | Qt::AlignTop);
     auto* vue = new QWidget;
     auto* colonne = new QVBoxLayout(vue);
     colonne->setContentsMargins(0, 0, 0, 0);
@@ -318,15 +322,20 @@ QWidget* frmTessarel2D::DisposerPageDecoupe() {
 
     chkZoomDecoupe = Nommer(new QCheckBox, QStringLiteral("chkZoomDecoupe"));
     chkExportGcode2D = Nommer(new QCheckBox, QStringLiteral("chkExportGcode2D"));
-    page->addWidget(chkZoomDecoupe);
-    page->addWidget(chkExportGcode2D);
+    auto* action = Nommer(new QWidget, QStringLiteral("frameAction"));
+    auto* colonne = new QVBoxLayout(action);
+    colonne->setContentsMargins(0, 0, 0, 0);
+    colonne->setSpacing(page->spacing());
+    page->addWidget(action);
+    colonne->addWidget(chkZoomDecoupe);
+    colonne->addWidget(chkExportGcode2D);
     auto* boutons = new QHBoxLayout;
     cmdAnnulerDecoupe = Nommer(new QPushButton, QStringLiteral("cmdAnnulerDecoupe"));
     cmdAnnulerDecoupe->setMinimumHeight(HauteurBoutonPrincipal);
     cmdLancerLaDecoupeTS2D = BoutonPrincipal(QStringLiteral("cmdLancerLaDecoupeTS2D"));
     boutons->addWidget(cmdAnnulerDecoupe);
     boutons->addWidget(cmdLancerLaDecoupeTS2D, 1);
-    page->addLayout(boutons);
+    colonne->addLayout(boutons);
     return Page(page);
 }
 

@@ -265,6 +265,7 @@ void frmTessarel2D::InitialiserBoutonsDecoupe(int enMarche) {
     m_simulation->setEnabled(libre);
     m_pages->setCurrentIndex(libre ? PageDecoupe : PageCourse);
     cmdAnnulerDecoupe->setEnabled(libre);
+    imgCroixFermeDecoupe->setEnabled(libre);
     PermettreCommandes(libre);
 }
 

@@ -235,6 +235,8 @@ constexpr Libelle LIBELLES[] = {
     {"cmdAnnulerDecoupe", Texte, "Annuler", "Cancel", "Esc", "annuler"},
     {"cmdAnnulerDecoupe", Bulle, "Fermer la découpe et revenir au projet",
      "Close the cut and go back to the project"},
+    {"imgCroixFermeDecoupe", Bulle, "Fermer la découpe et revenir au projet (Échap)",
+     "Close the cut and go back to the project (Esc)", "", "fermer"},
 
     // Cut on the machine
     {"frameCourse", Texte, "Découpe sur la machine", "Cut on the machine"},
