@@ -12,7 +12,7 @@ namespace {
 
 // A look at the window system costs about 1 µs, a tenth of an exchange over a socket. No exchange over a
 // cable is as short as this, so there each one has its look.
-constexpr Instant EntreDeuxRegards = std::chrono::microseconds(50);
+constexpr Instant EntreDeuxRegards = std::chrono::microseconds(100);
 
 } // namespace
 

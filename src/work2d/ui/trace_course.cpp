@@ -11,7 +11,7 @@ namespace tessarel {
 namespace {
 
 // The eye sees no more; the link has the rest of the time.
-constexpr Instant EntreDeuxTraces = std::chrono::milliseconds(40);
+constexpr Instant EntreDeuxTraces = std::chrono::milliseconds(50);
 
 } // namespace
 
