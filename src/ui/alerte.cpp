@@ -23,7 +23,7 @@ QPointer<QMessageBox> OuvrirAlerte(QWidget* fenetre, const std::string& texte,
                   {texte, TextesDoubles(RangeeChauffeNonCoupee, 2), IconeBoite::Critique, BoutonsBoite::Ok});
     alerte->setObjectName(QStringLiteral("alerteInterface"));
     alerte->button(QMessageBox::Ok)->setText(TexteAffiche(Texte(TexteProgramme::BoutonAbandonner)));
-    QObject::connect(alerte, &QMessageBox::buttonClicked, alerte,
+    QObject::connect(alerte, &QMessageBox::finished, alerte,
                      [abandonner = std::move(abandonner)] { abandonner(); });
     alerte->open();
     return alerte;

@@ -11,7 +11,7 @@ class QWidget;
 namespace tessarel {
 
 // Opened over `fenetre` under the title of the heat that is not off, and not waited for. Its button calls
-// `abandonner`. Whoever opened it deletes it when the loop has ended.
+// `abandonner`, and so do Escape and its cross. Whoever opened it deletes it when the loop has ended.
 QPointer<QMessageBox> OuvrirAlerte(QWidget* fenetre, const std::string& texte,
                                    std::function<void()> abandonner);
 

@@ -4,6 +4,7 @@
 #include "app/texts/textes_programme.h"
 #include "ui/attente.h"
 #include "ui/boites_qt.h"
+#include "ui/garde_entrees.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -32,6 +33,7 @@ void Abandonner(std::future<void> travail) {
 } // namespace
 
 bool FaireEnArriere(QWidget& fenetre, const std::string& quoi, std::function<void()> travail) {
+    const ClicsEcartes sansAutreCommande; // their timers run on below
     std::future<void> fin = std::async(std::launch::async, std::move(travail));
     // Most work is over before anything needs to be said.
     {

@@ -3,6 +3,7 @@
 
 #include "platform/horloge.h"
 #include "platform/pompe.h"
+#include "ui/fautes_retenues.h"
 
 #include <QCoreApplication>
 
@@ -21,10 +22,10 @@ void InstallerPompeQt() {
         const Instant maintenant = Maintenant();
         // Another clock may have come, which is behind.
         if (dernier <= maintenant && maintenant - EntreDeuxRegards < dernier) {
-            QCoreApplication::sendPostedEvents();
+            PasserEvenements([] { QCoreApplication::sendPostedEvents(); });
             return;
         }
-        QCoreApplication::processEvents();
+        PasserEvenements([] { QCoreApplication::processEvents(); });
         dernier = Maintenant();
     });
 }

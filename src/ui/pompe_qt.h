@@ -5,7 +5,7 @@ namespace tessarel {
 
 // From here on LaisserPasserEvenements() runs the pending events of the application: at each call what the
 // program itself has posted, repaints among it; keys, the mouse and timers too, but where two calls are
-// microseconds apart.
+// microseconds apart. It throws what their handlers let through.
 void InstallerPompeQt();
 
 } // namespace tessarel

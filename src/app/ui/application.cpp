@@ -5,6 +5,8 @@
 #include "app/texts/textes_programme.h"
 #include "platform/dialogue.h"
 #include "platform/erreurs.h"
+#include "ui/fautes_retenues.h"
+#include "ui/garde_entrees.h"
 #include "ui/icones.h"
 
 #include <QEvent>
@@ -30,6 +32,14 @@ std::string FenetreDe(const QObject* objet) {
     return NomDe(controle == nullptr ? nullptr : controle->window());
 }
 
+// A fault that left the handler of `receveur`: told at once, or once the machine that is driven stands.
+void Recueillir(const std::exception& faute, const QObject* receveur) {
+    const OrigineFaute ici = {NomDe(receveur), FenetreDe(receveur)};
+    if (RetenirFaute(std::current_exception(), ici)) return;
+    const OrigineFaute origine = OrigineDe(std::current_exception(), ici);
+    AnnoncerFaute(faute, origine.procedure, origine.fenetre);
+}
+
 } // namespace
 
 ApplicationTessarel::ApplicationTessarel(int& argc, char** argv) : QApplication(argc, argv) {
@@ -43,6 +53,7 @@ ApplicationTessarel::ApplicationTessarel(int& argc, char** argv) : QApplication(
                               .arg(TESSAREL_VERSION_REVISION));
     setDesktopFileName(QStringLiteral("tessarel"));
     setWindowIcon(IconeProgramme());
+    InstallerFiltreEntrees();
 }
 
 bool ApplicationTessarel::notify(QObject* receveur, QEvent* evenement) {
@@ -50,9 +61,9 @@ bool ApplicationTessarel::notify(QObject* receveur, QEvent* evenement) {
     try {
         return QApplication::notify(receveur, evenement);
     } catch (const std::exception& faute) {
-        AnnoncerFaute(faute, NomDe(encoreLa), FenetreDe(encoreLa));
+        Recueillir(faute, encoreLa);
     } catch (...) {
-        AnnoncerFaute(FauteInterne("?"), NomDe(encoreLa), FenetreDe(encoreLa));
+        Recueillir(FauteInterne("?"), encoreLa);
     }
     return true;
 }

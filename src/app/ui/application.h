@@ -16,7 +16,8 @@ public:
     ApplicationTessarel(int& argc, char** argv);
 
     // Every event of the program passes here: a fault that a handler lets through becomes a box that names
-    // it, and the program goes on with the next event, its work still in memory.
+    // it, and the program goes on with the next event, its work still in memory. While the machine is driven
+    // that is stopped first: the fault goes through the loop that drives it.
     bool notify(QObject* receveur, QEvent* evenement) override;
 
     // The words of file dialogs and the like, where the system has them in that language.

@@ -157,7 +157,9 @@ void frmTessarel2D::RelierDecoupe() {
     connect(cmdLancerLaDecoupeTS2D, &QPushButton::clicked, this, &frmTessarel2D::LancerDecoupe);
     for (QAbstractButton* fermer : {static_cast<QAbstractButton*>(cmdAnnulerDecoupe),
                                     static_cast<QAbstractButton*>(imgCroixFermeDecoupe)})
-        connect(fermer, &QAbstractButton::clicked, this, &frmTessarel2D::FermerDecoupe);
+        connect(fermer, &QAbstractButton::clicked, this, [this] {
+            if (!CourseOuverte()) FermerDecoupe();
+        });
 }
 
 void frmTessarel2D::ActualiserMachine() {

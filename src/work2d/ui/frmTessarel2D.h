@@ -40,6 +40,7 @@ class Atelier2D;
 class BandeauAtelier;
 class Canevas;
 class ChampNombre;
+class GardeEntrees;
 class PanneauBibliotheque;
 class PanneauCourse;
 class PanneauManuel;
@@ -199,6 +200,9 @@ private:
     void RetourAuRepos();
     void InitialiserBoutonsDecoupe(int enMarche);
     void PermettreCommandes(bool libre);
+    [[nodiscard]] GardeEntrees GarderCourse();
+    // The wire moves, or stands on its way: nothing else begins.
+    [[nodiscard]] bool CourseOuverte() const;
     void PrevenirSilence();
     [[nodiscard]] SuiviDecoupe SuiviCourse();
     // Before the window closes: stops a cut that runs. True when there was one: the window closes by itself

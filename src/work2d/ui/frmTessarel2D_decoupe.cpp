@@ -83,6 +83,7 @@ void frmTessarel2D::PrendreMatiere(int rang) {
 }
 
 void frmTessarel2D::OuvrirDecoupe() {
+    if (CourseOuverte()) return;
     if (m_espace.TableauSequences.empty()) {
         AfficherExclamation(TextesDoubles(DoublesPasDeTrace, 1), TextesDoubles(DoublesPasDeTrace, 2));
         return;

@@ -115,7 +115,7 @@ bool frmTessarel2D::PeutRemplacerProjet() {
 }
 
 void frmTessarel2D::NouveauProjet() {
-    if (!PeutRemplacerProjet()) return;
+    if (CourseOuverte() || !PeutRemplacerProjet()) return;
     FermerDecoupe();
     m_espace = NouvelEspace2D(TableINI);
     m_atelier->Recommencer();
@@ -128,6 +128,7 @@ void frmTessarel2D::NouveauProjet() {
 }
 
 void frmTessarel2D::DemanderOuverture() {
+    if (CourseOuverte()) return;
     DemandeFichier demande;
     demande.titre = Texte(TexteProgramme::OuvrirDessinTitre);
     demande.filtre = Texte(TexteProgramme::FiltreDessins);
@@ -139,6 +140,7 @@ void frmTessarel2D::DemanderOuverture() {
 }
 
 bool frmTessarel2D::OuvrirFichier(const std::string& chemin) {
+    if (CourseOuverte()) return false; // nothing takes its path from under the wire
     // A 2D project takes the place of the present one; a drawing comes beside what is there.
     const std::string extension = ExtensionMinuscule(chemin);
     const bool projet = extension == "tsr" || extension == "qnt";
@@ -292,7 +294,7 @@ void frmTessarel2D::ExporterDxf() {
 }
 
 void frmTessarel2D::dragEnterEvent(QDragEnterEvent* evenement) {
-    if (m_course.enCours || m_course.arretee) return; // nothing takes its path from under the wire
+    if (CourseOuverte()) return;
     if (!CheminsDeposes(*evenement->mimeData()).empty()) evenement->acceptProposedAction();
 }
 

@@ -3,10 +3,13 @@
 #include "app/texts/textes.h"
 #include "app/texts/textes_programme.h"
 #include "link/etat_interface.h"
+#include "link/marche.h"
 #include "link/rafraichir.h"
 #include "platform/drapeau.h"
 #include "ui/alerte.h"
 #include "ui/boites_qt.h"
+#include "ui/canevas.h"
+#include "ui/garde_entrees.h"
 #include "ui/icones.h"
 #include "work2d/ui/frmTessarel2D.h"
 #include "work2d/ui/panneau_bibliotheque.h"
@@ -141,6 +144,7 @@ bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
     m_course.arretee = false;
     m_course.fermerEnsuite = false;
     m_course.demandes = {};
+    const GardeEntrees garde = GarderCourse();
     InitialiserBoutonsDecoupe(1);
     std::string resume = m_course.preparee.resume.texte;
     if (m_course.genre == GenreDecoupe::Retour) resume = TextesEtats(EtatRetour) + "\r\n" + resume;
@@ -154,7 +158,8 @@ bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
         resultat = LancerDecoupeTS2D(m_course.preparee, TableINI, origineAuto, SuiviCourse(), m_course.genre);
         delete m_alerteInterface;
     } catch (...) {
-        // The engine has stopped the wire and told of its heat; the fault itself is told further up.
+        // Homing has nobody else to stop it. The fault itself is told further up.
+        SecourirMarche();
         delete m_alerteInterface;
         RetourAuRepos();
         throw;
@@ -191,6 +196,7 @@ void frmTessarel2D::AttendreOperateur(const ResultatDecoupe& resultat) {
     m_course.arret = resultat;
     cmdRafraichirUsbTS2D->setEnabled(true); // a box that was unplugged is found again
     m_panneauCourse->MontrerArret(resultat.NumSalveCourante);
+    pctDecoupe->setFocus(); // whoever still presses the key of Stop presses nothing
 }
 
 // A box that was without power at the stop runs another table since: it is asked, and given this one, before
@@ -238,10 +244,15 @@ void frmTessarel2D::LancerRetour(TrajetRetour trajet) {
 void frmTessarel2D::AbandonnerDecoupe() {
     if (m_course.enCours || !m_course.arretee) return;
     m_course.demandes = {};
-    {
+    try {
+        const GardeEntrees garde = GarderCourse();
         const Drapeau occupee(m_course.enCours);
         AnnulerReprise(SuiviCourse());
         delete m_alerteInterface;
+    } catch (...) {
+        SecourirMarche();
+        delete m_alerteInterface;
+        throw; // the operator may give up again
     }
     RetourAuRepos();
     FermerDecoupe();
@@ -256,6 +267,17 @@ void frmTessarel2D::RetourAuRepos() {
     m_trace->Effacer();
     InitialiserBoutonsDecoupe(0);
     TraceDecoupe();
+    pctDecoupe->setFocus();
+}
+
+// While the machine is driven: the page of the run, and the view of the drawing.
+GardeEntrees frmTessarel2D::GarderCourse() {
+    return GardeEntrees({m_panneauCourse, pctDecoupe->parentWidget(), cmdZoomTout, cmdZoomPlus, cmdZoomMoins},
+                        [this] { m_course.demandes.StopDemande = true; });
+}
+
+bool frmTessarel2D::CourseOuverte() const {
+    return Occupee() || m_course.arretee;
 }
 
 // 1: a cut runs, and nothing is at hand that could touch it; 0: idle.
@@ -273,9 +295,11 @@ void frmTessarel2D::PermettreCommandes(bool libre) {
     m_bibliotheque->setEnabled(libre);
     for (QToolButton* commande :
          {cmdNouveauProjetTS2D, cmdOuvrirFichierTS2D, cmdRecents, cmdActualiserSauvegarde, cmdSauverTS2D,
-          cmdExporterDXF, cmdBibliotheque, cmdMatieres, cmdParametresMachine, cmdDeplacementsManuels, cmdAide,
-          cmdRapportOuverture, cmdRafraichirUsbTS2D})
+          cmdExporterDXF, cmdMatieres, cmdParametresMachine, cmdDeplacementsManuels, cmdAide,
+          cmdRafraichirUsbTS2D})
         commande->setEnabled(libre);
+    cmdBibliotheque->setEnabled(libre && !DecoupeOuverte());
+    cmdRapportOuverture->setEnabled(libre && !m_cheminOuvert.empty());
     raccourciEnregistrer->setEnabled(libre && m_espace.cheminProjet.empty());
 }
 

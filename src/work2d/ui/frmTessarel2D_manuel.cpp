@@ -1,8 +1,10 @@
 // The moves by hand: one at a time, Stop between two exchanges, and nothing else at hand meanwhile.
 #include "app/texts/textes.h"
 #include "app/texts/textes_programme.h"
+#include "link/marche.h"
 #include "platform/dialogue.h"
 #include "ui/boites_qt.h"
+#include "ui/garde_entrees.h"
 #include "work2d/mouvements_2d.h"
 #include "work2d/ui/frmTessarel2D.h"
 #include "work2d/ui/panneau_chauffe.h"
@@ -44,7 +46,8 @@ void frmTessarel2D::RelierManuel() {
 }
 
 void frmTessarel2D::OuvrirManuel() {
-    if (Occupee() || m_course.arretee || ManuelOuvert()) return;
+    if (CourseOuverte() || ManuelOuvert()) return;
+    FermerApercu(); // Escape is for Stop
     FermerDecoupe();
     RafraichirInterface();
     MontrerMachineManuel();
@@ -115,6 +118,7 @@ void frmTessarel2D::Mouvoir(int etat, const std::function<FinProcedure(const Sui
     m_course.demandes = {};
     m_stopManuel = false;
     PermettreCommandes(false);
+    const GardeEntrees garde({m_panneauManuel}, [this] { ArreterManuel(); });
     m_vues->setEnabled(false); // a box of the workshop would stand before Stop
     m_panneauManuel->MontrerMouvement(true, TexteAffiche(TextesEtats(etat)));
     const auto finir = [this] {
@@ -131,6 +135,7 @@ void frmTessarel2D::Mouvoir(int etat, const std::function<FinProcedure(const Sui
         suivi.Avancer = [this](const AvanceeMarche&) { delete m_alerteInterface; };
         fin = mouvement(suivi);
     } catch (...) {
+        SecourirMarche();
         finir();
         throw;
     }

@@ -73,7 +73,8 @@ PanneauCourse::PanneauCourse(QWidget* parent) : QWidget(parent) {
     cmdStopRetourApresReprise = BoutonStop("cmdStopRetourApresReprise");
     for (QPushButton* stop : {cmdSTOP, cmdStopRetourApresReprise}) {
         page->addWidget(stop);
-        connect(stop, &QPushButton::clicked, this, &PanneauCourse::StopDemande);
+        // Not when it is let go: a button that is held, or left with the mouse, must stop all the same.
+        connect(stop, &QPushButton::pressed, this, &PanneauCourse::StopDemande);
     }
     Finir();
 }
@@ -227,7 +228,6 @@ void PanneauCourse::MontrerArret(std::int32_t numero) {
     m_avertissement->Ecrire(TexteAffiche(TextesEtats(EtatArrete)));
     lblNumSegmentStop->setText(TexteAffiche(TitresMessages(MessagesArret) + std::to_string(numero)));
     pctRepriseDecoupe->show();
-    cmdRepriseDecoupe->setFocus();
 }
 
 void PanneauCourse::Finir() {

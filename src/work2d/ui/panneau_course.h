@@ -35,7 +35,8 @@ public:
     void Commencer(const Depart& depart);
     void MontrerPhase(PhaseDecoupe phase);
     void MontrerAvancee(const AvanceeDecoupe& avancee);
-    // The run stands in frame `numero`: the operator decides.
+    // The run stands in frame `numero`: the operator decides. None of its buttons gets the keyboard: the key
+    // that pressed Stop must not start anything.
     void MontrerArret(std::int32_t numero);
     // Nothing runs, nothing waits.
     void Finir();
