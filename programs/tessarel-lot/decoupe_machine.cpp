@@ -8,6 +8,7 @@
 #include "app/texts/textes.h"
 #include "app/texts/textes_programme.h"
 #include "link/etat_interface.h"
+#include "platform/flux_standards.h"
 #include "platform/horloge.h"
 #include "platform/nombres.h"
 #include "platform/pompe.h"
@@ -27,13 +28,35 @@ constexpr int MessagesArret = 172;   // its second column
 // Between two drawings of the bar, so that it costs the run nothing.
 constexpr Instant EntreDeuxBarres = std::chrono::milliseconds(100);
 
-// While it lives, a signal that asks the program to end is a press of Stop, and each further one another
-// press.
+// Lines for standard error, which may be held up while the machine runs: what it does not take is offered
+// again later.
+class LignesSansAttente {
+public:
+    void Dire(const std::string& ligne) {
+        m_reste += ligne + "\n";
+        Offrir();
+    }
+    void Offrir() {
+        if (!m_reste.empty()) m_reste.erase(0, EcrireErreurSansAttendre(m_reste));
+    }
+    // Once nothing moves and the wire is cold it may take its time.
+    void Finir() {
+        std::fputs(m_reste.c_str(), stderr);
+        m_reste.clear();
+    }
+
+private:
+    std::string m_reste;
+};
+
+// While it lives, a signal that asks the program to end, or to be suspended, is a press of Stop, and each
+// further one another press.
 class StopParSignal {
 public:
-    explicit StopParSignal(DemandesMarche& demandes) {
-        EcouterSignauxDeFin(SecondSigint::Compte);
-        m_ancienne = InstallerPompe([this, &demandes] {
+    StopParSignal(DemandesMarche& demandes, LignesSansAttente& lignes) {
+        EcouterSignauxDeFin(SecondSigint::Compte, Suspension::Notee);
+        m_ancienne = InstallerPompe([this, &demandes, &lignes] {
+            lignes.Offrir();
             const int recus = SignauxDeFinRecus();
             if (recus == m_vus) return;
             m_vus = recus;
@@ -92,7 +115,8 @@ int CouperSurMachine(const Decoupe2D& decoupe, const OptionsDecoupe2D& options,
     const DecoupePreparee preparee = PreparerDecoupeTS2D(decoupe, options, TableINI, nomMatiere);
     if (!preparee.possible) return StatutRefuse;
     DemandesMarche demandes;
-    const StopParSignal stop(demandes);
+    LignesSansAttente lignes;
+    const StopParSignal stop(demandes, lignes);
     Barre barre;
     SuiviDecoupe suivi;
     suivi.demandes = &demandes;
@@ -100,13 +124,14 @@ int CouperSurMachine(const Decoupe2D& decoupe, const OptionsDecoupe2D& options,
         if (phase == PhaseDecoupe::Origine) Progression::Montrer(0, TextesEtats(EtatOrigine));
     };
     suivi.Avancer = [&barre](const AvanceeDecoupe& avancee) { barre.Montrer(avancee); };
-    suivi.Prevenir = [] {
+    suivi.Prevenir = [&lignes] {
         Progression::Effacer();
-        std::fputs((Texte(TexteProgramme::BoitierMuet) + "\n").c_str(), stderr);
+        lignes.Dire(Texte(TexteProgramme::BoitierMuet));
     };
     const ResultatDecoupe resultat =
         LancerDecoupeTS2D(preparee, TableINI, TableINI.OrigineAutomatique, suivi);
     Progression::Effacer();
+    lignes.Finir();
     if (resultat.PositionStop.lecture == LecturePosition::Faite && resultat.fin != FinDecoupe::Terminee)
         Imprimer(TexteArret(resultat));
     if (resultat.fin == FinDecoupe::Arretee) AnnulerReprise(suivi);

@@ -4,7 +4,6 @@
 #include "platform/flux_standards.h"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace tessarel::lot {
 
@@ -17,8 +16,8 @@ bool g_barreVisible = false;
 void Dessiner(int pleins, const std::string& texte) {
     const std::string barre = std::string(static_cast<std::size_t>(pleins), '#') +
                               std::string(static_cast<std::size_t>(LargeurBarre - pleins), '.');
-    std::fprintf(stderr, "\r\033[K[%s] %s", barre.c_str(), texte.c_str());
-    std::fflush(stderr);
+    // Never waited for: a terminal held up by a key must not hold up the machine.
+    EcrireErreurSansAttendre("\r\033[K[" + barre + "] " + texte);
     g_barreVisible = true;
 }
 
@@ -46,8 +45,7 @@ void Progression::Montrer(double part, const std::string& texte) {
 
 void Progression::Effacer() {
     if (!g_barreVisible) return;
-    std::fputs("\r\033[K", stderr);
-    std::fflush(stderr);
+    EcrireErreurSansAttendre("\r\033[K");
     g_barreVisible = false;
 }
 

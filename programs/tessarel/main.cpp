@@ -74,7 +74,7 @@ bool MontrerSplash(ApplicationTessarel& application, Fenetres& fenetres) {
 
 int main(int argc, char** argv) {
     ApplicationTessarel application(argc, argv);
-    EcouterSignauxDeFin(SecondSigint::Compte); // a wire may have to be put out first
+    EcouterSignauxDeFin(SecondSigint::Compte, Suspension::Ignoree); // a wire may have to be put out first
     AppliquerTheme(Theme::Systeme);
     InstallerBoitesQt();
     InstallerPompeQt();

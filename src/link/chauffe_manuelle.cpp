@@ -34,7 +34,12 @@ bool EnvoyerVoulue(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
             boucle.Interrompre = [&fil] { return fil.abandon; };
             boucle.Prevenir = [&fil, &sansEcho] { fil.abandon = sansEcho = true; };
             envoyee = fil.voulue;
-            fin = EnvoyerChauffe(ValeurPWM(envoyee), boucle);
+            try {
+                fin = EnvoyerChauffe(ValeurPWM(envoyee), boucle);
+            } catch (...) {
+                SecourirFil(fil, suivi);
+                throw;
+            }
         } while (fin == FinChauffe::Confirmee && envoyee != fil.voulue);
     }
     if (fin == FinChauffe::Confirmee) return true;
@@ -126,7 +131,12 @@ bool EteindreFil(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
         boucle.Prevenir = [&suivi, &demandes] {
             if (suivi.Prevenir) suivi.Prevenir([&demandes] { demandes.StopDemande = true; });
         };
-        coupee = RefroidirFil(boucle);
+        try {
+            coupee = RefroidirFil(boucle);
+        } catch (...) {
+            SecourirFil(fil, suivi);
+            throw;
+        }
         if (suivi.FinPrevenir) suivi.FinPrevenir();
     }
     const bool froid = coupee || !ChauffePeutEtreActive();
@@ -137,6 +147,13 @@ bool EteindreFil(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
 
 bool EteindreFilSiChaud(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
     return !fil.chaude && !fil.incertaine && !fil.occupee ? true : EteindreFil(fil, suivi);
+}
+
+void SecourirFil(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
+    const bool froid = SecourirMarche() || !ChauffePeutEtreActive();
+    if (suivi.FinPrevenir) suivi.FinPrevenir();
+    fil.incertaine = !froid;
+    Noter(fil, false, suivi);
 }
 
 VeilleFil VeillerSurFil(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {

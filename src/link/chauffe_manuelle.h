@@ -66,6 +66,10 @@ bool EteindreFil(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi);
 // The same, only where this wire was lit; true where it wasn't.
 bool EteindreFilSiChaud(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi);
 
+// After a fault broke out of the loop of a move or of a heat: S and heat off in a few tries, without letting
+// events run. The record says `incertaine` where the box did not confirm, which a critical box has told.
+void SecourirFil(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi);
+
 // One look at a wire that is on, for a timer; nothing is sent while something else is under way. A heat-off
 // that was given up before is tried again, without a word.
 enum class VeilleFil {

@@ -5,6 +5,8 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace tessarel {
@@ -26,6 +28,34 @@ bool EcrireSortie(std::string_view texte) {
         texte.remove_prefix(static_cast<std::size_t>(n));
     }
     return true;
+}
+
+namespace {
+
+// Standard error opened once more: what is set on the stream itself holds for the shell too, which shares it.
+// A file never waits, and has one place only to write at.
+int ErreurSansAttente() {
+    struct stat genre = {};
+    if (::fstat(STDERR_FILENO, &genre) != 0 || !(S_ISCHR(genre.st_mode) || S_ISFIFO(genre.st_mode)))
+        return STDERR_FILENO;
+    static const int fd = ::open("/proc/self/fd/2", O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    return fd < 0 ? STDERR_FILENO : fd;
+}
+
+} // namespace
+
+std::size_t EcrireErreurSansAttendre(std::string_view texte) {
+    const int fd = ErreurSansAttente();
+    std::size_t ecrits = 0;
+    while (ecrits < texte.size()) {
+        pollfd place = {fd, POLLOUT, 0};
+        if (::poll(&place, 1, 0) <= 0 || (place.revents & POLLOUT) == 0) break;
+        const ssize_t n = ::write(fd, texte.data() + ecrits, texte.size() - ecrits);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) break;
+        ecrits += static_cast<std::size_t>(n);
+    }
+    return ecrits;
 }
 
 bool ErreurStandardRedessinable() {

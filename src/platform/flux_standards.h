@@ -1,6 +1,7 @@
 // Standard streams made fit for a program that is piped, closed and limited from outside.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,10 @@ void PreparerFlux();
 // Writes on standard output and flushes. False when it could not be written; a closed pipe counts as written:
 // the reader has seen all it wanted.
 bool EcrireSortie(std::string_view texte);
+
+// Writes on standard error what it takes at once, and gives the number of bytes: a terminal held up by
+// Ctrl-S, or a pipe that nobody reads, keeps no one waiting.
+std::size_t EcrireErreurSansAttendre(std::string_view texte);
 
 // True when standard error is a terminal on which a line can be redrawn.
 bool ErreurStandardRedessinable();

@@ -21,11 +21,19 @@ void Noter(int signal) {
 
 } // namespace
 
-void EcouterSignauxDeFin(SecondSigint second) {
+void EcouterSignauxDeFin(SecondSigint second, Suspension suspension) {
     secondTermine = second == SecondSigint::Termine ? 1 : 0;
-    struct sigaction action {};
-    action.sa_handler = Noter; // without SA_RESTART: a wait ends
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) ::sigaction(signal, &action, nullptr);
+    struct sigaction noter {};
+    noter.sa_handler = Noter; // without SA_RESTART: a wait ends
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) ::sigaction(signal, &noter, nullptr);
+    struct sigaction ignorer {};
+    ignorer.sa_handler = SIG_IGN;
+    if (second == SecondSigint::Compte) {
+        ::sigaction(SIGQUIT, &noter, nullptr);
+        for (const int signal : {SIGPIPE, SIGTTIN, SIGTTOU}) ::sigaction(signal, &ignorer, nullptr);
+    }
+    if (suspension != Suspension::Ordinaire)
+        ::sigaction(SIGTSTP, suspension == Suspension::Notee ? &noter : &ignorer, nullptr);
 }
 
 bool FinDemandee() {

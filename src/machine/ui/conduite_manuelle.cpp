@@ -10,8 +10,10 @@
 #include "platform/dialogue.h"
 #include "platform/drapeau.h"
 #include "ui/alerte.h"
+#include "ui/garde_entrees.h"
 
 #include <QMessageBox>
+#include <utility>
 
 namespace tessarel {
 
@@ -51,6 +53,30 @@ TexteProgramme MotDeFin(FinMarche fin, CauseFin cause) {
 
 ConduiteManuelle::ConduiteManuelle(QWidget* fenetre) : QObject(fenetre), m_fenetre(fenetre) {}
 
+void ConduiteManuelle::PermettreToujours(std::vector<const QWidget*> controles) {
+    m_permis = std::move(controles);
+}
+
+// The move itself. A fault of a handler goes on once the wire stands and is cold.
+ResultatMouvement ConduiteManuelle::FaireEtSuivre(const PasAxes& pas, const VitessesSalve& vitesses) {
+    SuiviMarche suivi;
+    suivi.demandes = &m_demandes;
+    suivi.Avancer = [this](const AvanceeMarche& avancee) { emit Avance(avancee.Fraction); };
+    suivi.Prevenir = [this] {
+        Prevenir(TexteProgramme::EssaiSansReponse, [this] { m_demandes.StopDemande = true; });
+    };
+    try {
+        const ResultatMouvement mouvement = FaireMouvement(TableINI, pas, vitesses, suivi);
+        delete m_alerte;
+        return mouvement;
+    } catch (...) {
+        SecourirFil(m_fil, SuiviFil());
+        m_enMouvement = false; // what is shown must not wait for the end of this
+        emit FinMouvement();
+        throw;
+    }
+}
+
 ConduiteManuelle::Resultat ConduiteManuelle::Mouvoir(const PasAxes& pas, const VitessesSalve& vitesses) {
     if (m_enMouvement || m_fil.occupee) return {};
     m_demandes = {};
@@ -60,17 +86,11 @@ ConduiteManuelle::Resultat ConduiteManuelle::Mouvoir(const PasAxes& pas, const V
     {
         const Drapeau enMouvement(m_enMouvement);
         const FilEnMarche marche(m_fil, m_demandes);
+        const GardeEntrees garde(m_permis, [this] { DemanderArret(); });
         emit DebutMouvement();
-        SuiviMarche suivi;
-        suivi.demandes = &m_demandes;
-        suivi.Avancer = [this](const AvanceeMarche& avancee) { emit Avance(avancee.Fraction); };
-        suivi.Prevenir = [this] {
-            Prevenir(TexteProgramme::EssaiSansReponse, [this] { m_demandes.StopDemande = true; });
-        };
-        mouvement = FaireMouvement(TableINI, pas, vitesses, suivi);
+        mouvement = FaireEtSuivre(pas, vitesses);
         coupureVoulue = m_fil.coupureVoulue;
         moteursOff = m_demandes.MoteursOffDemande;
-        delete m_alerte;
     }
     if (moteursOff) CouperMoteurs();
     // A wire that stands must not go on melting, whoever stopped it.
@@ -115,15 +135,26 @@ SuiviChauffeManuelle ConduiteManuelle::SuiviFil() {
     return suivi;
 }
 
+std::unique_ptr<GardeEntrees> ConduiteManuelle::GarderFil() {
+    if (m_enMouvement || m_fil.occupee) return nullptr;
+    // A heat that is asked for is given up; a heat-off only by the button of its warning.
+    return std::make_unique<GardeEntrees>(m_permis, [this] {
+        if (m_fil.occupee) EteindreFil(m_fil, SuiviFil());
+    });
+}
+
 bool ConduiteManuelle::Chauffer(double pourcent) {
+    const auto garde = GarderFil();
     return AllumerFil(m_fil, pourcent, SuiviFil());
 }
 
 void ConduiteManuelle::ChangerChauffe(double pourcent) {
+    const auto garde = GarderFil();
     ChangerChauffeFil(m_fil, pourcent, SuiviFil());
 }
 
 bool ConduiteManuelle::Couper() {
+    const auto garde = GarderFil();
     return EteindreFil(m_fil, SuiviFil());
 }
 

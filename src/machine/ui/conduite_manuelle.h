@@ -9,11 +9,15 @@
 #include <QObject>
 #include <QPointer>
 #include <functional>
+#include <memory>
+#include <vector>
 
 class QMessageBox;
 class QWidget;
 
 namespace tessarel {
+
+class GardeEntrees;
 
 // How the end of a move is told in one line.
 TexteProgramme MotDeFin(FinMarche fin, CauseFin cause);
@@ -23,6 +27,9 @@ class ConduiteManuelle : public QObject {
 public:
     // `fenetre` is what warnings stand over.
     explicit ConduiteManuelle(QWidget* fenetre);
+
+    // What stays open to mouse and keys while a command is under way: Stop and the heat. Escape is Stop.
+    void PermettreToujours(std::vector<const QWidget*> controles);
 
     // Runs one move and tells the end that is not the user's own doing; returns at its end. After any
     // end but that of the move itself, the heat is switched off and confirmed. Nothing starts while
@@ -64,6 +71,9 @@ signals:
 
 private:
     [[nodiscard]] SuiviChauffeManuelle SuiviFil();
+    [[nodiscard]] ResultatMouvement FaireEtSuivre(const PasAxes& pas, const VitessesSalve& vitesses);
+    // For a command of the heat; nothing where another command keeps the input shut already.
+    [[nodiscard]] std::unique_ptr<GardeEntrees> GarderFil();
     // Warns over the window while a loop keeps trying; the button of the warning calls `abandonner`.
     void Prevenir(TexteProgramme texte, std::function<void()> abandonner);
 
@@ -72,6 +82,7 @@ private:
     DemandesMarche m_demandes;
     ChauffeManuelle m_fil;
     bool m_enMouvement = false;
+    std::vector<const QWidget*> m_permis;
 };
 
 } // namespace tessarel

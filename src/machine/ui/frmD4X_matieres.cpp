@@ -127,7 +127,7 @@ void frmD4X_matieres::RelierChauffe() {
     connect(optChauffeMatieres[1], &QRadioButton::clicked, this, [this] {
         if (!m_conduite->Chauffer(hscChauffeParam->value())) optChauffeMatieres[0]->setChecked(true);
     });
-    connect(optChauffeMatieres[0], &QRadioButton::clicked, m_conduite, &ConduiteManuelle::Couper);
+    connect(optChauffeMatieres[0], &QRadioButton::pressed, m_conduite, &ConduiteManuelle::Couper);
     connect(hscChauffeParam, &QScrollBar::valueChanged, this, [this](int pourcent) {
         lblChauffeParam->setText(QStringLiteral("%1 %").arg(pourcent));
         m_conduite->ChangerChauffe(pourcent);

@@ -35,7 +35,9 @@ constexpr double PartParPeriode = 0.05;
 void frmD4X_matieres::RelierTest() {
     for (std::size_t i = 0; i < cmdMvtTranches.size(); ++i)
         connect(cmdMvtTranches[i], &QPushButton::clicked, this, [this, i] { Mouvoir(i); });
-    connect(cmdStopTranches, &QPushButton::clicked, m_conduite, &ConduiteManuelle::DemanderArret);
+    m_conduite->PermettreToujours(
+        {cmdStopTranches, optChauffeMatieres[0], optChauffeMatieres[1], hscChauffeParam});
+    connect(cmdStopTranches, &QPushButton::pressed, m_conduite, &ConduiteManuelle::DemanderArret);
     connect(m_conduite, &ConduiteManuelle::DebutMouvement, this,
             &frmD4X_matieres::MontrerMouvementsPossibles);
     connect(m_conduite, &ConduiteManuelle::FinMouvement, this, &frmD4X_matieres::MontrerMouvementsPossibles);
@@ -108,7 +110,12 @@ void frmD4X_matieres::MontrerMouvementsPossibles() {
     cmdStopTranches->setEnabled(enMouvement);
     findChild<QGroupBox*>(QStringLiteral("frameChauffeMatieres"))->setEnabled(MouvementsActifs);
     chkDesactiverTimeOutMoteurs->setEnabled(!enMouvement);
-    findChild<QGroupBox*>(QStringLiteral("frameBase"))->setEnabled(!enMouvement);
+    for (const char* cadre : {"frameBase", "frameValeurs", "frameVitesseMouvement", "frameMesure"})
+        findChild<QGroupBox*>(QString::fromLatin1(cadre))->setEnabled(!enMouvement);
+    for (QWidget* commande : {static_cast<QWidget*>(txtVitesseTranches), static_cast<QWidget*>(cmdAnimer),
+                              static_cast<QWidget*>(cmdEffacerImage), static_cast<QWidget*>(cmdExplications)})
+        commande->setEnabled(!enMouvement);
+    for (QWidget* dimension : txtDimensionsTranches) dimension->setEnabled(!enMouvement);
     if (!MouvementsActifs) lblEtatTranches->setText(TexteAffiche(TitresMessages(RangeePasDInterface)));
 }
 

@@ -23,6 +23,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <algorithm>
 #include <functional>
 #include <limits>
 
@@ -84,6 +85,8 @@ PanneauEssais::PanneauEssais(QWidget* parent) : QWidget(parent) {
     pose->setRowStretch(2, 1);
     for (int colonne = 0; colonne < 3; ++colonne) pose->setColumnStretch(colonne, 1);
     Relier();
+    m_conduite->PermettreToujours({cmdStopIncrements, cmdStopValeurs, cmdMoteursOff, optChauffeParam[0],
+                                   optChauffeParam[1], hscChauffeParam});
     MontrerEtatMouvement(false);
 }
 
@@ -181,8 +184,8 @@ void PanneauEssais::Relier() {
     connect(cmdGoIncrements, &QPushButton::clicked, this, &PanneauEssais::GoIncrements);
     connect(cmdGoValeurs, &QPushButton::clicked, this, &PanneauEssais::GoValeurs);
     for (QPushButton* arret : {cmdStopIncrements, cmdStopValeurs})
-        connect(arret, &QPushButton::clicked, this, &PanneauEssais::DemanderArret);
-    connect(cmdMoteursOff, &QPushButton::clicked, m_conduite, &ConduiteManuelle::CouperLesMoteurs);
+        connect(arret, &QPushButton::pressed, this, &PanneauEssais::DemanderArret);
+    connect(cmdMoteursOff, &QPushButton::pressed, m_conduite, &ConduiteManuelle::CouperLesMoteurs);
     connect(cmdRemiseAZero, &QPushButton::clicked, this, [this] {
         m_position = {};
         MontrerPositions();
@@ -206,7 +209,7 @@ void PanneauEssais::RelierChauffe() {
     connect(optChauffeParam[1], &QRadioButton::clicked, this, [this] {
         if (!m_conduite->Chauffer(hscChauffeParam->value())) optChauffeParam[0]->setChecked(true);
     });
-    connect(optChauffeParam[0], &QRadioButton::clicked, m_conduite, &ConduiteManuelle::Couper);
+    connect(optChauffeParam[0], &QRadioButton::pressed, m_conduite, &ConduiteManuelle::Couper);
     connect(hscChauffeParam, &QScrollBar::valueChanged, this, [this](int pourcent) {
         lblChauffeParam->setText(QStringLiteral("%1 %").arg(pourcent));
         m_conduite->ChangerChauffe(pourcent);
@@ -269,6 +272,17 @@ void PanneauEssais::MontrerEtatMouvement(bool enMouvement) {
     for (QPushButton* depart : {cmdGoIncrements, cmdGoValeurs, cmdRemiseAZero})
         depart->setEnabled(!enMouvement);
     for (QPushButton* arret : {cmdStopIncrements, cmdStopValeurs}) arret->setEnabled(enMouvement);
+    for (QWidget* saisie : findChildren<QWidget*>()) {
+        const bool texte = qobject_cast<QLineEdit*>(saisie) != nullptr;
+        const bool option = qobject_cast<QRadioButton*>(saisie) != nullptr &&
+                            std::ranges::find(optChauffeParam, saisie) == optChauffeParam.end();
+        if (texte || option) saisie->setEnabled(!enMouvement);
+    }
+    chkMvtValeurs1egal2->setEnabled(!enMouvement);
+    if (!enMouvement) {
+        CopierChariot1();
+        txtVitesseChoisieParam->setEnabled(optVitesseRelManu[0]->isChecked());
+    }
     emit EnMouvement(enMouvement);
 }
 

@@ -201,6 +201,7 @@ private:
     void InitialiserBoutonsDecoupe(int enMarche);
     void PermettreCommandes(bool libre);
     [[nodiscard]] GardeEntrees GarderCourse();
+    [[nodiscard]] std::unique_ptr<GardeEntrees> GarderFil();
     // The wire moves, or stands on its way: nothing else begins.
     [[nodiscard]] bool CourseOuverte() const;
     void PrevenirSilence();

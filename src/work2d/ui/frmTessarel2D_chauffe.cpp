@@ -7,6 +7,7 @@
 #include "platform/drapeau.h"
 #include "ui/alerte.h"
 #include "ui/boites_qt.h"
+#include "ui/garde_entrees.h"
 #include "work2d/mouvements_2d.h"
 #include "work2d/ui/frmTessarel2D.h"
 #include "work2d/ui/panneau_chauffe.h"
@@ -22,6 +23,7 @@ void frmTessarel2D::RelierChauffe() {
     connect(chauffe, &PanneauChauffe::AllumageDemande, this, &frmTessarel2D::AllumerFilManuel);
     connect(chauffe, &PanneauChauffe::CoupureDemandee, this, [this] { EteindreFilManuel(); });
     connect(chauffe, &PanneauChauffe::ChauffeVoulue, this, [this](double pourcent) {
+        const auto garde = GarderFil();
         ChangerChauffeFil(m_fil, pourcent, SuiviFil());
         FermerSiDemande();
     });
@@ -46,6 +48,15 @@ SuiviChauffeManuelle frmTessarel2D::SuiviFil() {
     return suivi;
 }
 
+// While the heat is asked for or put out: nothing where another command keeps the input shut already, or
+// where there is nothing to ask.
+std::unique_ptr<GardeEntrees> frmTessarel2D::GarderFil() {
+    if (Occupee() || !ManuelOuvert()) return nullptr;
+    return std::make_unique<GardeEntrees>(std::vector<const QWidget*>{m_panneauManuel}, [this] {
+        if (m_fil.occupee) EteindreFil(m_fil, SuiviFil());
+    });
+}
+
 void frmTessarel2D::MontrerFil() {
     using Fil = PanneauChauffe::Fil;
     const Fil fil = m_fil.chaude ? Fil::Chaud : m_fil.incertaine ? Fil::Incertain : Fil::Froid;
@@ -61,6 +72,7 @@ void frmTessarel2D::AllumerFilManuel() {
     const bool permis = libre && (m_course.enCours || m_fil.occupee || LiaisonPermet());
     if (permis) {
         m_panneauManuel->MontrerEtat({});
+        const auto garde = GarderFil();
         AllumerFil(m_fil, m_panneauManuel->Chauffe().Pourcent(), SuiviFil());
         MontrerLiaison();
     }
@@ -69,6 +81,7 @@ void frmTessarel2D::AllumerFilManuel() {
 }
 
 bool frmTessarel2D::EteindreFilManuel() {
+    const auto garde = GarderFil();
     const bool froid = EteindreFilSiChaud(m_fil, SuiviFil());
     MontrerFil();
     if (!m_course.enCours) FermerSiDemande();

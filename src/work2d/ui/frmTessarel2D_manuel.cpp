@@ -135,7 +135,7 @@ void frmTessarel2D::Mouvoir(int etat, const std::function<FinProcedure(const Sui
         suivi.Avancer = [this](const AvanceeMarche&) { delete m_alerteInterface; };
         fin = mouvement(suivi);
     } catch (...) {
-        SecourirMarche();
+        SecourirFil(m_fil, SuiviFil());
         finir();
         throw;
     }

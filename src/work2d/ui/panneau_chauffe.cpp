@@ -109,7 +109,7 @@ PanneauChauffe::PanneauChauffe(QWidget* parent) : QGroupBox(parent) {
         MontrerSigne();
         emit Battement();
     });
-    connect(optChauffe[0], &QToolButton::clicked, this, &PanneauChauffe::CoupureDemandee);
+    connect(optChauffe[0], &QToolButton::pressed, this, &PanneauChauffe::CoupureDemandee); // at once
     connect(optChauffe[1], &QToolButton::clicked, this, &PanneauChauffe::AllumageDemande);
     connect(hscChauffeFilManuel, &QScrollBar::valueChanged, this, [this] {
         MontrerPourcent();
