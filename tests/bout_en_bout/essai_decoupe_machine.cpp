@@ -37,16 +37,63 @@ TEST_F(DecoupeMachine, VaAuBout) {
               "machine disponible: Découpe terminée, fil en position de repos, chauffe coupée.\n");
 }
 
-TEST_F(DecoupeMachine, CtrlCArreteRefroiditEtDitOuEstLeFil) {
-    const Execution lot =
-        AvecMachine("8", "tessarel-lot --documents doc --langue en decouper a.txt --interface & lot=$!\n"
-                         "sleep 1.5; kill -INT $lot\n"
-                         "statut=0; wait $lot || statut=$?\n"
-                         "exit $statut");
-    EXPECT_EQ(lot.statut, 1) << lot.erreurs;
-    EXPECT_NE(lot.sortie.find("Stopped at segment no. "), std::string::npos) << lot.sortie << lot.erreurs;
-    EXPECT_NE(lot.sortie.find(", wire at X "), std::string::npos) << lot.sortie;
-    EXPECT_EQ(lot.erreurs, "Stopped in the working area: Warning: the wire is not in its rest position.\n");
+// Every key by which a terminal ends or suspends a program is Stop: the queue of the box would run on.
+TEST_F(DecoupeMachine, UneToucheDeFinArreteRefroiditEtDitOuEstLeFil) {
+    for (const std::string signal : {"INT", "QUIT", "TSTP"}) {
+        const Execution lot =
+            AvecMachine("8", "tessarel-lot --documents doc --langue en decouper a.txt --interface & lot=$!\n"
+                             "sleep 1.5; kill -" +
+                                 signal +
+                                 " $lot\n"
+                                 "statut=0; wait $lot || statut=$?\n"
+                                 "exit $statut");
+        EXPECT_EQ(lot.statut, 1) << signal << lot.erreurs;
+        EXPECT_NE(lot.sortie.find("Stopped at segment no. "), std::string::npos) << lot.sortie << lot.erreurs;
+        EXPECT_NE(lot.sortie.find(", wire at X "), std::string::npos) << lot.sortie;
+        EXPECT_EQ(lot.erreurs,
+                  "Stopped in the working area: Warning: the wire is not in its rest position.\n");
+    }
+}
+
+// A terminal that is held up shows nothing; the cut goes on to its end, and the wire is cold before anybody
+// lets the terminal go again.
+TEST_F(DecoupeMachine, CtrlSNeRetientPasLaMachine) {
+    if (!ProgrammePresent("python3")) GTEST_SKIP() << "python3 is not installed";
+    EcrireTout(travail.Fichier("terminal.py"), R"(import os, pty, select, sys, time
+pid, fd = pty.fork()
+if pid == 0:
+    os.environ["TERM"] = "xterm"
+    os.execvp("tessarel-lot", "tessarel-lot --documents doc decouper a.txt --interface".split())
+vu = b""
+def lire(secondes):
+    global vu
+    pret, _, _ = select.select([fd], [], [], secondes)
+    if pret:
+        try:
+            vu += os.read(fd, 65536)
+        except OSError:
+            return False
+    return True
+fin = time.time() + 40
+while b"segment n" not in vu and time.time() < fin:
+    lire(0.1)
+os.write(fd, b"\x13")
+retenu = False
+while time.time() < fin:
+    lire(0.1)
+    journal = open("journal.txt", errors="replace").read()
+    if "P eteindre" in journal.split("B lancer")[-1]:
+        retenu = os.waitpid(pid, os.WNOHANG) == (0, 0) # still about to say it
+        break
+print("cold while held up:", retenu)
+os.write(fd, b"\x11")
+while lire(0.5) and time.time() < fin:
+    pass
+print("status:", os.waitstatus_to_exitcode(os.waitpid(pid, 0)[1]))
+)");
+    const Execution lot = AvecMachine("8", "python3 terminal.py");
+    EXPECT_EQ(lot.sortie, "cold while held up: True\nstatus: 0\n")
+        << lot.erreurs << LireTout(travail.Fichier("journal.txt"));
 }
 
 TEST_F(DecoupeMachine, UnTerminalVoitLeDecompteEtLaBarre) {

@@ -1,0 +1,224 @@
+// The machine and material windows while a test move runs with a hot wire: no menu, no help box, no late key
+// holds it up, Stop acts on the way down, and a fault of the program stops it before it is told.
+#include "app/ui/application.h"
+#include "fenetres/boite_des_fenetres.h"
+#include "fenetres/poste_machine.h"
+#include "machine/ui/frmD4X_matieres.h"
+#include "machine/ui/frmParametresTables.h"
+#include "platform/erreurs.h"
+#include "ui/champ_nombre.h"
+#include "ui/pompe_qt.h"
+#include "ui/theme.h"
+
+#include <QContextMenuEvent>
+#include <QDialog>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTimer>
+#include <QToolButton>
+
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <utility>
+
+using namespace tessarel;
+using namespace tessarel::essais;
+
+namespace {
+
+// The desktop program's own pump, with a place to act in before each turn.
+void PomperCommeLeProgramme(BoiteDesFenetres& virtuelle) {
+    InstallerPompeQt();
+    Pompe qt = InstallerPompe({});
+    InstallerPompe([&virtuelle, qt = std::move(qt)] {
+        if (virtuelle.SurPompe) virtuelle.SurPompe();
+        qt();
+    });
+}
+
+// A window with a hot wire, and a long move of it; `geste` runs once in the middle.
+struct Banc {
+    enum Fenetre { Machine, Matieres };
+
+    explicit Banc(Fenetre quelle) : sorte(quelle) {
+        virtuelle.Memoriser(TableINI);
+        PomperCommeLeProgramme(virtuelle);
+        RafraichirUsb("TABLES");
+        if (quelle == Machine)
+            fenetre = std::make_unique<frmParametresTables>();
+        else
+            fenetre = std::make_unique<frmD4X_matieres>();
+        Exposer(*fenetre);
+        if (quelle == Machine) {
+            Cliquer(*fenetre, "optReglagesVersManu_1");
+            Controle<ChampNombre>(*fenetre, "txtIncrements_0").FixerValeur(200);
+        }
+        Cliquer(*fenetre, quelle == Machine ? "optChauffeParam_1" : "optChauffeMatieres_1");
+    }
+    void Mouvoir(std::function<void()> geste) {
+        int tours = 0;
+        virtuelle.SurPompe = [this, &tours, geste = std::move(geste)] {
+            if (++tours != 40) return;
+            fait = true;
+            depuis = virtuelle.commandes.size();
+            geste();
+            pendant = virtuelle.commandes.size() - depuis;
+        };
+        Cliquer(*fenetre, sorte == Machine ? "cmdGoIncrements" : "cmdMvtTranches_0");
+        virtuelle.SurPompe = {};
+    }
+    [[nodiscard]] const char* Stop() const {
+        return sorte == Machine ? "cmdStopIncrements" : "cmdStopTranches";
+    }
+    [[nodiscard]] std::size_t EchangesAvantArret() const {
+        const auto debut = virtuelle.commandes.begin() + static_cast<std::ptrdiff_t>(depuis);
+        const auto arret = std::find_if(debut, virtuelle.commandes.end(),
+                                        [](const Tampon& t) { return t[1] == CommandeArret; });
+        return static_cast<std::size_t>(arret - debut);
+    }
+    [[nodiscard]] bool Chaud() const { return virtuelle.boite->Etat().pwmCommande > 0; }
+    [[nodiscard]] bool FroidEtImmobile() const {
+        return !Chaud() && virtuelle.boite->Etat().file == simulateur::EtatFile::Repos;
+    }
+    Fenetre sorte;
+    PosteMachine poste;
+    BoiteDesFenetres virtuelle;
+    std::unique_ptr<QDialog> fenetre;
+    bool fait = false;
+    std::size_t depuis = 0;
+    std::size_t pendant = 0; // exchanges while the gesture was made
+};
+
+void LesDeuxFenetres() {
+    QTest::addColumn<int>("fenetre");
+    QTest::addRow("machine") << int(Banc::Machine);
+    QTest::addRow("materials") << int(Banc::Matieres);
+}
+
+} // namespace
+
+class EssaiSureteMachine : public QObject {
+    Q_OBJECT
+private slots:
+    void init() { AppliquerTheme(Theme::Clair); }
+
+    void StopAgitDesQuIlEstEnfonce_data() { LesDeuxFenetres(); }
+    void StopAgitDesQuIlEstEnfonce();
+    void EchapArrete_data() { LesDeuxFenetres(); }
+    void EchapArrete();
+    void RienNOuvreDeBoucle_data() { LesDeuxFenetres(); }
+    void RienNOuvreDeBoucle();
+    void UneFauteArreteDAbord_data() { LesDeuxFenetres(); }
+    void UneFauteArreteDAbord();
+    void UneFautePendantLaCoupureNeLaissePasLeFilChaud();
+};
+
+void EssaiSureteMachine::StopAgitDesQuIlEstEnfonce() {
+    QFETCH(int, fenetre);
+    Banc banc(static_cast<Banc::Fenetre>(fenetre));
+    QVERIFY(banc.Chaud());
+    auto& stop = Controle<QAbstractButton>(*banc.fenetre, banc.Stop());
+    banc.Mouvoir([&] { QTest::mousePress(&stop, Qt::LeftButton); });
+    QVERIFY(banc.fait);
+    QCOMPARE(banc.EchangesAvantArret(), std::size_t(0));
+    QVERIFY(banc.FroidEtImmobile());
+    QTest::mouseRelease(&stop, Qt::LeftButton);
+}
+
+void EssaiSureteMachine::EchapArrete() {
+    QFETCH(int, fenetre);
+    Banc banc(static_cast<Banc::Fenetre>(fenetre));
+    banc.Mouvoir([&] { QTest::keyClick(banc.fenetre.get(), Qt::Key_Escape); });
+    QVERIFY(banc.fait);
+    QCOMPARE(banc.EchangesAvantArret(), std::size_t(0));
+    QVERIFY(banc.FroidEtImmobile());
+    QVERIFY(banc.fenetre->isVisible());
+}
+
+void EssaiSureteMachine::RienNOuvreDeBoucle() {
+    QFETCH(int, fenetre);
+    Banc banc(static_cast<Banc::Fenetre>(fenetre));
+    bool menu = false;
+    QTimer fermeur; // a menu would wait for ever
+    connect(&fermeur, &QTimer::timeout, [&menu] {
+        while (QWidget* ouvert = QApplication::activePopupWidget()) {
+            menu = true;
+            if (!ouvert->close()) break;
+        }
+    });
+    fermeur.start(100);
+    banc.Mouvoir([&] {
+        for (auto* controle : banc.fenetre->findChildren<QWidget*>()) {
+            if (!controle->isVisible()) continue;
+            QContextMenuEvent demande(QContextMenuEvent::Mouse, {3, 3}, controle->mapToGlobal(QPoint(3, 3)));
+            QApplication::sendEvent(controle, &demande);
+            const QString nom = controle->objectName();
+            const bool ferme = qobject_cast<QToolButton*>(controle) != nullptr ||
+                               qobject_cast<QLineEdit*>(controle) != nullptr ||
+                               nom == QStringLiteral("cmdExplications");
+            if (!ferme) continue;
+            QTest::mouseClick(controle, Qt::LeftButton);
+            QTest::keyClicks(controle, QStringLiteral("--"));
+            QTest::keyClick(controle, Qt::Key_Return);
+        }
+    });
+    QVERIFY(banc.fait);
+    QVERIFY(!menu);
+    QCOMPARE(banc.pendant, std::size_t(0));
+    QVERIFY(banc.poste.boites.boites.empty());
+    QVERIFY(banc.virtuelle.boite->Etat().file == simulateur::EtatFile::Repos);
+    QVERIFY(banc.Chaud()); // a move that ended by itself leaves the wire as it was
+}
+
+void EssaiSureteMachine::UneFauteArreteDAbord() {
+    QFETCH(int, fenetre);
+    Banc banc(static_cast<Banc::Fenetre>(fenetre));
+    bool froid = false;
+    AfficheurBoite enregistreur = InstallerAfficheurBoite({});
+    InstallerAfficheurBoite([&](const Boite& boite) {
+        froid = banc.FroidEtImmobile();
+        return enregistreur(boite);
+    });
+    banc.Mouvoir([] { QTimer::singleShot(0, [] { throw FauteDepassement("trop"); }); });
+    InstallerAfficheurBoite(enregistreur);
+    QVERIFY(banc.fait);
+    QVERIFY(banc.EchangesAvantArret() <= 3);
+    QCOMPARE(banc.poste.boites.boites.size(), std::size_t(1));
+    QVERIFY(QString::fromStdString(banc.poste.DerniereBoite().texte)
+                .startsWith(QStringLiteral("Erreur 6 (trop)")));
+    QVERIFY(froid);
+    // The window is idle again, and shows a cold wire.
+    QVERIFY(!Controle<QAbstractButton>(*banc.fenetre, banc.Stop()).isEnabled());
+    QVERIFY(Controle<QRadioButton>(*banc.fenetre,
+                                   fenetre == Banc::Machine ? "optChauffeParam_0" : "optChauffeMatieres_0")
+                .isChecked());
+    banc.Mouvoir([] {});
+    QVERIFY(banc.fait);
+}
+
+void EssaiSureteMachine::UneFautePendantLaCoupureNeLaissePasLeFilChaud() {
+    Banc banc(Banc::Machine);
+    banc.virtuelle.boite->Brancher(false); // the heat-off has to be repeated
+    int tours = 0;
+    banc.virtuelle.SurPompe = [&] {
+        if (++tours != 2) return;
+        banc.virtuelle.boite->Brancher(true);
+        QTimer::singleShot(0, [] { throw FauteDepassement("trop"); });
+    };
+    Cliquer(*banc.fenetre, "optChauffeParam_0");
+    banc.virtuelle.SurPompe = {};
+    QVERIFY(tours >= 2);
+    QVERIFY(!banc.Chaud());
+    QVERIFY(QString::fromStdString(banc.poste.DerniereBoite().texte)
+                .startsWith(QStringLiteral("Erreur 6 (trop)")));
+    QVERIFY(banc.fenetre->close());
+}
+
+int main(int argc, char** argv) {
+    ApplicationTessarel application(argc, argv);
+    EssaiSureteMachine essai;
+    return QTest::qExec(&essai, argc, argv);
+}
+
+#include "essai_surete_machine.moc"
