@@ -26,6 +26,7 @@
 #include <algorithm>
 #include <functional>
 #include <limits>
+#include <optional>
 
 namespace tessarel {
 
@@ -293,12 +294,14 @@ namespace {
 // "La distance du mouvement demandé est incorrecte", of TextesMessages.
 constexpr int RangeeDistance = 97;
 
-// Runs what computes and starts a move; steps that do not fit 32 bits are refused.
-void AvecDistanceCorrecte(const std::function<void()>& partir) {
+// The steps of a move; nothing, after a box, where they do not fit 32 bits.
+std::optional<std::array<std::int32_t, 4>>
+DistanceCorrecte(const std::function<std::array<std::int32_t, 4>()>& calculer) {
     try {
-        partir();
+        return calculer();
     } catch (const FauteDepassement&) {
         AfficherExclamation(TextesMessages(RangeeDistance), TitresMessages(RangeeDistance));
+        return std::nullopt;
     }
 }
 
@@ -324,7 +327,8 @@ bool LireChamps(const std::array<ChampNombre*, 4>& champs, std::array<double, 4>
 void PanneauEssais::GoIncrements() {
     std::array<double, 4> valeurs = {};
     if (!LireChamps(txtIncrements, valeurs)) return;
-    AvecDistanceCorrecte([&] { Partir(EnPas(valeurs, optMMPas[1]->isChecked())); });
+    if (const auto pas = DistanceCorrecte([&] { return EnPas(valeurs, optMMPas[1]->isChecked()); }))
+        Partir(*pas);
 }
 
 void PanneauEssais::GoValeurs() {
@@ -335,12 +339,13 @@ void PanneauEssais::GoValeurs() {
         valeurs[AxeX2] = valeurs[AxeX1];
         valeurs[AxeY2] = valeurs[AxeY1];
     }
-    AvecDistanceCorrecte([&] {
+    const auto reste = DistanceCorrecte([&] {
         Pas pas = EnPas(valeurs, optMmPasValeurs[1]->isChecked());
         for (std::size_t i = 0; i < pas.size(); ++i)
             pas[i] = ArrondiLong(static_cast<double>(pas[i] - m_position[i]));
-        Partir(pas);
+        return pas;
     });
+    if (reste) Partir(*reste);
 }
 
 void PanneauEssais::Partir(const Pas& pas) {
