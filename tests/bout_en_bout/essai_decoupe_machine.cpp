@@ -42,7 +42,9 @@ TEST_F(DecoupeMachine, UneToucheDeFinArreteRefroiditEtDitOuEstLeFil) {
     for (const std::string signal : {"INT", "QUIT", "TSTP"}) {
         const Execution lot =
             AvecMachine("8", "tessarel-lot --documents doc --langue en decouper a.txt --interface & lot=$!\n"
-                             "sleep 1.5; kill -" +
+                             "n=0; until grep -q 'B lancer' journal.txt; do\n"
+                             "  n=$((n+1)); [ $n -lt 400 ] || exit 98; sleep 0.05; done\n"
+                             "sleep 0.7; kill -" +
                                  signal +
                                  " $lot\n"
                                  "statut=0; wait $lot || statut=$?\n"

@@ -9,9 +9,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <string>
-#include <sys/ioctl.h>
 #include <sys/wait.h>
-#include <termios.h>
 #include <unistd.h>
 
 namespace tessarel {
