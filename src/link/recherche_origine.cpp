@@ -32,6 +32,7 @@ constexpr std::uint8_t ModeOrigines = 1;
 // The one machine whose X2 has an origin switch of its own.
 constexpr const char* MachineAvecOrigineX2 = "QT4X v10";
 // Rows of TextesDoubles.
+constexpr int RangeeSansInterrupteurs = 30;
 constexpr int RangeeNouvelEssai = 33;
 constexpr int RangeeEchec = 34;
 
@@ -219,6 +220,13 @@ FinOrigine ChercherDirection(Recherche& r) {
 
 FinOrigine RechercheOrigine(const TableMachine& table, AxesOrigine axes, const SuiviMarche& suivi,
                             int rangeeAnnulation) {
+    if (!table.SwitchsActifs) {
+        // No switch would ever end the travel: the carriages would push at their ends until somebody stops
+        // it.
+        AfficherExclamation(TextesDoubles(RangeeSansInterrupteurs, 1),
+                            TextesDoubles(RangeeSansInterrupteurs, 2));
+        return FinOrigine::SansInterrupteurs;
+    }
     for (const bool directionY : {true, false}) {
         if (axes == (directionY ? AxesOrigine::X : AxesOrigine::Y)) continue;
         Recherche r{table, suivi, rangeeAnnulation};

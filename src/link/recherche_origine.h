@@ -11,10 +11,11 @@ enum class AxesOrigine { X, Y, XetY };
 
 enum class FinOrigine {
     Trouvee,
-    Annulee,         // by the user or by the STOP button; the box was shown
-    FinDeCourse,     // the limit loop opened; the box was shown
-    EncoreOuverts,   // three tries did not close the loop; the box was shown
-    MarcheImpossible // moves are not enabled, the box is gone or stands without a reason; the box was shown
+    SansInterrupteurs, // the machine has none that are active: nothing moved; the box was shown
+    Annulee,           // by the user or by the STOP button; the box was shown
+    FinDeCourse,       // the limit loop opened; the box was shown
+    EncoreOuverts,     // three tries did not close the loop; the box was shown
+    MarcheImpossible   // moves are not enabled, the box is gone or stands without a reason; the box was shown
 };
 
 // Brings the wire to its switches and just out of them, at VitesseDecoupeParDefaut, the heat untouched.

@@ -28,6 +28,8 @@ FinProcedure DepuisOrigine(FinOrigine fin) {
         return FinProcedure::Faite;
     case FinOrigine::Annulee:
         return FinProcedure::Annulee;
+    case FinOrigine::SansInterrupteurs:
+        return FinProcedure::Refusee;
     case FinOrigine::FinDeCourse:
     case FinOrigine::EncoreOuverts:
     case FinOrigine::MarcheImpossible:

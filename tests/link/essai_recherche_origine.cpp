@@ -72,6 +72,17 @@ TEST_F(Origine, UnBoutDeTraversEstRattrape) {
     EXPECT_TRUE(m_boites.boites.empty());
 }
 
+TEST_F(Origine, SansInterrupteursActifsRienNeBouge) {
+    TableINI.SwitchsActifs = false; // nothing would ever end the travel
+    const PositionPas avant = m_poste.boite.Position();
+    EXPECT_EQ(Chercher(AxesOrigine::XetY), FinOrigine::SansInterrupteurs);
+    EXPECT_EQ(m_poste.boite.Position(), avant);
+    EXPECT_EQ(m_echanges, 0);
+    ASSERT_EQ(m_boites.boites.size(), 1U);
+    EXPECT_EQ(m_boites.boites[0].texte, "Les interrupteurs de la table courante ne sont pas actifs.");
+    EXPECT_EQ(m_boites.boites[0].titre, "Impossible de faire la procédure.");
+}
+
 TEST_F(Origine, UneSeuleDirection) {
     m_poste.boite.PoserChariots({50 * 1600, 100 * 1600, 0, 100 * 1600});
     EXPECT_EQ(Chercher(AxesOrigine::X), FinOrigine::Trouvee);
