@@ -50,8 +50,11 @@ bool EnvoyerVoulue(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
     return false;
 }
 
-// One heat-off without a word. True when the box confirmed it.
+// One heat-off without a word, for a box that was given up and may still run a move. True when confirmed.
 bool EssayerCoupure() {
+    EffacerTampon();
+    TamponEchange[1] = CommandeArret;
+    Echanger();
     EffacerTampon();
     TamponEchange[1] = CommandeChauffe;
     return Echanger() && TamponEchange[2] == 0 && TamponEchange[4] == 0;

@@ -306,9 +306,11 @@ bool ArreterJusquAuRepos(const Marche& m, StatutZelko& statut) {
         if (finie) return true;
         if (RienNePart()) return false;
         Noter(echecs, envoye && lu.Recu, m.suivi);
+        if (echecs.Nombre == EchecsAvantAvertissement) OublierArret(m.suivi); // what was pressed unwarned
         LaisserPasserEvenements();
-        // A second stop gives up a box that doesn't answer, or that never comes to rest.
-        const bool sourde = !lu.Recu || statuts + 1 >= StatutsAvantNouvelArret;
+        // A second stop gives up a box that doesn't answer, once that was told, or that never comes to rest.
+        const bool sourde =
+            echecs.Nombre >= EchecsAvantAvertissement || statuts + 1 >= StatutsAvantNouvelArret;
         if (sourde && ArretVoulu(m.suivi)) {
             OublierArret(m.suivi);
             return false;
@@ -384,7 +386,18 @@ bool EnvoyerJusquaReponse(std::uint8_t code, std::uint8_t arg1, const SuiviMarch
 }
 
 bool RefroidirFil(const SuiviMarche& suivi) {
-    const FinChauffe fin = CouperChauffe({[&suivi] { return ArretVoulu(suivi); }, suivi.Prevenir});
+    // A stop pressed again gives up only what was told to fail: hands press twice in a fright.
+    bool avertie = false;
+    const auto prevenir = [&suivi, &avertie] {
+        avertie = true;
+        OublierArret(suivi);
+        if (suivi.Prevenir)
+            suivi.Prevenir();
+        else
+            SignalerErreurInterface("RefroidirFil");
+    };
+    const FinChauffe fin =
+        CouperChauffe({[&suivi, &avertie] { return avertie && ArretVoulu(suivi); }, prevenir});
     OublierArret(suivi);
     // An interruption has been told already.
     if (fin == FinChauffe::Impossible && ChauffePeutEtreActive()) SignalerChauffeNonCoupee();

@@ -4,6 +4,7 @@
 #include "app/texts/textes.h"
 #include "app/texts/textes_programme.h"
 #include "link/commandes.h"
+#include "link/etat_interface.h"
 #include "platform/dialogue.h"
 
 namespace tessarel {
@@ -143,6 +144,8 @@ FinProcedure DeplacerManuellement(const TableMachine& table, const std::array<do
     PasAxes pas = {};
     for (const Axe axe : {AxeX1, AxeY1, AxeX2, AxeY2}) pas[axe] = PasDeMillimetres(table, axe, mm[axe]);
     const ResultatMouvement mouvement = FaireMouvement(table, pas, *vitesses, suivi);
+    // It may still run: the link is asked, and the box stopped, before anything else.
+    if (mouvement.marche.fin == FinMarche::Abandonnee) MouvementsActifs = false;
     if (mouvement.cause == CauseFin::FinDeListe) return FinProcedure::Faite;
     if (mouvement.cause == CauseFin::StopEcran || mouvement.cause == CauseFin::StopEcranMoteursOff)
         return FinProcedure::Annulee;

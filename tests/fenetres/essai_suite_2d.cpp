@@ -16,6 +16,7 @@ private slots:
     void UneBoiteRemiseSousTensionRecoitSaTable();
     void SansBoiteLeFilResteALArret();
     void LeResteChauffeCommeLeCurseurALaisse();
+    void UneChauffeTireeAZeroNEstPasGardee();
     void UneMachineChangeeSousLeMemeNomNePartPas();
     void UneAutreTableRenonceALaSuite();
 };
@@ -92,6 +93,32 @@ void EssaiSuite2D::LeResteChauffeCommeLeCurseurALaisse() {
                                             [](const Tampon& t) { return t[1] == 'D' && (t[2] & 64U) != 0; });
     QVERIFY(pause != coupe.virtuelle.commandes.end());
     QVERIFY((*pause)[27] != 65);
+}
+
+// Pulled to nothing in a fright, then Stop: the rest is not dragged through the foam by a cold wire.
+void EssaiSuite2D::UneChauffeTireeAZeroNEstPasGardee() {
+    Coupe coupe;
+    int avant = 0;
+    coupe.Quand(QStringLiteral("Découpe segment n°3/"), [&] {
+        avant = coupe.virtuelle.boite->Etat().pwmCommande;
+        coupe.poste.Trouver<QScrollBar>("hscChauffePendantDecoupe").setValue(0);
+    });
+    const auto geste = coupe.virtuelle.SurPompe;
+    coupe.virtuelle.SurPompe = [&] {
+        geste();
+        if (coupe.Avertissement().startsWith(QStringLiteral("Découpe segment n°4/")))
+            coupe.poste.Cliquer<QPushButton>("cmdSTOP");
+    };
+    coupe.Lancer();
+    QVERIFY(coupe.Arretee());
+    int pwm = -1;
+    coupe.virtuelle.SurPompe = [&] {
+        if (coupe.Avertissement().startsWith(QStringLiteral("Chauffe ")))
+            pwm = coupe.virtuelle.boite->Etat().pwmCommande;
+    };
+    coupe.poste.Cliquer<QPushButton>("cmdRepriseDecoupe");
+    QVERIFY(avant > 0);
+    QCOMPARE(pwm, avant);
 }
 
 void EssaiSuite2D::UneMachineChangeeSousLeMemeNomNePartPas() {

@@ -1,17 +1,14 @@
 // A 2D cut on the virtual machine: what is checked, what is said, where the wire is at each end, resume and
 // return; and every exchange of it broken in turn.
-#include "link/chauffe_manuelle.h"
 #include "work2d/assemblage.h"
 #include "work2d/decoupe_interface.h"
-#include "work2d/mouvements_2d.h"
 
 #include "link/commandes.h"
 #include "link/echange.h"
 #include "link/memoires.h"
 #include "platform/pompe.h"
 
-#include "outils/boites.h"
-#include "outils_boite/boite_virtuelle.h"
+#include "work2d/poste_decoupe.h"
 
 #include <gtest/gtest.h>
 
@@ -19,105 +16,14 @@
 #include <cmath>
 #include <numeric>
 #include <string>
+#include <utility>
 
 using namespace tessarel;
+using namespace tessarel::essais;
 using namespace tessarel::simulateur;
 using namespace std::chrono_literals;
 
 namespace {
-
-PointProfil Sommet(double x, double y, float vitesse, bool rapide = false) {
-    PointProfil p;
-    p.X = x;
-    p.Y = y;
-    p.Vitesse = vitesse;
-    p.Rapide = rapide;
-    return p;
-}
-
-// A small cut with a rapid way in and out, all in a few seconds of the machine.
-Decoupe2D PetiteDecoupe() {
-    Decoupe2D decoupe;
-    decoupe.SequenceDecoupe.Points = {Sommet(0, 0, 4, true), Sommet(0, 3, 8),    Sommet(2, 3, 4),
-                                      Sommet(2.5, 1.5, 4),   Sommet(1, 1.25, 4), Sommet(0.5, 2.125, 4),
-                                      Sommet(0, 2, 4, true), Sommet(0, 0, 8)};
-    CalculerBornesSequence(decoupe.SequenceDecoupe);
-    return decoupe;
-}
-
-OptionsDecoupe2D Options() {
-    OptionsDecoupe2D options;
-    options.chauffe = 50;
-    return options;
-}
-
-// One cut under the test's clock, with a user who may press Stop after a given exchange and who presses it
-// again and again while the box is gone.
-struct Poste {
-    explicit Poste(Instant pas = 10ms, std::size_t capacite = 4, const std::string& machine = "(Defaut)")
-        : boite(machine, capacite), anciennePompe(InstallerPompe([this] { Pomper(); })) {
-        TableMachine table = TableINI;
-        table.TempoChauffe = 1;
-        boite.PreparerMachine(table);
-        boite.PasParEchange = pas;
-        boite.AvantEchange = [this](const Tampon& t) {
-            ++echanges;
-            if (!MouvementsActifs && EstCommandeDeMouvement(t)) ++interdites;
-        };
-        suivi.demandes = &demandes;
-        suivi.ChangerPhase = [this](PhaseDecoupe phase) { phases.push_back(phase); };
-        suivi.Avancer = [this](const AvanceeDecoupe& a) { avancees.push_back(a); };
-        decoupe = PetiteDecoupe();
-    }
-    ~Poste() { InstallerPompe(anciennePompe); }
-    Poste(const Poste&) = delete;
-    Poste& operator=(const Poste&) = delete;
-
-    void Pomper() {
-        if (stopA != 0 && echanges >= stopA) {
-            demandes.StopDemande = true;
-            stopA = 0;
-        }
-        if (!boite.boite.Branchee() && ++toursSansBoite % 25 == 0) demandes.StopDemande = true;
-        if (SurPompe) SurPompe();
-    }
-    DecoupePreparee Preparer() { return PreparerDecoupeTS2D(decoupe, Options(), TableINI, "Mousse"); }
-    ResultatDecoupe Lancer(bool origine = false, GenreDecoupe genre = GenreDecoupe::Decoupe) {
-        preparee = Preparer();
-        return LancerDecoupeTS2D(preparee, TableINI, origine, suivi, genre);
-    }
-    [[nodiscard]] PasAxes Position() const {
-        PasAxes pas = {};
-        for (std::size_t axe = 0; axe < pas.size(); ++axe)
-            pas[axe] = static_cast<std::int32_t>(boite.boite.Position()[axe]);
-        return pas;
-    }
-    [[nodiscard]] std::string DernierTitre() const {
-        return boites.boites.empty() ? "" : boites.boites.back().titre;
-    }
-    void FilFroidOuDit() const {
-        const bool froid = boite.boite.Etat().pwmCommande == 0 && boite.boite.Etat().file == EtatFile::Repos;
-        const bool dit = std::ranges::any_of(boites.boites,
-                                             [](const Boite& b) { return b.icone == IconeBoite::Critique; });
-        EXPECT_TRUE(froid || dit);
-        EXPECT_EQ(interdites, 0);
-    }
-
-    essais::BoitesEnregistrees boites;
-    essais::BoiteVirtuelle boite;
-    DemandesMarche demandes;
-    SuiviDecoupe suivi;
-    Decoupe2D decoupe;
-    DecoupePreparee preparee;
-    std::vector<PhaseDecoupe> phases;
-    std::vector<AvanceeDecoupe> avancees;
-    Pompe anciennePompe;
-    std::function<void()> SurPompe;
-    std::uint64_t echanges = 0;
-    std::uint64_t stopA = 0;
-    int toursSansBoite = 0;
-    int interdites = 0;
-};
 
 // Steps that a path asks of each axis, both ways.
 std::array<std::uint64_t, 4> PasDuChemin(const TrajetPas& trajet) {
@@ -245,6 +151,34 @@ TEST(DecoupeInterface, UnStopPendantLaChauffeVideLaFileAvantDeCouper) {
     EXPECT_EQ(r.fin, FinDecoupe::StopAvantDecoupe);
     EXPECT_EQ(r.NumSalveCourante, 1);
     EXPECT_EQ(envois, "S0 I0 B0 P0 ");
+}
+
+// Hands press twice in a fright: that gives up neither the stop nor the heat-off over one reply that is lost.
+TEST(DecoupeInterface, UnSecondStopNAbregePasLaCoupure) {
+    for (const char perdue : {'S', 'I', 'P'}) {
+        Poste poste;
+        poste.stopA = 220;
+        bool appuye = false;
+        int pertes = 0; // exchanges of that command
+        const auto compter = poste.boite.AvantEchange;
+        poste.boite.AvantEchange = [&](const Tampon& t) {
+            compter(t);
+            if (t[1] == 'S' && !std::exchange(appuye, true))
+                poste.boite.boite.Programmer({.panne = Panne::ReponsePerdue,
+                                              .commande = static_cast<std::uint8_t>(perdue),
+                                              .fois = 2});
+            if (appuye && t[1] == perdue) ++pertes;
+        };
+        poste.SurPompe = [&] {
+            if (appuye) poste.demandes.StopDemande = true;
+        };
+        const ResultatDecoupe r = poste.Lancer();
+        EXPECT_EQ(r.fin, FinDecoupe::Arretee) << perdue;
+        EXPECT_TRUE(r.chauffeCoupee) << perdue;
+        EXPECT_EQ(r.PositionStop.pas, poste.Position()) << perdue;
+        EXPECT_GE(pertes, perdue == 'S' ? 1 : 3) << perdue; // the status tells of the stop as well
+        EXPECT_TRUE(poste.boites.boites.empty()) << perdue;
+    }
 }
 
 TEST(DecoupeInterface, UnStopDansLaDecoupeNeVidePasLaFile) {
@@ -509,70 +443,4 @@ TEST(AvantDecoupe, LiaisonEtInterrupteurs) {
     poste.boites.reponses = {ReponseBoite::Non};
     EXPECT_EQ(VerifierAvantDecoupe(), AvantDecoupe::SansCorrespondance);
     EXPECT_FALSE(MouvementsActifs);
-}
-
-TEST(Mouvements2D, RetourEtRangement) {
-    Poste poste(20ms, 8, "QT2d v12");
-    poste.boite.PreparerMachine([] {
-        ChargerMachine("QT2d v12");
-        return TableINI;
-    }());
-    const SuiviMarche suivi = SuiviDeMarche(poste.suivi);
-    poste.boite.boite.PoserChariots({30 * 1600, 240 * 1600, 0, 240 * 1600});
-    poste.boites.reponses = {ReponseBoite::Non};
-    EXPECT_EQ(RetourOrigine(suivi), FinProcedure::Declinee);
-    EXPECT_EQ(poste.boites.boites.back().texte, "Exécuter la procédure de retour à la position de repos ?");
-    poste.boites.reponses = {ReponseBoite::Oui};
-    EXPECT_EQ(RetourOrigine(suivi), FinProcedure::Faite);
-    EXPECT_EQ(poste.DernierTitre(), "Retour effectué");
-    poste.boites.reponses = {ReponseBoite::Oui};
-    EXPECT_EQ(RangerLePortique(suivi), FinProcedure::Faite);
-    EXPECT_EQ(poste.boites.boites.back().texte, "Position de rangement atteinte.");
-    EXPECT_EQ(poste.DernierTitre(), "Mouvement effectué");
-    // (150, 0), less what is left of the back-off steps.
-    EXPECT_NEAR(poste.Position()[AxeX1], 150 * 1600, 320);
-    EXPECT_NEAR(poste.Position()[AxeY1], 0, 320);
-}
-
-TEST(Mouvements2D, UneAutreTableDansLInterfaceOffreLesParametres) {
-    Poste poste(20ms, 8, "QT2d v12");
-    const SuiviMarche suivi = SuiviDeMarche(poste.suivi);
-    poste.boite.boite.EcrireMemoires({});
-    const PasAxes depart = poste.Position();
-    poste.boites.reponses = {ReponseBoite::Oui};
-    EXPECT_EQ(RetourOrigine(suivi), FinProcedure::OuvrirParametrage);
-    poste.boites.reponses = {ReponseBoite::Oui};
-    EXPECT_EQ(RangerLePortique(suivi), FinProcedure::OuvrirParametrage);
-    poste.boites.reponses = {ReponseBoite::Non};
-    EXPECT_EQ(RetourOrigine(suivi), FinProcedure::Refusee);
-    EXPECT_EQ(poste.Position(), depart);
-}
-
-TEST(Mouvements2D, SansOrigineAutomatiqueLeRetourEstRefuse) {
-    Poste poste;
-    poste.boite.PreparerMachine([] {
-        ChargerMachine("(Defaut)");
-        return TableINI;
-    }());
-    EXPECT_EQ(RetourOrigine(SuiviDeMarche(poste.suivi)), FinProcedure::Refusee);
-    EXPECT_EQ(poste.boites.boites.back().texte,
-              "Les paramètres de la machine ne permettent pas le retour automatique");
-}
-
-TEST(Mouvements2D, FlechesEtChauffe) {
-    Poste poste;
-    const SuiviMarche suivi = SuiviDeMarche(poste.suivi);
-    EXPECT_EQ(DeplacerManuellement(TableINI, {1, 0, 1, 0}, 4, suivi), FinProcedure::Faite);
-    EXPECT_EQ(poste.Position(), (PasAxes{320, 0, 320, 0}));
-    EXPECT_EQ(DeplacerManuellement(TableINI, {1, 0, 1, 0}, 400, suivi), FinProcedure::Refusee);
-    EXPECT_TRUE(ChauffeManuellePermise());
-    ChauffeManuelle fil;
-    EXPECT_TRUE(AllumerFil(fil, 50, {}));
-    EXPECT_EQ(poste.boite.boite.Etat().pwmCommande, 127); // 50 x 2.55 falls just short of the half
-    poste.boite.boite.FixerCommutateurs({.chauffeManu = true});
-    poste.boites.reponses = {ReponseBoite::Non};
-    EXPECT_FALSE(ChauffeManuellePermise());
-    EXPECT_EQ(poste.DernierTitre(), "Attention à la position des interrupteurs");
-    EXPECT_TRUE(EteindreFil(fil, {}));
-    poste.FilFroidOuDit();
 }

@@ -109,10 +109,10 @@ void frmTessarel2D::VeillerSurFilManuel() {
 
 bool frmTessarel2D::LiaisonPermet() {
     if (MouvementsActifs) return true;
-    const std::string machine = TableINI.Nom;
+    const TableMachine machine = TableINI;
     const AvantDecoupe liaison = VerifierLiaison();
     MontrerLiaison();
-    if (TableINI.Nom != machine) ActualiserMachine();
+    if (!MemesValeurs(TableINI, machine)) ActualiserMachine();
     if (liaison == AvantDecoupe::OuvrirParametrage) OuvrirReglages(&frmTessarel2D::ParametrerMachine);
     return liaison == AvantDecoupe::Permise;
 }

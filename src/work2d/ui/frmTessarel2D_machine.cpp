@@ -134,10 +134,8 @@ void frmTessarel2D::PrevenirSilence() {
 // `suite`: the rest of a stopped cut, or the way back from it. False when the wire stands where it stood.
 bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
     OptionsDecoupe2D options = m_options;
-    if (suite)
-        options.chauffe = m_course.chauffe;
-    else
-        m_course.chauffe = options.chauffe;
+    // A heat that was pulled to nothing in a fright is none to pull a wire through foam with.
+    if (suite && m_course.chauffe > 0) options.chauffe = m_course.chauffe;
     m_course.preparee =
         PreparerDecoupeTS2D(m_course.decoupe, options, TableINI, comboMatieres->currentText().toStdString());
     if (!m_course.preparee.possible) return false;
@@ -151,6 +149,7 @@ bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
     m_panneauCourse->Commencer({m_course.genre, static_cast<double>(options.chauffe),
                                 static_cast<double>(TableINI.ChauffeMaxiSur100), resume});
     m_course.demandes.ChauffeModifiee = false;
+    m_course.chauffe = options.chauffe; // not what the slider makes of it
     m_trace->Commencer(m_course.decoupe.SequenceDecoupe, m_course.genre, suite);
     ResultatDecoupe resultat;
     try {

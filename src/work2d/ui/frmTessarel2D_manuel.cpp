@@ -1,6 +1,7 @@
 // The moves by hand: one at a time, Stop between two exchanges, and nothing else at hand meanwhile.
 #include "app/texts/textes.h"
 #include "app/texts/textes_programme.h"
+#include "link/etat_interface.h"
 #include "link/marche.h"
 #include "platform/dialogue.h"
 #include "ui/boites_qt.h"
@@ -81,8 +82,11 @@ void frmTessarel2D::ArreterManuel() {
 }
 
 void frmTessarel2D::DeplacerParFleche(int x, int y) {
-    if (Occupee() || !LiaisonPermet())
-        return; // after a box, which took the mouse, the arrow is pressed again
+    if (Occupee()) return;
+    if (!MouvementsActifs) {
+        LiaisonPermet(); // its boxes took the mouse, and the arrow's release with it: it is pressed again
+        return;
+    }
     // As far as it is held: the travel of the machine, or of its shorter side on a slant.
     const double course = x == 0   ? TableINI.CourseY
                           : y == 0 ? TableINI.CourseX
@@ -118,12 +122,14 @@ void frmTessarel2D::Mouvoir(int etat, const std::function<FinProcedure(const Sui
     m_course.demandes = {};
     m_stopManuel = false;
     PermettreCommandes(false);
-    const GardeEntrees garde({m_panneauManuel}, [this] { ArreterManuel(); });
+    std::optional<GardeEntrees> garde(std::in_place, std::vector<const QWidget*>{m_panneauManuel},
+                                      [this] { ArreterManuel(); });
     m_vues->setEnabled(false); // a box of the workshop would stand before Stop
     m_panneauManuel->MontrerMouvement(true, TexteAffiche(TextesEtats(etat)));
-    const auto finir = [this] {
+    const auto finir = [this, &garde] {
         m_course.enCours = false;
         delete m_alerteInterface;
+        garde.reset();
         m_panneauManuel->MontrerMouvement(false);
         m_vues->setEnabled(true);
         PermettreCommandes(true);
