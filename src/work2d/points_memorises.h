@@ -99,7 +99,8 @@ private:
 // be held anew.
 class EcrivainPoints {
 public:
-    // `source` may be null: there is no state before. `transformation`: what Transformer adds.
+    // `source` may be null: there is no state before; else it must outlive this. `transformation`: what
+    // Transformer adds.
     EcrivainPoints(const LecteurPoints* source, const std::optional<Transformation>& transformation);
 
     // Points of the source as they stand there.
@@ -118,7 +119,7 @@ private:
     std::uint32_t SuiteAllongee(std::uint32_t rang);
 
     const LecteurPoints* m_source;
-    const std::optional<Transformation>& m_transformation;
+    std::optional<Transformation> m_transformation;
     PointsMemorises m_faits;
     // Ranks that the tables of the source have become here.
     std::vector<std::uint32_t> m_reserves;
