@@ -135,6 +135,16 @@ void SignalerChauffeNonCoupee() {
                      TextesDoubles(RangeeChauffeNonCoupee, 2));
 }
 
+bool SignalerFilChaudSurManu() {
+    const auto chaud = [] {
+        const StatutZelko statut = DemanderStatut();
+        return statut.ChauffeSurManu && statut.ChauffeActive;
+    };
+    if (!chaud() || !chaud()) return false;
+    AfficherCritique(Texte(TexteProgramme::FilChaudSurManu), Texte(TexteProgramme::FilChaudSurManuTitre));
+    return true;
+}
+
 void CouperChauffeAvantDeQuitter() {
     if (!ChauffePeutEtreActive()) return;
     const Instant fin = Maintenant() + std::chrono::seconds(5);

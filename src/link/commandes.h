@@ -65,6 +65,10 @@ FinChauffe CouperChauffe(const SuiviChauffe& suivi = {});
 // The critical box that says that the wire may still be hot; the next refresh will try again.
 void SignalerChauffeNonCoupee();
 
+// True, after a critical box, where the box's heat switch stands on MANU and its knob heats the wire: no
+// command puts that out. Asks the box twice.
+bool SignalerFilChaudSurManu();
+
 // Called when a program ends, whatever way: where the wire may be hot, CouperChauffe for at most five
 // seconds. Sends nothing where nothing was heated.
 void CouperChauffeAvantDeQuitter();

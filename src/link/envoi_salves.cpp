@@ -20,6 +20,9 @@ ResultatEnvoi EnvoyerSalves(const TableauSalves& salves, const SuiviMarche& suiv
         ResultatEnvoi envoi;
         envoi.marche = FaireMarche(salves, suivi);
         envoi.chauffeCoupee = RefroidirFil(suivi);
+        // Given up, and it answers again: it has gone on by itself until now.
+        if (envoi.chauffeCoupee && envoi.marche.fin == FinMarche::Abandonnee) ArreterMouvement();
+        if (envoi.marche.statut.ChauffeSurManu && SignalerFilChaudSurManu()) envoi.chauffeCoupee = false;
         return envoi;
     } catch (...) {
         SecourirMarche();

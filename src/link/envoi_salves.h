@@ -8,7 +8,8 @@ namespace tessarel {
 
 struct ResultatEnvoi {
     ResultatMarche marche;
-    // The box confirmed it. Where false, a box told that the wire may be hot.
+    // The box confirmed it, and its switch does not leave the wire to the knob. Where false, a box told that
+    // the wire may be hot.
     bool chauffeCoupee = false;
 };
 

@@ -163,6 +163,7 @@ bool Remplir(Marche& m) {
             if (!reussi) break;
             vu = statut.NumeroSalve;
             m.finAvantDepart = statut.Fini;
+            m.resultat.statut.ChauffeSurManu = statut.ChauffeSurManu;
             m.numeroAvantDepart = statut.NumeroSalve;
             if (statut.SalveAcceptee)
                 ++m.prochaine;
@@ -300,8 +301,9 @@ bool ArreterJusquAuRepos(const Marche& m, StatutZelko& statut) {
             statuts = 0;
         }
         const StatutZelko lu = DemanderStatut();
-        // An end at a frame that can't be must be told twice.
-        const bool finie = lu.Fini && (Croyable(m, lu, Envoyees(m)) || MemeFin(statut, lu));
+        // An end at a frame that can't be must be told twice, and so must one without a reason.
+        const bool finie =
+            lu.Fini && ((DitPourquoi(lu) && Croyable(m, lu, Envoyees(m))) || MemeFin(statut, lu));
         if (lu.Recu) statut = lu;
         if (finie) return true;
         if (RienNePart()) return false;
@@ -318,11 +320,20 @@ bool ArreterJusquAuRepos(const Marche& m, StatutZelko& statut) {
     }
 }
 
+// A run that had begun, stands, and does not tell of the S: its power was cut meanwhile, and nothing that the
+// box says now is about this run.
+bool PerdueEnRoute(const Marche& m, const StatutZelko& statut) {
+    return m.resultat.NumeroSalve > 0 && !DitPourquoi(statut);
+}
+
 void Stopper(Marche& m, FinMarche fin) {
     StatutZelko statut;
-    const bool arretee = ArreterJusquAuRepos(m, statut);
-    if (arretee) Retenir(m, statut);
-    m.resultat.fin = arretee ? fin : FinMarche::Abandonnee;
+    if (!ArreterJusquAuRepos(m, statut)) {
+        m.resultat.fin = FinMarche::Abandonnee;
+        return;
+    }
+    m.resultat.fin = PerdueEnRoute(m, statut) ? FinMarche::SansRaison : fin;
+    Retenir(m, statut);
 }
 
 // The end, told twice. At a frame that was never sent it is that of another list: nothing else in the reply

@@ -68,7 +68,7 @@ enum class FinMarche {
 
 struct ResultatMarche {
     FinMarche fin = FinMarche::Impossible;
-    StatutZelko statut;           // of the last reply
+    StatutZelko statut;           // of the last reply; where nothing was started, no more than ChauffeSurManu
     std::int32_t NumeroSalve = 0; // last frame that ran
 };
 

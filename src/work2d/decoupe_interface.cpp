@@ -131,6 +131,15 @@ FinDecoupe FinirAvantDecoupe(const Passe& p) {
     return FinDecoupe::StopAvantDecoupe;
 }
 
+void AnnoncerTerminee(const Passe& p) {
+    if (p.genre == GenreDecoupe::Retour)
+        Annoncer(RangeeRetourFait);
+    else if (p.resultat.chauffeCoupee)
+        Annoncer(RangeeTerminee);
+    else // its sentence would say that the heat is off
+        AfficherInformation(Texte(TexteProgramme::DecoupeTermineeFilChaud), TextesDoubles(RangeeTerminee, 2));
+}
+
 FinDecoupe FinirArretee(Passe& p) {
     if (p.resultat.NumSalveCourante < PremiereSalveDeDecoupe) return FinirAvantDecoupe(p);
     AnnoncerPositionInconnue(p.resultat.PositionStop.lecture);
@@ -151,8 +160,7 @@ FinDecoupe FinirSelonStatut(Passe& p, const ResultatMarche& marche) {
     }
     if (statut.ArretDemande) return FinirArretee(p);
     if (statut.FinDeListe) {
-        if (p.resultat.chauffeCoupee)
-            Annoncer(p.genre == GenreDecoupe::Retour ? RangeeRetourFait : RangeeTerminee);
+        AnnoncerTerminee(p);
         return FinDecoupe::Terminee;
     }
     AnnoncerCause(statut.FinCourseOuverteEnMouvement ? CauseFin::FinCourseOuverte : CauseFin::OrigineOuverte);

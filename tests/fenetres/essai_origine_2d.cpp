@@ -257,6 +257,7 @@ void EssaiOrigine2D::ChaquePanneAChaqueEchange_data() {
 void EssaiOrigine2D::ChaquePanneAChaqueEchange() {
     QFETCH(int, panne);
     Origine o;
+    o.poste.fenetre->setUpdatesEnabled(false); // a thousand runs: nobody looks at them
     const auto arreterALaChauffe = [&o] {
         o.RenoncerSiMuet();
         if (!o.Chauffe() || !o.poste.Trouver<QPushButton>("cmdSTOP").isEnabled()) return;

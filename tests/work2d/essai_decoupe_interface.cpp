@@ -384,6 +384,27 @@ TEST(DecoupeInterface, ChaquePanneAChaqueEchangeLaisseUnFilFroidOuLeDit) {
     }
 }
 
+TEST(DecoupeInterface, UneCoupureDeCourantPendantUnStopNeDonnePasDePosition) {
+    Poste mesure;
+    mesure.Lancer();
+    int sansRaison = 0;
+    for (std::uint64_t n = 1; n < mesure.echanges; ++n) {
+        SCOPED_TRACE("coupure a l'echange " + std::to_string(n));
+        Poste poste;
+        poste.boite.boite.Programmer(
+            {.panne = Panne::CoupureCourant, .echange = n, .retablieApresEchanges = 9});
+        poste.stopA = n + 2; // while the box is silent
+        const ResultatDecoupe r = poste.Lancer();
+        poste.FilFroidOuDit();
+        ASSERT_NE(r.fin, FinDecoupe::Arretee); // the motors held nothing meanwhile: nothing may be resumed
+        if (r.fin != FinDecoupe::Inexpliquee) continue;
+        ASSERT_EQ(poste.DernierTitre(), "Arrêt inexpliqué");
+        ASSERT_FALSE(MouvementsActifs);
+        ++sansRaison;
+    }
+    EXPECT_GT(sansRaison, 100);
+}
+
 TEST(DecoupeInterface, TrenteMilleSegmentsAuFacteurMille) {
     Poste poste(1ms, CapaciteFileUsuelle);
     poste.boite.boite.FixerFacteur(1000);

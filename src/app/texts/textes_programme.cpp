@@ -178,6 +178,18 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
      "Coupez l'alimentation de la chauffe à la main avant d'approcher du fil.",
      "The interface has not confirmed that the heating is off: the wire may still be hot.\r\n"
      "Switch the power of the heating off by hand before you go near the wire."},
+    {TexteProgramme::FilChaudSurManu,
+     "L'interrupteur de chauffe PC/MANU est sur MANU : le fil chauffe au réglage du bouton de l'interface, "
+     "que "
+     "le programme ne peut pas couper.\r\n"
+     "Coupez la chauffe à la main avant d'approcher du fil.",
+     "The heating switch PC/MANU is on MANU: the knob of the interface heats the wire, and the program "
+     "cannot "
+     "switch that off.\r\n"
+     "Switch the heating off by hand before you go near the wire."},
+    {TexteProgramme::FilChaudSurManuTitre, "Le fil est encore chaud", "The wire is still hot"},
+    {TexteProgramme::DecoupeTermineeFilChaud, "Découpe terminée, fil en position de repos.",
+     "Cut finished, wire in its rest position."},
     {TexteProgramme::ChauffeRattrapee,
      "L'interface répond à nouveau : les mouvements sont arrêtés et la chauffe est coupée.\r\n"
      "Le fil n'est peut-être plus où il était.",

@@ -81,6 +81,9 @@ enum class TexteProgramme {
 
     // The interface box
     FilPeutEtreChaud,
+    FilChaudSurManu,
+    FilChaudSurManuTitre,
+    DecoupeTermineeFilChaud,
     ChauffeRattrapee,
     ChauffeRattrapeeTitre,
     VitesseIncorrecte,

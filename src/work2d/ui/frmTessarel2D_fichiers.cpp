@@ -300,7 +300,7 @@ void frmTessarel2D::dragEnterEvent(QDragEnterEvent* evenement) {
 
 void frmTessarel2D::dropEvent(QDropEvent* evenement) {
     const std::vector<std::string> chemins = CheminsDeposes(*evenement->mimeData());
-    if (chemins.empty()) return;
+    if (chemins.empty() || m_course.enCours || m_course.arretee) return; // it may have started meanwhile
     evenement->acceptProposedAction();
     for (const std::string& chemin : chemins) {
         if (!OuvrirFichier(chemin)) return;

@@ -161,6 +161,8 @@ bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
         SecourirMarche();
         delete m_alerteInterface;
         RetourAuRepos();
+        MontrerLiaison();
+        FermerSiDemande();
         throw;
     }
     const bool partie = resultat.fin != FinDecoupe::StopAvantDecoupe && resultat.fin != FinDecoupe::Refusee;
