@@ -195,7 +195,7 @@ TEST_F(BibliothequePrise, CeQuiVientSansEtreDemandeEstJete) {
 
 TEST_F(BibliothequePrise, UnEcouteurOccupeRefuseEtCEstUnResultatOrdinaire) {
     Ecouter(Repondre, [](int) { return false; }); // as with a client already there
-    Zelko_IsConnected(); // may still see the listener take it in; the exchange can't
+    Zelko_IsConnected();                          // may still see the listener take it in; the exchange can't
     Tampon tampon{};
     const std::int32_t resultat = Zelko_Send(tampon);
     EXPECT_TRUE(resultat == -200 || resultat == -202 || resultat == -203) << resultat;
