@@ -49,8 +49,11 @@ protected:
 std::string AutreVolume(const std::string& dossier) {
     struct stat ici {};
     struct stat la {};
-    if (::stat(dossier.c_str(), &ici) != 0 || ::stat("/dev/shm", &la) != 0) return "";
-    if (ici.st_dev == la.st_dev || ::access("/dev/shm", W_OK) != 0) return "";
+    struct stat dessus {};
+    if (::stat(dossier.c_str(), &ici) != 0 || ::stat("/dev/shm", &la) != 0 || ::stat("/dev", &dessus) != 0)
+        return "";
+    // In a chroot it may be a plain folder, not the top of a volume.
+    if (ici.st_dev == la.st_dev || dessus.st_dev == la.st_dev || ::access("/dev/shm", W_OK) != 0) return "";
     std::string modele = "/dev/shm/essai-corbeille-XXXXXX";
     return ::mkdtemp(modele.data()) != nullptr ? modele : "";
 }
