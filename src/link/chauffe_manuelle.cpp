@@ -5,6 +5,7 @@
 #include "link/echange.h"
 #include "platform/drapeau.h"
 #include "platform/nombres.h"
+#include "platform/pompe.h"
 
 namespace tessarel {
 
@@ -20,11 +21,37 @@ void Noter(ChauffeManuelle& fil, bool chaude, const SuiviChauffeManuelle& suivi)
     if (suivi.Changee) suivi.Changee(chaude);
 }
 
+// The box says that it heats nothing, though it should: its STOP button, its switch, its power.
+bool SEstRefroidi(double pourcent, const StatutZelko& statut) {
+    return !statut.ChauffeActive && !statut.ChauffeSurManu && ValeurPWM(pourcent) != 0;
+}
+
+// Asks the box whether a wire that is on is so still, until it answers or `boucle` ends it.
+bool EncoreChaud(const ChauffeManuelle& fil, const SuiviChauffe& boucle) {
+    EchecsConsecutifs echecs;
+    int froids = 0;
+    while (!boucle.Interrompre()) {
+        const StatutZelko statut = DemanderStatut();
+        if (NoterEchange(echecs, statut.Recu)) boucle.Prevenir();
+        if (statut.Recu && !SEstRefroidi(fil.confirmee, statut)) return true;
+        if (statut.Recu && ++froids == RegardsPourConclure) return false;
+        LaisserPasserEvenements();
+    }
+    return false;
+}
+
+enum class FinVoulue {
+    Envoyee,
+    Refroidi,  // the box had put the wire out by itself: it was switched off
+    Abandonnee // by the user, or told: it was switched off
+};
+
 // Sends what is wanted, again when the user moved on meanwhile. A heat that the box does not answer for is
 // given up and switched off: the wire must not be left to chance. The user hears why once it is cold.
-bool EnvoyerVoulue(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
+FinVoulue EnvoyerVoulue(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
     FinChauffe fin = FinChauffe::Impossible;
     bool sansEcho = false;
+    bool allume = true;
     {
         const Drapeau occupee(fil.occupee);
         double envoyee = 0;
@@ -35,19 +62,22 @@ bool EnvoyerVoulue(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
             boucle.Prevenir = [&fil, &sansEcho] { fil.abandon = sansEcho = true; };
             envoyee = fil.voulue;
             try {
-                fin = EnvoyerChauffe(ValeurPWM(envoyee), boucle);
+                allume = !fil.chaude || EncoreChaud(fil, boucle);
+                fin = allume ? EnvoyerChauffe(ValeurPWM(envoyee), boucle) : FinChauffe::Interrompue;
             } catch (...) {
                 SecourirFil(fil, suivi);
                 throw;
             }
+            if (fin == FinChauffe::Confirmee) fil.confirmee = envoyee;
         } while (fin == FinChauffe::Confirmee && envoyee != fil.voulue);
     }
-    if (fin == FinChauffe::Confirmee) return true;
+    if (fin == FinChauffe::Confirmee) return FinVoulue::Envoyee;
+    const bool refroidi = !allume && !fil.abandon;
     // An exchange that succeeded without the echo is a reply that doesn't fit.
     const std::int32_t resultat =
         DernierResultatZelko == ResultatZelkoSucces ? ResultatZelkoIncoherent : DernierResultatZelko;
     if (EteindreFil(fil, suivi) && sansEcho) SignalerErreurInterface("EnvoyerChauffe", resultat);
-    return false;
+    return refroidi ? FinVoulue::Refroidi : FinVoulue::Abandonnee;
 }
 
 // One heat-off without a word, for a box that was given up and may still run a move. True when confirmed.
@@ -58,11 +88,6 @@ bool EssayerCoupure() {
     EffacerTampon();
     TamponEchange[1] = CommandeChauffe;
     return Echanger() && TamponEchange[2] == 0 && TamponEchange[4] == 0;
-}
-
-// The box says that it heats nothing, though it should: its STOP button, its switch, its power.
-bool SEstRefroidi(const ChauffeManuelle& fil, const StatutZelko& statut) {
-    return !statut.ChauffeActive && !statut.ChauffeSurManu && ValeurPWM(fil.voulue) != 0;
 }
 
 VeilleFil Perdre(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
@@ -95,21 +120,22 @@ bool AllumerFil(ChauffeManuelle& fil, double pourcent, const SuiviChauffeManuell
     if (fil.occupee || fil.enMarche != nullptr || !MouvementsActifs) return false;
     if (suivi.Permise && !suivi.Permise()) return false;
     fil.voulue = pourcent;
-    if (!EnvoyerVoulue(fil, suivi)) return false;
+    if (EnvoyerVoulue(fil, suivi) != FinVoulue::Envoyee) return false;
     fil.incertaine = false;
     Noter(fil, true, suivi);
     return true;
 }
 
-void ChangerChauffeFil(ChauffeManuelle& fil, double pourcent, const SuiviChauffeManuelle& suivi) {
-    if (fil.coupureVoulue || (!fil.chaude && !fil.occupee)) return;
+bool ChangerChauffeFil(ChauffeManuelle& fil, double pourcent, const SuiviChauffeManuelle& suivi) {
+    if (fil.coupureVoulue || (!fil.chaude && !fil.occupee)) return true;
     fil.voulue = pourcent;
     if (fil.enMarche != nullptr) {
         fil.enMarche->ChauffeVoulue = EnSimple(pourcent);
         fil.enMarche->ChauffeModifiee = true;
     } else if (!fil.occupee) {
-        EnvoyerVoulue(fil, suivi);
+        return EnvoyerVoulue(fil, suivi) != FinVoulue::Refroidi;
     }
+    return true;
 }
 
 bool EteindreFil(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
@@ -171,7 +197,7 @@ VeilleFil VeillerSurFil(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi)
     const StatutZelko statut = DemanderStatut();
     if (NoterEchange(fil.echecs, statut.Recu)) return Perdre(fil, suivi);
     if (!statut.Recu) return VeilleFil::Calme;
-    fil.refroidie = SEstRefroidi(fil, statut) ? fil.refroidie + 1 : 0;
+    fil.refroidie = SEstRefroidi(fil.voulue, statut) ? fil.refroidie + 1 : 0;
     if (fil.refroidie < RegardsPourConclure) return VeilleFil::Calme;
     EteindreFil(fil, suivi); // or it would come back with the switch
     return VeilleFil::Coupee;

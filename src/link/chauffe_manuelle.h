@@ -25,6 +25,7 @@ struct ChauffeManuelle {
     bool coupureVoulue = false; // asked for and not confirmed yet; during a move it is confirmed after it
     bool abandon = false;       // the heat that is being asked for is given up
     double voulue = 0;          // percent, asked for last
+    double confirmee = 0;       // percent, that the box confirmed last outside a move
     EchecsConsecutifs echecs = {};
     int refroidie = 0; // times in a row that the box said it does not heat
 };
@@ -57,8 +58,9 @@ struct SuiviChauffeManuelle {
 // and the box of a failed exchange.
 bool AllumerFil(ChauffeManuelle& fil, double pourcent, const SuiviChauffeManuelle& suivi);
 // Another heat while the wire is on; also the same once more. Does nothing once the heat is to be switched
-// off: a bar that is touched must not light the wire again.
-void ChangerChauffeFil(ChauffeManuelle& fil, double pourcent, const SuiviChauffeManuelle& suivi);
+// off: a bar that is touched must not light the wire again. For the same reason the box is asked first, but
+// during a move; where it has put the wire out by itself, the heat is switched off, and this gives false.
+bool ChangerChauffeFil(ChauffeManuelle& fil, double pourcent, const SuiviChauffeManuelle& suivi);
 // Heat off, repeated until it is confirmed or the user gives up. True when the wire is known to be cold.
 // While a move runs, or a heat is still being asked for, it is only noted: who runs that ends it with a
 // heat-off.

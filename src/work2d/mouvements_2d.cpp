@@ -61,8 +61,10 @@ void Refuser(int rangee) {
     AfficherExclamation(TextesMessages(rangee), TitresMessages(rangee));
 }
 
-// What every procedure needs before its question: the link, and a machine that finds its origin by itself.
-FinProcedure PermettreProcedure() {
+// What every procedure needs before its question: a cold wire, for nothing watches it while a box waits for
+// an answer; the link, and a machine that finds its origin by itself.
+FinProcedure PermettreProcedure(const RefroidirManuel& refroidir) {
+    if (refroidir && !refroidir()) return FinProcedure::Refusee;
     const AvantDecoupe liaison = VerifierLiaison();
     if (liaison == AvantDecoupe::OuvrirParametrage) return FinProcedure::OuvrirParametrage;
     if (liaison != AvantDecoupe::Permise) return FinProcedure::Refusee;
@@ -73,17 +75,22 @@ FinProcedure PermettreProcedure() {
     return FinProcedure::Faite;
 }
 
-// The user's Yes, and a cold wire.
-FinProcedure Confirmer(const std::string& question, const std::string& titre,
-                       const RefroidirManuel& refroidir) {
-    if (!DemanderOuiNon(question, titre)) return FinProcedure::Declinee;
-    return !refroidir || refroidir() ? FinProcedure::Faite : FinProcedure::Refusee;
+FinProcedure Confirmer(const std::string& question, const std::string& titre) {
+    return DemanderOuiNon(question, titre) ? FinProcedure::Faite : FinProcedure::Declinee;
 }
 
 FinProcedure DemanderProcedure(int rangeeQuestion, const RefroidirManuel& refroidir) {
-    const FinProcedure permise = PermettreProcedure();
+    const FinProcedure permise = PermettreProcedure(refroidir);
     if (permise != FinProcedure::Faite) return permise;
-    return Confirmer(TextesDoubles(rangeeQuestion, 1), TextesDoubles(rangeeQuestion, 2), refroidir);
+    return Confirmer(TextesDoubles(rangeeQuestion, 1), TextesDoubles(rangeeQuestion, 2));
+}
+
+// What the box stopped a move for by itself, also in the instant of a stop that was asked here: CauseDeFin
+// tells that one alone then.
+CauseFin CauseDeLaBoite(ResultatMarche marche) {
+    marche.fin = FinMarche::Finie;
+    const CauseFin cause = CauseDeFin(marche, false);
+    return cause == CauseFin::FinDeListe ? CauseFin::Aucune : cause;
 }
 
 FinProcedure AllerAuRangement(const TableMachine& table, const SuiviMarche& suivi) {
@@ -124,12 +131,12 @@ FinProcedure RangerLePortique(const SuiviMarche& suivi, const RefroidirManuel& r
 }
 
 FinProcedure OrigineDUnAxe(AxesOrigine axe, const SuiviMarche& suivi, const RefroidirManuel& refroidir) {
-    FinProcedure fin = PermettreProcedure();
+    FinProcedure fin = PermettreProcedure(refroidir);
     if (fin != FinProcedure::Faite) return fin;
     if (VerifierInterrupteurs(TableINI) != StatutSucces) return FinProcedure::Refusee;
     const std::string nom = axe == AxesOrigine::X ? "X" : "Y";
     fin = Confirmer(TexteRempli(TexteProgramme::OrigineAxeQuestion, {nom}),
-                    TextesDoubles(RangeeQuestionRetour, 2), refroidir);
+                    TextesDoubles(RangeeQuestionRetour, 2));
     if (fin == FinProcedure::Faite) fin = MiseAOrigine(TableINI, axe, suivi);
     if (fin == FinProcedure::Faite)
         AfficherInformation(TexteRempli(TexteProgramme::OrigineAxeFaite, {nom}),
@@ -147,10 +154,12 @@ FinProcedure DeplacerManuellement(const TableMachine& table, const std::array<do
     // It may still run: the link is asked, and the box stopped, before anything else.
     if (mouvement.marche.fin == FinMarche::Abandonnee) MouvementsActifs = false;
     if (mouvement.cause == CauseFin::FinDeListe) return FinProcedure::Faite;
-    if (mouvement.cause == CauseFin::StopEcran || mouvement.cause == CauseFin::StopEcranMoteursOff)
-        return FinProcedure::Annulee;
+    const CauseFin deLaBoite = CauseDeLaBoite(mouvement.marche);
+    const bool arretee =
+        mouvement.cause == CauseFin::StopEcran || mouvement.cause == CauseFin::StopEcranMoteursOff;
+    if (arretee && deLaBoite == CauseFin::Aucune) return FinProcedure::Annulee;
     if (refroidir) refroidir();
-    if (!AnnoncerCause(mouvement.cause)) AnnoncerMarcheAnormale(mouvement.marche.fin);
+    if (!AnnoncerCause(deLaBoite)) AnnoncerMarcheAnormale(mouvement.marche.fin);
     return FinProcedure::Echouee;
 }
 

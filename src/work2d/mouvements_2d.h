@@ -20,8 +20,8 @@ enum class FinProcedure {
 };
 
 // Switches the wire off where a hand has lit it; true when it is cold for certain. Empty: it was never lit.
-// A procedure calls it before it moves, for its searches end in boxes that wait for an answer, and a wire
-// that stands goes on melting.
+// A procedure calls it before it asks anything: its boxes wait for an answer, and a wire that stands goes on
+// melting, unwatched.
 using RefroidirManuel = std::function<bool()>;
 
 // Homing and from the switches to the origin. Asks nothing.
@@ -36,7 +36,8 @@ FinProcedure RangerLePortique(const SuiviMarche& suivi, const RefroidirManuel& r
 FinProcedure OrigineDUnAxe(AxesOrigine axe, const SuiviMarche& suivi, const RefroidirManuel& refroidir = {});
 
 // One move of the arrows: `mm` by Axe, at a speed of the panel. Annulee is the arrow that was let go, or
-// Stop. At any other end that is not its own the wire is switched off before the box of it is shown.
+// Stop, where the box had no reason of its own to stand still in the same instant. At any other end that is
+// not its own the wire is switched off before the box of it is shown.
 FinProcedure DeplacerManuellement(const TableMachine& table, const std::array<double, 4>& mm, float vitesse,
                                   const SuiviMarche& suivi, const RefroidirManuel& refroidir = {});
 

@@ -381,8 +381,6 @@ void EssaiChauffeManuelle2D::UneProcedureBougeFilFroid() {
         chauffe.Allumer();
         const int chaude = chauffe.SurLeFil();
         QVERIFY(chaude > 0);
-        chauffe.poste.Cliquer<QPushButton>(nom); // No: nothing changes
-        QCOMPARE(chauffe.SurLeFil(), chaude);
         const std::size_t avant = chauffe.virtuelle.commandes.size();
         chauffe.poste.boites.reponses = {ReponseBoite::Oui};
         chauffe.poste.Cliquer<QPushButton>(nom);

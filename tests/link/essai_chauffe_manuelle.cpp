@@ -211,3 +211,34 @@ TEST_F(FilALaMain, AZeroPourCentRienNEstASurveiller) {
     for (int i = 0; i < 4; ++i) EXPECT_EQ(VeillerSurFil(fil, suivi), VeilleFil::Calme);
     EXPECT_TRUE(fil.chaude);
 }
+
+TEST_F(FilALaMain, LaBarreNeRallumePasCeQueLaMachineACoupe) {
+    ASSERT_TRUE(AllumerFil(fil, 60, suivi));
+    pwm = 0; // its STOP button
+    EXPECT_FALSE(ChangerChauffeFil(fil, 40, suivi));
+    EXPECT_EQ(Envoyees(), (std::vector<int>{153, 0}));
+    EXPECT_EQ(pwm, 0);
+    EXPECT_FALSE(fil.chaude || fil.incertaine);
+    EXPECT_TRUE(boites.boites.empty());
+}
+
+TEST_F(FilALaMain, UnFilMisAZeroRepartAvecLaBarre) {
+    ASSERT_TRUE(AllumerFil(fil, 60, suivi));
+    EXPECT_TRUE(ChangerChauffeFil(fil, 0, suivi));
+    EXPECT_TRUE(ChangerChauffeFil(fil, 40, suivi)); // cold because it was told to be
+    EXPECT_EQ(pwm, 102);
+    EXPECT_TRUE(fil.chaude);
+}
+
+TEST_F(FilALaMain, LaBarreAttendQueLaBoiteReponde) {
+    ASSERT_TRUE(AllumerFil(fil, 60, suivi));
+    sourdes = EchecsAvantAvertissement - 1;
+    EXPECT_TRUE(ChangerChauffeFil(fil, 40, suivi));
+    EXPECT_EQ(pwm, 102);
+    sourdes = EchecsAvantAvertissement;
+    EXPECT_TRUE(ChangerChauffeFil(fil, 50, suivi)); // given up, but not for what the machine did
+    EXPECT_EQ(pwm, 0);
+    EXPECT_FALSE(fil.chaude || fil.incertaine);
+    ASSERT_EQ(boites.boites.size(), 1U);
+    EXPECT_NE(boites.boites[0].texte.find("-203"), std::string::npos);
+}

@@ -227,6 +227,8 @@ private:
     void MontrerFil();
     void AllumerFilManuel();
     // Puts out a wire that was lit by hand. False when it may still be hot, which was told.
+    // While the wire is on; where the machine has put it out by itself it stays so, and the page says it.
+    void EnvoyerChauffeVoulue(double pourcent);
     bool EteindreFilManuel();
     void VeillerSurFilManuel();
     // Moves are enabled, at the latest after a look at the box; else a box told why not.

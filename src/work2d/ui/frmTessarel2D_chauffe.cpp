@@ -24,7 +24,7 @@ void frmTessarel2D::RelierChauffe() {
     connect(chauffe, &PanneauChauffe::CoupureDemandee, this, [this] { EteindreFilManuel(); });
     connect(chauffe, &PanneauChauffe::ChauffeVoulue, this, [this](double pourcent) {
         const auto garde = GarderFil();
-        ChangerChauffeFil(m_fil, pourcent, SuiviFil());
+        EnvoyerChauffeVoulue(pourcent);
         FermerSiDemande();
     });
     // Queued: a loop that asks for the heat-off from within the timer would hold the sign still.

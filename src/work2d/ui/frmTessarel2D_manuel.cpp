@@ -110,9 +110,14 @@ void frmTessarel2D::DeplacerParFleche(int x, int y) {
         if (eteindre)
             EteindreFilManuel();
         else
-            ChangerChauffeFil(m_fil, m_panneauManuel->Chauffe().Pourcent(), SuiviFil());
+            EnvoyerChauffeVoulue(m_panneauManuel->Chauffe().Pourcent());
         return fin;
     });
+}
+
+void frmTessarel2D::EnvoyerChauffeVoulue(double pourcent) {
+    if (!ChangerChauffeFil(m_fil, pourcent, SuiviFil()))
+        m_panneauManuel->MontrerEtat(TexteAffiche(Texte(TexteProgramme::ChauffeManuelleCoupeeParMachine)));
 }
 
 void frmTessarel2D::Mouvoir(int etat, const std::function<FinProcedure(const SuiviMarche&)>& mouvement) {
