@@ -151,6 +151,7 @@ bool EteindreFil(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
     }
     bool coupee = false;
     {
+        const std::shared_ptr<void> garde = suivi.Garder ? suivi.Garder() : nullptr;
         const Drapeau occupee(fil.occupee);
         const Drapeau coupure(fil.coupureVoulue);
         DemandesMarche demandes;

@@ -11,6 +11,7 @@
 #include "link/marche.h"
 
 #include <functional>
+#include <memory>
 
 namespace tessarel {
 
@@ -50,6 +51,9 @@ struct SuiviChauffeManuelle {
     // it is given ends the trying, with the critical box.
     std::function<void(std::function<void()>)> Prevenir;
     std::function<void()> FinPrevenir; // the trying has ended
+    // Called when the heat-off is about to be sent, by whatever asks for it; what it gives lives until the
+    // trying has ended.
+    std::function<std::shared_ptr<void>()> Garder;
     std::function<void(bool)> Changee; // on or off, after each command that says so
 };
 

@@ -12,6 +12,7 @@
 
 #include <QContextMenuEvent>
 #include <QDialog>
+#include <QMessageBox>
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QTimer>
@@ -78,6 +79,19 @@ struct Banc {
         return static_cast<std::size_t>(arret - debut);
     }
     [[nodiscard]] bool Chaud() const { return virtuelle.boite->Etat().pwmCommande > 0; }
+    // The watch over the wire looks every few milliseconds.
+    void VeillerVite() const { Controle<QTimer>(*fenetre, "TimerVeille").setInterval(5); }
+    [[nodiscard]] bool Veille() const { return Controle<QTimer>(*fenetre, "TimerVeille").isActive(); }
+    [[nodiscard]] bool MontreChaud() const {
+        return Controle<QWidget>(*fenetre, "lblWarningChauffe").isVisible();
+    }
+    [[nodiscard]] QString Mot() const {
+        return Controle<QLabel>(*fenetre, sorte == Machine ? "lblEtatMouvement" : "lblEtatTranches").text();
+    }
+    [[nodiscard]] QMessageBox* Alerte() const {
+        auto* alerte = fenetre->findChild<QMessageBox*>(QStringLiteral("alerteInterface"));
+        return alerte != nullptr && alerte->isVisible() ? alerte : nullptr;
+    }
     [[nodiscard]] bool FroidEtImmobile() const {
         return !Chaud() && virtuelle.boite->Etat().file == simulateur::EtatFile::Repos;
     }
@@ -112,6 +126,12 @@ private slots:
     void UneFauteArreteDAbord_data() { LesDeuxFenetres(); }
     void UneFauteArreteDAbord();
     void UneFautePendantLaCoupureNeLaissePasLeFilChaud();
+    void LeBoutonStopEstVuSansMouvement_data() { LesDeuxFenetres(); }
+    void LeBoutonStopEstVuSansMouvement();
+    void LaBoitePerdueSansMouvementSeDit_data() { LesDeuxFenetres(); }
+    void LaBoitePerdueSansMouvementSeDit();
+    void AbandonneeLaCoupureEstRetentee_data() { LesDeuxFenetres(); }
+    void AbandonneeLaCoupureEstRetentee();
 };
 
 void EssaiSureteMachine::StopAgitDesQuIlEstEnfonce() {
@@ -213,6 +233,65 @@ void EssaiSureteMachine::UneFautePendantLaCoupureNeLaissePasLeFilChaud() {
     QVERIFY(QString::fromStdString(banc.poste.DerniereBoite().texte)
                 .startsWith(QStringLiteral("Erreur 6 (trop)")));
     QVERIFY(banc.fenetre->close());
+}
+
+void EssaiSureteMachine::LeBoutonStopEstVuSansMouvement() {
+    QFETCH(int, fenetre);
+    Banc banc(static_cast<Banc::Fenetre>(fenetre));
+    banc.VeillerVite();
+    QTest::qWait(60);
+    QVERIFY(banc.Chaud() && banc.MontreChaud());
+    banc.virtuelle.boite->AppuyerStop();
+    QTRY_VERIFY_WITH_TIMEOUT(!banc.MontreChaud(), 2000);
+    QCOMPARE(banc.Mot(), QStringLiteral("La machine a coupé la chauffe"));
+    QCOMPARE(banc.virtuelle.Compter(CommandeChauffe, 0), std::size_t(1)); // it must not come back
+    Controle<QScrollBar>(*banc.fenetre, "hscChauffeParam").setValue(20);
+    QCOMPARE(int(banc.virtuelle.boite->Etat().pwmFil), 0);
+    QVERIFY(!banc.Veille());
+    QVERIFY(MouvementsActifs);
+    QVERIFY(banc.poste.boites.boites.empty());
+}
+
+void EssaiSureteMachine::LaBoitePerdueSansMouvementSeDit() {
+    QFETCH(int, fenetre);
+    Banc banc(static_cast<Banc::Fenetre>(fenetre));
+    banc.VeillerVite();
+    banc.virtuelle.boite->Brancher(false);
+    bool alerte = false;
+    banc.virtuelle.SurPompe = [&] {
+        if (banc.Alerte() == nullptr) return;
+        alerte = true;
+        banc.virtuelle.boite->Brancher(true);
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(alerte && banc.Alerte() == nullptr, 5000);
+    banc.virtuelle.SurPompe = {};
+    QVERIFY(!banc.Chaud());
+    QVERIFY(!banc.MontreChaud());
+    QVERIFY(!MouvementsActifs); // it may be another box
+    QVERIFY(
+        !Controle<QWidget>(*banc.fenetre, fenetre == Banc::Machine ? "cmdGoIncrements" : "cmdMvtTranches_0")
+             .isEnabled());
+    QVERIFY(banc.poste.boites.boites.empty());
+}
+
+void EssaiSureteMachine::AbandonneeLaCoupureEstRetentee() {
+    QFETCH(int, fenetre);
+    Banc banc(static_cast<Banc::Fenetre>(fenetre));
+    banc.VeillerVite();
+    banc.virtuelle.boite->Brancher(false);
+    banc.virtuelle.SurPompe = [&] {
+        if (QMessageBox* alerte = banc.Alerte())
+            QTest::mouseClick(alerte->button(QMessageBox::Ok), Qt::LeftButton);
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(!banc.poste.boites.boites.empty(), 5000);
+    banc.virtuelle.SurPompe = {};
+    QVERIFY(banc.poste.DerniereBoite().icone == IconeBoite::Critique);
+    QTest::qWait(60);
+    QVERIFY(banc.Chaud() && banc.MontreChaud());
+    banc.virtuelle.boite->Brancher(true);
+    QTRY_VERIFY_WITH_TIMEOUT(!banc.MontreChaud(), 2000); // nobody has to ask
+    QVERIFY(!banc.Chaud() && !banc.Veille());
+    QCOMPARE(banc.poste.boites.boites.size(), std::size_t(1));
 }
 
 int main(int argc, char** argv) {

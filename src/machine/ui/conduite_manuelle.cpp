@@ -5,6 +5,7 @@
 #include "app/texts/textes_programme.h"
 #include "link/commandes.h"
 #include "link/echange.h"
+#include "link/etat_interface.h"
 #include "link/mouvement_essai.h"
 #include "link/recherche_origine.h"
 #include "platform/dialogue.h"
@@ -13,6 +14,7 @@
 #include "ui/garde_entrees.h"
 
 #include <QMessageBox>
+#include <QWidget>
 #include <utility>
 
 namespace tessarel {
@@ -23,6 +25,8 @@ namespace {
 constexpr int RangeeInterrupteurOff = 106;
 constexpr int RangeeInterrupteurManu = 107;
 constexpr int RangeePasDInterface = 108;
+
+constexpr int PeriodeVeille = 500; // ms: twice a second, as the page of the 2D moves looks
 
 void Refuser(int rangee) {
     AfficherExclamation(TextesMessages(rangee), TitresMessages(rangee));
@@ -51,7 +55,11 @@ TexteProgramme MotDeFin(FinMarche fin, CauseFin cause) {
     return TexteProgramme::EssaiArrete;
 }
 
-ConduiteManuelle::ConduiteManuelle(QWidget* fenetre) : QObject(fenetre), m_fenetre(fenetre) {}
+ConduiteManuelle::ConduiteManuelle(QWidget* fenetre) : QObject(fenetre), m_fenetre(fenetre) {
+    TimerVeille.setObjectName(QStringLiteral("TimerVeille"));
+    TimerVeille.setInterval(PeriodeVeille);
+    connect(&TimerVeille, &QTimer::timeout, this, &ConduiteManuelle::Veiller);
+}
 
 void ConduiteManuelle::PermettreToujours(std::vector<const QWidget*> controles) {
     m_permis = std::move(controles);
@@ -131,7 +139,14 @@ SuiviChauffeManuelle ConduiteManuelle::SuiviFil() {
         Prevenir(TexteProgramme::ChauffeEssaiCoupure, std::move(abandonner));
     };
     suivi.FinPrevenir = [this] { delete m_alerte; };
-    suivi.Changee = [this](bool chaude) { emit ChauffeChangee(chaude); };
+    suivi.Garder = [this] { return GarderFil(); };
+    suivi.Changee = [this](bool chaude) {
+        if (!PeutEtreChaude())
+            TimerVeille.stop();
+        else if (!TimerVeille.isActive())
+            TimerVeille.start();
+        emit ChauffeChangee(chaude);
+    };
     return suivi;
 }
 
@@ -154,8 +169,19 @@ void ConduiteManuelle::ChangerChauffe(double pourcent) {
 }
 
 bool ConduiteManuelle::Couper() {
-    const auto garde = GarderFil();
     return EteindreFil(m_fil, SuiviFil());
+}
+
+// A move looks by itself. A window that is closed leaves the box to what comes after it.
+void ConduiteManuelle::Veiller() {
+    if (m_enMouvement || !m_fenetre->window()->isVisible()) return;
+    const bool etaitIncertain = m_fil.incertaine;
+    const VeilleFil vue = VeillerSurFil(m_fil, SuiviFil());
+    if (vue == VeilleFil::Coupee)
+        emit CoupeeSansDemande(etaitIncertain ? TexteProgramme::ChauffeManuelleCoupeeEnfin
+                                              : TexteProgramme::ChauffeManuelleCoupeeParMachine);
+    // While the wire may be hot what puts it out stays at hand.
+    if (vue != VeilleFil::Calme && !MouvementsActifs && !PeutEtreChaude()) emit LiaisonPerdue();
 }
 
 bool ConduiteManuelle::CouperSiChaud() {

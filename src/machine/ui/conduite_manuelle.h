@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QTimer>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -62,18 +63,27 @@ public:
     [[nodiscard]] bool EnMouvement() const { return m_enMouvement; }
     [[nodiscard]] bool Occupee() const { return m_fil.occupee; }
     [[nodiscard]] bool Chaude() const { return m_fil.chaude; }
+    // On, or a heat-off was given up.
+    [[nodiscard]] bool PeutEtreChaude() const { return m_fil.chaude || m_fil.incertaine; }
 
 signals:
     void DebutMouvement();
     void Avance(double fraction);
     void FinMouvement();
     void ChauffeChangee(bool chaude);
+    // Nobody asked for it here: the machine has switched the heat off by itself, or a heat-off that was given
+    // up is confirmed at last.
+    void CoupeeSansDemande(TexteProgramme mot);
+    // The box is gone and the wire is cold: nothing moves before the link was refreshed.
+    void LiaisonPerdue();
 
 private:
     [[nodiscard]] SuiviChauffeManuelle SuiviFil();
     [[nodiscard]] ResultatMouvement FaireEtSuivre(const PasAxes& pas, const VitessesSalve& vitesses);
     // For a command of the heat; nothing where another command keeps the input shut already.
     [[nodiscard]] std::unique_ptr<GardeEntrees> GarderFil();
+    // A look at the wire, by the timer that runs while it may be hot.
+    void Veiller();
     // Warns over the window while a loop keeps trying; the button of the warning calls `abandonner`.
     void Prevenir(TexteProgramme texte, std::function<void()> abandonner);
 
@@ -82,6 +92,7 @@ private:
     DemandesMarche m_demandes;
     ChauffeManuelle m_fil;
     bool m_enMouvement = false;
+    QTimer TimerVeille{this};
     std::vector<const QWidget*> m_permis;
 };
 

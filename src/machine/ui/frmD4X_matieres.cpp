@@ -134,8 +134,11 @@ void frmD4X_matieres::RelierChauffe() {
     });
     connect(m_conduite, &ConduiteManuelle::ChauffeChangee, this, [this](bool chaude) {
         optChauffeMatieres[chaude ? 1 : 0]->setChecked(true);
-        lblWarningChauffe->setVisible(chaude);
+        lblWarningChauffe->setVisible(m_conduite->PeutEtreChaude());
     });
+    connect(m_conduite, &ConduiteManuelle::CoupeeSansDemande, this,
+            [this](TexteProgramme mot) { lblEtatTranches->setText(TexteAffiche(Texte(mot))); });
+    connect(m_conduite, &ConduiteManuelle::LiaisonPerdue, this, &frmD4X_matieres::MontrerMouvementsPossibles);
     lblWarningChauffe->hide();
     QPalette rouge = lblWarningChauffe->palette();
     rouge.setColor(QPalette::WindowText, CouleurAlerte());

@@ -44,6 +44,7 @@ SuiviChauffeManuelle frmTessarel2D::SuiviFil() {
             OuvrirAlerte(this, Texte(TexteProgramme::ChauffeEssaiCoupure), std::move(abandonner));
     };
     suivi.FinPrevenir = [this] { delete m_alerteInterface; };
+    suivi.Garder = [this] { return GarderFil(); };
     suivi.Changee = [this](bool) { MontrerFil(); };
     return suivi;
 }
@@ -51,7 +52,7 @@ SuiviChauffeManuelle frmTessarel2D::SuiviFil() {
 // While the heat is asked for or put out: nothing where another command keeps the input shut already, or
 // where there is nothing to ask.
 std::unique_ptr<GardeEntrees> frmTessarel2D::GarderFil() {
-    if (Occupee() || !ManuelOuvert()) return nullptr;
+    if (Occupee() || (!m_fil.chaude && !m_fil.incertaine && !ManuelOuvert())) return nullptr;
     return std::make_unique<GardeEntrees>(std::vector<const QWidget*>{m_panneauManuel}, [this] {
         if (m_fil.occupee) EteindreFil(m_fil, SuiviFil());
     });
@@ -81,7 +82,6 @@ void frmTessarel2D::AllumerFilManuel() {
 }
 
 bool frmTessarel2D::EteindreFilManuel() {
-    const auto garde = GarderFil();
     const bool froid = EteindreFilSiChaud(m_fil, SuiviFil());
     MontrerFil();
     if (!m_course.enCours) FermerSiDemande();
