@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTimer>
 
 using namespace tessarel;
 using namespace tessarel::essais;
@@ -62,6 +63,8 @@ private slots:
     void RienNeSeMeleAUneChauffeDemandee();
     void LaChauffeSuitSesBoutons();
     void UneChauffeSansEchoEstCoupeePuisDite();
+    void ChangerDeReglagesCommenceFilFroid_data();
+    void ChangerDeReglagesCommenceFilFroid();
     void FermerAvecLeFilChaudLeRefroidit();
     void FermerAvecLaBoiteDebrancheePrevient();
     void Images_data();
@@ -351,6 +354,48 @@ void EssaiMouvementsMachine::UneChauffeSansEchoEstCoupeePuisDite() {
     const std::string& texte = essai.poste.boites.boites[0].texte;
     QVERIFY(texte.starts_with("Erreur -203"));
     QVERIFY(texte.ends_with("EnvoyerChauffe"));
+}
+
+void EssaiMouvementsMachine::ChangerDeReglagesCommenceFilFroid_data() {
+    QTest::addColumn<QString>("geste");
+    for (const char* geste :
+         {"comboMachines", "cmdValider_0", "cmdRafraichirUsb", "cmdNouvelleTable", "cmdEffacerTable"})
+        QTest::addRow("%s", geste) << QString::fromLatin1(geste);
+}
+// The other machine is in the box as well, and proposes another heat: it must not reach a wire that was lit
+// for this one.
+void EssaiMouvementsMachine::ChangerDeReglagesCommenceFilFroid() {
+    QFETCH(QString, geste);
+    Essais essai;
+    const std::string machine = TableINI.Nom;
+    ChargerMachine("QT4X-m1");
+    simulateur::MemoiresBoite memoires = essai.virtuelle.boite->Memoires();
+    memoires[1] = simulateur::MemoireDeMachine(TableINI);
+    essai.virtuelle.boite->EcrireMemoires(memoires);
+    ChargerMachine(machine);
+    Controle<QScrollBar>(*essai.fenetre, "hscChauffeParam").setValue(20);
+    Cliquer(*essai.fenetre, "optChauffeParam_1");
+    QCOMPARE(int(essai.virtuelle.boite->Etat().pwmFil), 51);
+    essai.virtuelle.commandes.clear();
+    QTimer fermeur; // the name of a new machine is asked
+    connect(&fermeur, &QTimer::timeout, [] {
+        if (auto* demande = qobject_cast<QDialog*>(QApplication::activeModalWidget())) demande->reject();
+    });
+    fermeur.start(20);
+    if (geste == QStringLiteral("comboMachines")) {
+        auto& machines = Controle<QComboBox>(*essai.fenetre, "comboMachines");
+        emit machines.activated(machines.findText(QStringLiteral("QT4X-m1")));
+        QCOMPARE(TableINI.Nom, std::string("QT4X-m1"));
+        QVERIFY(MouvementsActifs);
+    } else {
+        Controle<QWidget>(*essai.fenetre, qPrintable(geste)).setEnabled(true); // a built-in machine stays
+        Cliquer(*essai.fenetre, qPrintable(geste));
+    }
+    QCOMPARE(int(essai.virtuelle.boite->Etat().pwmFil), 0);
+    QCOMPARE(essai.virtuelle.Compter(CommandeChauffe, 1), std::size_t(0));
+    QVERIFY(!essai.virtuelle.commandes.empty());
+    QCOMPARE(int(essai.virtuelle.commandes.front()[1]), int(CommandeChauffe)); // before all else
+    QVERIFY(!Controle<QLabel>(*essai.fenetre, "lblWarningChauffe").isVisible());
 }
 
 void EssaiMouvementsMachine::FermerAvecLeFilChaudLeRefroidit() {

@@ -126,7 +126,9 @@ void frmParametresTables::Relier() {
     connect(comboMachines, &QComboBox::activated, this, &frmParametresTables::ChangerMachine);
     connect(cmdNouvelleTable, &QPushButton::clicked, this, &frmParametresTables::DemanderNouvelleTable);
     connect(cmdEffacerTable, &QPushButton::clicked, this, &frmParametresTables::DemanderEffacement);
-    connect(cmdRafraichirUsb, &QToolButton::clicked, this, &frmParametresTables::Rafraichir);
+    connect(cmdRafraichirUsb, &QToolButton::clicked, this, [this] {
+        if (!m_essais->FilChaud() || m_essais->CouperAvantDePartir()) Rafraichir();
+    });
     connect(cmdValider[0], &QPushButton::clicked, this, [this] { Valider(false); });
     connect(cmdValider[1], &QPushButton::clicked, this, [this] { Valider(true); });
     connect(cmdQuitter, &QPushButton::clicked, this, &QDialog::reject);
@@ -141,6 +143,8 @@ void frmParametresTables::Relier() {
     };
     aider("cmdAideEcartements", RangeeAideEcartements);
     aider("cmdAideLongueurFil", RangeeAideLongueurFil);
+    connect(m_essais, &PanneauEssais::LiaisonPerdue, this,
+            &frmParametresTables::ActualiserNomsMemoiresEtAffichageMachineDansFrmParametres);
     connect(m_essais, &PanneauEssais::EnMouvement, this, [this](bool enMouvement) {
         if (enMouvement) {
             DesactiverCadreParametres();
@@ -339,6 +343,9 @@ void frmParametresTables::MontrerPage(int page) {
 
 // Commands ------------------------------------------------------------------------------------------
 
+// Each begins with a cold wire: what it loads brings other heats with it, and behind its questions the heat
+// could not be put out.
+
 bool frmParametresTables::AccepterAbandon() {
     return !Modifiee() || DemanderOuiNon(TexteRempli(TexteProgramme::ParametresAbandon, {TableINI.Nom}),
                                          TitresMessages(RangeeQuitterSansValider), IconeBoite::Exclamation);
@@ -346,7 +353,7 @@ bool frmParametresTables::AccepterAbandon() {
 
 void frmParametresTables::ChangerMachine(int rang) {
     const std::string nom = comboMachines->itemText(rang).toStdString();
-    if (nom != TableINI.Nom && !m_essais->MouvementEnCours() && AccepterAbandon()) {
+    if (nom != TableINI.Nom && m_essais->CouperAvantDePartir() && AccepterAbandon()) {
         ChoisirMachine(nom);
         MontrerMachine();
         ActualiserNomsMemoiresEtAffichageMachineDansFrmParametres();
@@ -356,7 +363,7 @@ void frmParametresTables::ChangerMachine(int rang) {
 }
 
 void frmParametresTables::DemanderNouvelleTable() {
-    if (m_essais->MouvementEnCours()) return;
+    if (!m_essais->CouperAvantDePartir()) return;
     frmNouvelleTable demande(this);
     demande.Accepter([this](const std::string& nom) { return CreerMachine(Saisie(), nom); });
     if (demande.exec() != QDialog::Accepted) return;
@@ -367,7 +374,7 @@ void frmParametresTables::DemanderNouvelleTable() {
 }
 
 void frmParametresTables::DemanderEffacement() {
-    if (m_essais->MouvementEnCours()) return;
+    if (!m_essais->CouperAvantDePartir()) return;
     const auto chargement = [this] {
         lblEtat->setText(TexteAffiche(Texte(TexteProgramme::ParametresChargementDefaut)));
     };
@@ -380,7 +387,7 @@ void frmParametresTables::DemanderEffacement() {
 }
 
 void frmParametresTables::Valider(bool versMemoire) {
-    if (m_essais->MouvementEnCours()) return;
+    if (!m_essais->CouperAvantDePartir()) return;
     std::optional<int> memoire;
     if (versMemoire) {
         const bool prete = InterfacePretePourMemoire();

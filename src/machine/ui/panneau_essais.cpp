@@ -23,6 +23,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <algorithm>
 #include <functional>
 #include <limits>
@@ -217,12 +218,16 @@ void PanneauEssais::RelierChauffe() {
     });
     connect(m_conduite, &ConduiteManuelle::ChauffeChangee, this, [this](bool chaude) {
         optChauffeParam[chaude ? 1 : 0]->setChecked(true);
-        lblWarningChauffe->setVisible(chaude);
+        lblWarningChauffe->setVisible(m_conduite->PeutEtreChaude());
     });
+    connect(m_conduite, &ConduiteManuelle::CoupeeSansDemande, this,
+            [this](TexteProgramme mot) { lblEtatMouvement->setText(TexteAffiche(Texte(mot))); });
+    connect(m_conduite, &ConduiteManuelle::LiaisonPerdue, this, &PanneauEssais::LiaisonPerdue);
     lblWarningChauffe->hide();
 }
 
 void PanneauEssais::MontrerMachine() {
+    const QSignalBlocker rienNePart(hscChauffeParam); // what a machine proposes is no heat that was asked for
     hscChauffeParam->setRange(0, TableINI.ChauffeMaxiSur100);
     hscChauffeParam->setValue(TableINI.ChauffeParDefaut);
     lblChauffeParam->setText(QStringLiteral("%1 %").arg(hscChauffeParam->value()));
@@ -237,6 +242,10 @@ void PanneauEssais::MontrerMachine() {
 
 bool PanneauEssais::MouvementEnCours() const {
     return m_conduite->EnMouvement() || m_conduite->Occupee();
+}
+
+bool PanneauEssais::FilChaud() const {
+    return m_conduite->Chaude();
 }
 
 void PanneauEssais::DemanderArret() {

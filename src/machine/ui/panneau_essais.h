@@ -28,6 +28,7 @@ public:
     // Limits and first values from the current machine.
     void MontrerMachine();
     [[nodiscard]] bool MouvementEnCours() const;
+    [[nodiscard]] bool FilChaud() const;
     void DemanderArret();
     // Before the panel is left: nothing moves, and the wire is cold, or the user was told loudly that it may
     // not be. False when it must stay.
@@ -35,6 +36,8 @@ public:
 
 signals:
     void EnMouvement(bool enMouvement);
+    // The box is gone, and the wire is cold.
+    void LiaisonPerdue();
 
 private:
     using Pas = std::array<std::int32_t, 4>;
