@@ -41,9 +41,10 @@ void EssaiSureteTouches::EchapJusteApresLeDepartArreteAuLieuDeFermer() {
         if (banc.poste.fenetre->Course().enCours)
             pageDeLaCourse = pageDeLaCourse && banc.poste.Trouver<QPushButton>("cmdSTOP").isVisible();
     };
-    // As their keys press them, the second before the first one counts.
+    // As their keys press them, the second before the first one counts (100 ms), and far enough from it that
+    // the clock of coarse timers keeps their order.
     banc.poste.Trouver<QPushButton>("cmdLancerLaDecoupeTS2D").animateClick();
-    QTest::qSleep(20);
+    QTest::qSleep(50);
     banc.poste.Trouver<QPushButton>("cmdAnnulerDecoupe").animateClick();
     QTRY_VERIFY_WITH_TIMEOUT(!banc.poste.boites.boites.empty(), 10000);
     QTRY_VERIFY(!banc.poste.fenetre->Course().enCours);
