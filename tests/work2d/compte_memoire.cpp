@@ -41,6 +41,14 @@ void* operator new(std::size_t taille) {
 void* operator new[](std::size_t taille) {
     return Prendre(taille);
 }
+// Stable sorts ask this way; a sanitizer has one of its own, whose blocks have no head.
+void* operator new(std::size_t taille, const std::nothrow_t&) noexcept {
+    try {
+        return Prendre(taille);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
 void operator delete(void* bloc) noexcept {
     Rendre(bloc);
 }
