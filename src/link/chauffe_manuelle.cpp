@@ -168,8 +168,11 @@ bool EteindreFil(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
             throw;
         }
         if (suivi.FinPrevenir) suivi.FinPrevenir();
+        // Told once: until the watch finds it cold, the sign says it.
+        fil.surManu =
+            coupee && (fil.surManu ? BoutonChauffeLeFil().value_or(true) : SignalerFilChaudSurManu());
     }
-    const bool froid = coupee || !ChauffePeutEtreActive();
+    const bool froid = !fil.surManu && (coupee || !ChauffePeutEtreActive());
     fil.incertaine = !froid;
     Noter(fil, false, suivi);
     return froid;
@@ -180,8 +183,10 @@ bool EteindreFilSiChaud(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi)
 }
 
 void SecourirFil(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
-    const bool froid = SecourirMarche() || !ChauffePeutEtreActive();
+    const bool coupee = SecourirMarche();
     if (suivi.FinPrevenir) suivi.FinPrevenir();
+    fil.surManu = coupee && BoutonChauffeLeFil().value_or(fil.surManu);
+    const bool froid = !fil.surManu && (coupee || !ChauffePeutEtreActive());
     fil.incertaine = !froid;
     Noter(fil, false, suivi);
 }
@@ -189,8 +194,8 @@ void SecourirFil(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
 VeilleFil VeillerSurFil(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
     if (fil.occupee || fil.enMarche != nullptr) return VeilleFil::Calme;
     if (fil.incertaine) {
-        if (!EssayerCoupure()) return VeilleFil::Calme;
-        fil.incertaine = false;
+        if (!EssayerCoupure() || BoutonChauffeLeFil().value_or(true)) return VeilleFil::Calme;
+        fil.incertaine = fil.surManu = false;
         Noter(fil, false, suivi);
         return VeilleFil::Coupee;
     }

@@ -21,7 +21,8 @@ struct ChauffeManuelle {
     // is sent meanwhile.
     DemandesMarche* enMarche = nullptr;
     bool chaude = false;        // on, and the box confirmed it
-    bool incertaine = false;    // a heat-off was given up: the wire may be hot
+    bool incertaine = false;    // a heat-off was given up, or the box's knob heats on: the wire may be hot
+    bool surManu = false;       // the second, and it has been told
     bool occupee = false;       // a loop that repeats the command is under way
     bool coupureVoulue = false; // asked for and not confirmed yet; during a move it is confirmed after it
     bool abandon = false;       // the heat that is being asked for is given up

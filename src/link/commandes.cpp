@@ -135,12 +135,20 @@ void SignalerChauffeNonCoupee() {
                      TextesDoubles(RangeeChauffeNonCoupee, 2));
 }
 
-bool SignalerFilChaudSurManu() {
-    const auto chaud = [] {
+std::optional<bool> BoutonChauffeLeFil() {
+    std::optional<bool> vu;
+    for (int essai = 0; essai < EchecsAvantAvertissement; ++essai) {
         const StatutZelko statut = DemanderStatut();
-        return statut.ChauffeSurManu && statut.ChauffeActive;
-    };
-    if (!chaud() || !chaud()) return false;
+        if (!statut.Recu) continue;
+        const bool chaud = statut.ChauffeSurManu && statut.ChauffeActive;
+        if (vu == chaud) return chaud;
+        vu = chaud;
+    }
+    return vu;
+}
+
+bool SignalerFilChaudSurManu() {
+    if (!BoutonChauffeLeFil().value_or(false)) return false;
     AfficherCritique(Texte(TexteProgramme::FilChaudSurManu), Texte(TexteProgramme::FilChaudSurManuTitre));
     return true;
 }

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace tessarel {
 
@@ -65,8 +66,11 @@ FinChauffe CouperChauffe(const SuiviChauffe& suivi = {});
 // The critical box that says that the wire may still be hot; the next refresh will try again.
 void SignalerChauffeNonCoupee();
 
-// True, after a critical box, where the box's heat switch stands on MANU and its knob heats the wire: no
-// command puts that out. Asks the box twice.
+// Whether the box's heat switch stands on MANU and its knob heats the wire: no command puts that out. Asks
+// until two replies agree; where they don't the last one counts, and nothing is known of a box that is
+// silent.
+std::optional<bool> BoutonChauffeLeFil();
+// True, after a critical box, where it is known to be so.
 bool SignalerFilChaudSurManu();
 
 // Called when a program ends, whatever way: where the wire may be hot, CouperChauffe for at most five

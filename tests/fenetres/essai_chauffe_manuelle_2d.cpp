@@ -1,5 +1,6 @@
 // The wire heated by hand in the 2D window, on the virtual machine: what its own record says after every way
 // to light it, to change it, to put it out, to leave it alone, and to lose the box.
+#include "app/texts/textes_programme.h"
 #include "fenetres/images.h"
 #include "fenetres/poste_machine.h"
 #include "fenetres/poste_manuel.h"
@@ -223,6 +224,9 @@ void EssaiChauffeManuelle2D::SurManuLUtilisateurDecide() {
     chauffe.Allumer();
     QCOMPARE(chauffe.virtuelle.boite->Etat().pwmCommande, std::uint8_t(Octet));
     QVERIFY(chauffe.MontreChaud()); // the knob rules: the program can't know how hot
+    chauffe.Couper();
+    QCOMPARE(chauffe.poste.DerniereBoite().titre, Texte(TexteProgramme::FilChaudSurManuTitre));
+    QVERIFY(!chauffe.MontreFroid());
 }
 
 void EssaiChauffeManuelle2D::SurOffEstRefuse() {

@@ -5,6 +5,8 @@
 #include "link/chauffe_manuelle.h"
 #include "link/commandes.h"
 
+#include "app/texts/textes_programme.h"
+
 using namespace tessarel;
 
 namespace {
@@ -25,7 +27,7 @@ protected:
                 t[2] = commande[2];
                 t[4] = static_cast<std::uint8_t>(pwm);
             } else if (commande[1] == CommandeStatut) {
-                t[7] = pwm > 0 ? 16 : 0;
+                t[7] = pwm > 0 || bouton ? 16 : 0;
                 t[8] = interrupteurs;
             }
             return ResultatZelkoSucces;
@@ -55,6 +57,7 @@ protected:
     std::vector<bool> changements;
     int sourdes = 0; // exchanges still unanswered
     int pwm = 0;
+    bool bouton = false; // the knob of a box on MANU heats the wire
     std::uint8_t interrupteurs = 0;
     bool permise = true;
     bool renonce = false;
@@ -204,6 +207,44 @@ TEST_F(FilALaMain, SurManuLeBoutonDecideEtLaVeilleSeTait) {
     pwm = 0;           // the knob at its lowest
     for (int i = 0; i < 4; ++i) EXPECT_EQ(VeillerSurFil(fil, suivi), VeilleFil::Calme);
     EXPECT_TRUE(fil.chaude);
+}
+
+// No command puts out what the knob heats: it is told once, and the wire is none that is known to be cold
+// until the box says so.
+TEST_F(FilALaMain, CeQueLeBoutonChauffeNEstPasFroid) {
+    ASSERT_TRUE(AllumerFil(fil, 60, suivi));
+    interrupteurs = 1;
+    bouton = true;
+    EXPECT_FALSE(EteindreFil(fil, suivi));
+    EXPECT_EQ(Envoyees().back(), 0);
+    EXPECT_TRUE(fil.incertaine);
+    ASSERT_EQ(boites.boites.size(), 1U);
+    EXPECT_EQ(boites.boites[0].titre, Texte(TexteProgramme::FilChaudSurManuTitre));
+    EXPECT_EQ(boites.boites[0].icone, IconeBoite::Critique);
+    EXPECT_EQ(VeillerSurFil(fil, suivi), VeilleFil::Calme);
+    EXPECT_FALSE(EteindreFilSiChaud(fil, suivi));
+    EXPECT_EQ(boites.boites.size(), 1U);
+    bouton = false; // its switch back on PC
+    interrupteurs = 0;
+    EXPECT_EQ(VeillerSurFil(fil, suivi), VeilleFil::Coupee);
+    EXPECT_FALSE(fil.incertaine || fil.surManu);
+    EXPECT_TRUE(EteindreFilSiChaud(fil, suivi));
+}
+
+// Nor does the emergency call cold what the knob heats; and a box that went silent is not taken for cold.
+TEST_F(FilALaMain, LeSecoursNePrendPasPourFroidCeQueLeBoutonChauffe) {
+    ASSERT_TRUE(AllumerFil(fil, 60, suivi));
+    interrupteurs = 1;
+    bouton = true;
+    SecourirFil(fil, suivi);
+    EXPECT_TRUE(fil.incertaine);
+    sourdes = 1000;
+    EXPECT_EQ(VeillerSurFil(fil, suivi), VeilleFil::Calme);
+    EXPECT_TRUE(fil.incertaine);
+    sourdes = 0;
+    bouton = false;
+    EXPECT_EQ(VeillerSurFil(fil, suivi), VeilleFil::Coupee);
+    EXPECT_FALSE(fil.incertaine);
 }
 
 TEST_F(FilALaMain, AZeroPourCentRienNEstASurveiller) {

@@ -75,6 +75,8 @@ TEST(Mouvements2D, FlechesEtChauffe) {
     poste.boites.reponses = {ReponseBoite::Non};
     EXPECT_FALSE(ChauffeManuellePermise());
     EXPECT_EQ(poste.DernierTitre(), "Attention à la position des interrupteurs");
-    EXPECT_TRUE(EteindreFil(fil, {}));
+    EXPECT_FALSE(EteindreFil(fil, {})); // the knob heats on
     poste.FilFroidOuDit();
+    poste.boite.boite.FixerCommutateurs({});
+    EXPECT_TRUE(EteindreFil(fil, {}));
 }
