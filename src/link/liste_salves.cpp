@@ -2,6 +2,7 @@
 #include "link/liste_salves.h"
 
 #include "platform/erreurs.h"
+#include "platform/fichiers.h"
 #include "platform/nombres.h"
 
 #include <algorithm>
@@ -36,6 +37,14 @@ PointPas Origine(const TableMachine& table, Axe axeY) {
     PointPas point;
     if (table.OrigineEnHaut) point.Y = PasDeMillimetres(table, axeY, table.CourseY);
     return point;
+}
+
+// The first vertex, to where the wire stands.
+void Deplacer(TrajetPas& trajet, const PasAxes& pas) {
+    trajet.bout1[1].X = pas[AxeX1];
+    trajet.bout1[1].Y = pas[AxeY1];
+    trajet.bout2[1].X = pas[AxeX2];
+    trajet.bout2[1].Y = pas[AxeY2];
 }
 
 std::int32_t Interpoler(std::int32_t de, std::int32_t a, double fraction) {
@@ -90,9 +99,11 @@ void ConstruireSalves(const TrajetPas& trajet, const TableMachine& table, Tablea
 }
 
 ListeDeDecoupe PreparerSalves(std::span<const PointProfil> chemin, std::int16_t secondesDeChauffe,
-                              float chauffe, const TableMachine& table) {
+                              float chauffe, const TableMachine& table,
+                              const std::optional<PasAxes>& depart) {
     ListeDeDecoupe liste;
     liste.trajet = CalculerTrajetPas(chemin, table);
+    if (depart && !chemin.empty()) Deplacer(liste.trajet, *depart);
     ConstruireSalves(liste.trajet, table, liste.salves);
     liste.salves.front() = ConstruireSalveTempo(ParametresDeSalve(table), secondesDeChauffe, chauffe);
     double duree = 0;
@@ -102,7 +113,7 @@ ListeDeDecoupe PreparerSalves(std::span<const PointProfil> chemin, std::int16_t 
 }
 
 std::int16_t TempoChauffePourChauffe(float chauffe, const TableMachine& table) {
-    if (table.Nom != MachineAuxTemposPropres) return table.TempoChauffe;
+    if (!EgalSansCasse(table.Nom, MachineAuxTemposPropres)) return table.TempoChauffe;
     struct Palier {
         float chauffeMaxi; // percent, the limit included
         std::int16_t secondes;

@@ -47,8 +47,11 @@ struct ListeDeDecoupe {
     float duree = 0; // s, the segments together, without the pause
 };
 // The whole list for a 2D path whose vertices have `X`, `Y`, `Vitesse` and `Rapide`. `chauffe` in percent.
+// `depart`: where the two ends stand on the first vertex, in steps. After a stop they need not be where that
+// vertex says, for the axes of the two ends round differently.
 ListeDeDecoupe PreparerSalves(std::span<const PointProfil> chemin, std::int16_t secondesDeChauffe,
-                              float chauffe, const TableMachine& table);
+                              float chauffe, const TableMachine& table,
+                              const std::optional<PasAxes>& depart = {});
 
 // Seconds that the wire heats before a cut.
 std::int16_t TempoChauffePourChauffe(float chauffe, const TableMachine& table);

@@ -4,6 +4,7 @@
 #include "app/texts/textes.h"
 #include "platform/dialogue.h"
 #include "platform/erreurs.h"
+#include "work2d/vitesses.h"
 
 #include <algorithm>
 
@@ -20,12 +21,18 @@ PointProfil PointArret(const PasAxes& position, const TableMachine& table) {
     return point;
 }
 
+bool AssezVite(const Sequence& SequenceDecoupe) {
+    return std::ranges::all_of(SequenceDecoupe.Points,
+                               [](const PointProfil& sommet) { return sommet.Vitesse >= VitesseMinimale; });
+}
+
 } // namespace
 
 float CalculerSalvesEtDuree(const Sequence& SequenceDecoupe, std::int16_t tempo, float chauffe,
-                            const TableMachine& table, ListeDeDecoupe& liste) {
+                            const TableMachine& table, ListeDeDecoupe& liste,
+                            const std::optional<PasAxes>& depart) {
     try {
-        liste = PreparerSalves(SequenceDecoupe.Points, tempo, chauffe, table);
+        liste = PreparerSalves(SequenceDecoupe.Points, tempo, chauffe, table, depart);
     } catch (const FauteDepassement&) {
         liste = {};
         return DureeIncalculable;
@@ -33,27 +40,26 @@ float CalculerSalvesEtDuree(const Sequence& SequenceDecoupe, std::int16_t tempo,
     // A refused frame does nothing, and all that follows would be cut beside its place.
     const bool entiere =
         std::ranges::all_of(liste.salves, [](const Salve& salve) { return salve.Statut == StatutSucces; });
-    return entiere ? liste.duree : DureeIncalculable;
+    return entiere && AssezVite(SequenceDecoupe) ? liste.duree : DureeIncalculable;
 }
 
 DecoupePreparee PreparerDecoupeTS2D(const Decoupe2D& decoupe, const OptionsDecoupe2D& options,
-                                    const TableMachine& table, const std::string& nomMatiere) {
+                                    const TableMachine& table, const std::string& nomMatiere,
+                                    const std::optional<PasAxes>& depart) {
     DecoupePreparee preparee;
     preparee.TempoChauffeCourante = TempoChauffePourChauffe(options.chauffe, table);
     const float duree = CalculerSalvesEtDuree(decoupe.SequenceDecoupe, preparee.TempoChauffeCourante,
-                                              options.chauffe, table, preparee.liste);
-    preparee.resume = PreparerResume(decoupe, options, table, nomMatiere);
-    const bool chronometree = preparee.resume.dureeSecondes >= 0; // if not, its box was shown
-    preparee.possible =
-        duree != DureeIncalculable && chronometree && decoupe.SequenceDecoupe.Points.size() > 1;
-    if (duree == DureeIncalculable && chronometree)
+                                              options.chauffe, table, preparee.liste, depart);
+    preparee.resume = PreparerResume(duree, options, table, nomMatiere);
+    preparee.possible = duree != DureeIncalculable && decoupe.SequenceDecoupe.Points.size() > 1;
+    if (duree == DureeIncalculable)
         AfficherExclamation(TextesDoubles(RangeeDureeIncalculable, 1),
                             TextesDoubles(RangeeDureeIncalculable, 2));
     return preparee;
 }
 
 Sequence SequenceDeReprise(const Sequence& SequenceDecoupe, std::int32_t k, const PasAxes& position,
-                           const TableMachine& table) {
+                           float vitesse, const TableMachine& table) {
     const std::vector<PointProfil>& points = SequenceDecoupe.Points;
     if (k < 2 || static_cast<std::size_t>(k) > points.size())
         throw FauteInterne("SequenceDeReprise: k = " + std::to_string(k));
@@ -65,6 +71,9 @@ Sequence SequenceDeReprise(const Sequence& SequenceDecoupe, std::int32_t k, cons
     reste.Points.front().X = arret.X;
     reste.Points.front().Y = arret.Y;
     reste.Points.front().Rapide = false;
+    // The wire starts from rest in the middle of a segment: at the speed of a rapid one the motors would lose
+    // steps, and it may be in the foam.
+    AppliquerVitesses(reste, vitesse, table.VitesseRapide);
     CalculerBornesSequence(reste);
     return reste;
 }

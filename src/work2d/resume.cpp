@@ -1,12 +1,9 @@
-// Duration and summary of a 2D cut.
+// Writes the summary of a 2D cut.
 #include "work2d/resume.h"
 
-#include "app/texts/textes.h"
 #include "app/texts/textes_programme.h"
 #include "paths/durees.h"
-#include "platform/dialogue.h"
 #include "platform/nombres.h"
-#include "work2d/vitesses.h"
 
 namespace tessarel {
 
@@ -16,7 +13,6 @@ constexpr Masque MasqueVitesse = "##0.0";
 constexpr Masque MasqueChauffe = "##0.0";
 constexpr Masque MasqueDecalage = "#0.0";
 constexpr Masque MasqueSaignee = "#####0.0#";
-constexpr int DureeInconnue = -1;
 
 std::string TexteResume(const ResumeDecoupe2D& resume, bool modeExpert, const std::string& nomMatiere) {
     const std::string duree =
@@ -50,23 +46,14 @@ std::string TexteDureeResume(int secondes) {
     return texte;
 }
 
-ResumeDecoupe2D PreparerResume(const Decoupe2D& decoupe, const OptionsDecoupe2D& options,
-                               const TableMachine& table, const std::string& nomMatiere) {
+ResumeDecoupe2D PreparerResume(float duree, const OptionsDecoupe2D& options, const TableMachine& table,
+                               const std::string& nomMatiere) {
     ResumeDecoupe2D resume;
+    resume.dureeSecondes = duree < 0 ? DureeInconnue : ArrondiLong(duree);
     resume.vitesse = VitesseEnVigueur(options, table);
     resume.chauffe = options.chauffe;
     resume.decalage = DistanceDecalage(options, table);
     resume.saignee = SaigneeEnVigueur(options, table);
-    if (!decoupe.SequenceDecoupe.Points.empty()) {
-        const auto durees =
-            ChronometrerSegments(decoupe.SequenceDecoupe, resume.vitesse, table.VitesseRapide);
-        if (durees) {
-            resume.dureeSecondes = DureeTotale(*durees, table.TempoChauffe);
-        } else {
-            AfficherExclamation(TextesDoubles(36, 1), TextesDoubles(36, 2));
-            resume.dureeSecondes = DureeInconnue;
-        }
-    }
     resume.texte = TexteResume(resume, options.modeExpert, nomMatiere);
     return resume;
 }

@@ -1,4 +1,4 @@
-// Duration of a 2D cut and the summary told of it.
+// The summary told of a 2D cut.
 #pragma once
 
 #include "work2d/decoupe2d.h"
@@ -10,17 +10,20 @@ namespace tessarel {
 // "1 h. 0 min. 5 s.": fields left out up to the first that is not zero; the seconds always stand.
 std::string TexteDureeResume(int secondes);
 
-// What the summary window and the batch program say.
+inline constexpr int DureeInconnue = -1;
+
+// What the cut tab says of a cut.
 struct ResumeDecoupe2D {
-    int dureeSecondes = 0;
-    float vitesse = 0;  // mm/s
-    float chauffe = 0;  // percent
-    float decalage = 0; // mm, signed
-    float saignee = 0;  // mm
-    std::string texte;  // label of the cut tab
+    int dureeSecondes = 0; // of the motion, without the heating; DureeInconnue
+    float vitesse = 0;     // mm/s
+    float chauffe = 0;     // percent
+    float decalage = 0;    // mm, signed
+    float saignee = 0;     // mm
+    std::string texte;     // label of the cut tab
 };
 
-ResumeDecoupe2D PreparerResume(const Decoupe2D& decoupe, const OptionsDecoupe2D& options,
-                               const TableMachine& table, const std::string& nomMatiere);
+// `duree`: that of the frames of the motion together, s; below 0 where it could not be computed.
+ResumeDecoupe2D PreparerResume(float duree, const OptionsDecoupe2D& options, const TableMachine& table,
+                               const std::string& nomMatiere);
 
 } // namespace tessarel

@@ -22,7 +22,7 @@ std::optional<std::vector<float>> ChronometrerSegments(const Sequence& SequenceD
                                                        float vitesseRapide);
 
 // Whole seconds of a cut: the heating, then each segment, rounded (halves to even) at each addition.
-// Deliberate: a segment under half a second adds nothing, as in every summary that users know.
+// Deliberate: a segment under half a second adds nothing, as in every file that users know.
 int DureeTotale(std::span<const float> durees, int tempoChauffe);
 
 } // namespace tessarel

@@ -139,11 +139,30 @@ TEST(TempoChauffe, LaTableDeQT2dV10ParPalier) {
     EXPECT_EQ(tempo(80.5F), 35);
 }
 
+TEST(TempoChauffe, QT2dV10SEcritCommeOnVeut) {
+    TableMachine table = Machine();
+    table.Nom = "QT2D V10"; // a built-in machine is found in any case, and keeps the name it was asked by
+    EXPECT_EQ(TempoChauffePourChauffe(65, table), 28);
+}
+
 TEST(TempoChauffe, LesAutresMachinesOntLaLeur) {
     TableMachine table = Machine();
     EXPECT_EQ(TempoChauffePourChauffe(50, table), 7);
     table.Nom = "QT2d v12";
     EXPECT_EQ(TempoChauffePourChauffe(50, table), 7);
+}
+
+// The ends of a wire whose axes are geared differently stop between the steps of each other.
+TEST(ListeSalves, LeDepartEstLaOuLesDeuxBoutsSont) {
+    const PasAxes depart = {503, 7, 32170, 6};
+    const ListeDeDecoupe liste = PreparerSalves(Chemin(), 2, 65, Machine(), depart);
+    const ListeDeDecoupe sans = PreparerSalves(Chemin(), 2, 65, Machine());
+    EXPECT_EQ(liste.trajet.bout1[1].X, 503);
+    EXPECT_EQ(liste.trajet.bout1[1].Y, 7);
+    EXPECT_EQ(liste.trajet.bout2[1].X, 32170);
+    EXPECT_EQ(liste.trajet.bout2[1].Y, 6);
+    EXPECT_EQ(liste.trajet.bout2[2].X, sans.trajet.bout2[2].X);
+    EXPECT_EQ(liste.salves.size(), sans.salves.size());
 }
 
 TEST(PositionAuStop, EntreLesDeuxSommetsDeLaSalve) {

@@ -8,6 +8,7 @@
 
 #include "outils/boites.h"
 #include "outils_boite/boite_virtuelle.h"
+#include "outils_boite/fil_froid.h"
 
 #include <gtest/gtest.h>
 
@@ -41,10 +42,7 @@ struct Scene {
     }
     // The wire is off in the box's own record, or a critical box said that it may not be.
     void FilFroidOuDit() const {
-        const bool froid = poste.boite.Etat().pwmCommande == 0 && poste.boite.Etat().file == EtatFile::Repos;
-        const bool dit = std::ranges::any_of(boites.boites,
-                                             [](const Boite& b) { return b.icone == IconeBoite::Critique; });
-        EXPECT_TRUE(froid || dit);
+        EXPECT_TRUE(essais::FilFroidOuDit(poste.boite, boites.boites));
         EXPECT_EQ(interdites, 0);
     }
 

@@ -136,13 +136,29 @@ TEST_F(Origine, StopEtBoutonStopAnnulent) {
     EXPECT_EQ(m_boites.boites.at(1).texte, "L'opération a été annulée.");
 }
 
-TEST_F(Origine, UneCourseSansInterrupteurRecommenceJusquAuStop) {
-    // A machine whose carriages are farther away than the travel it believes in.
+// A machine whose carriages are farther away than the travel it believes in, plus 200 mm.
+TEST_F(Origine, UneCourseTropCourteEstRecommencee) {
     TableMachine table = TableINI;
-    table.CourseX = 10; // + 200 mm
+    table.CourseX = 10;
     m_poste.boite.PoserChariots({250 * 1600, 100 * 1600, 0, 100 * 1600});
     EXPECT_EQ(RechercheOrigine(table, AxesOrigine::X, m_suivi), FinOrigine::Trouvee);
     EstDegage(m_poste.boite.Position()[AxeX1], BordX, 1);
+}
+
+TEST_F(Origine, UneCourseSansFinNeFinitQueParStop) {
+    TableMachine table = TableINI;
+    table.CourseX = 6000;
+    m_poste.boite.FixerMecanique(MecaniqueDeMachine(table)); // as long as the screws are
+    table.CourseX = 10;                                      // 210 mm at a time
+    constexpr std::int64_t depart = 5000LL * 1600;
+    m_poste.boite.PoserChariots({depart, 100 * 1600, 0, 100 * 1600});
+    SurPompe = [this] {
+        if (depart - m_poste.boite.Position()[AxeX1] > 3 * 210LL * 1600) m_demandes.StopDemande = true;
+    };
+    EXPECT_EQ(RechercheOrigine(table, AxesOrigine::X, m_suivi), FinOrigine::Annulee);
+    EXPECT_GT(depart - m_poste.boite.Position()[AxeX1], 3 * 210LL * 1600);
+    EXPECT_EQ(m_poste.boite.Etat().file, EtatFile::Repos);
+    EXPECT_EQ(m_boites.boites.size(), 1U);
 }
 
 TEST_F(Origine, LesGrandesMachinesReculentDeDeuxDixiemes) {

@@ -163,8 +163,9 @@ std::string JournalDUneDecoupe() {
                            MillimetresDePas(TableINI, AxeY1, r.PositionStop.pas[AxeY1])));
     poste.Dire("Resume the cut");
     decoupe.SequenceDecoupe =
-        SequenceDeReprise(decoupe.SequenceDecoupe, r.NumSalveCourante, r.PositionStop.pas, TableINI);
-    preparee = PreparerDecoupeTS2D(decoupe, options, TableINI, "");
+        SequenceDeReprise(decoupe.SequenceDecoupe, r.NumSalveCourante, r.PositionStop.pas,
+                          VitesseEnVigueur(options, TableINI), TableINI);
+    preparee = PreparerDecoupeTS2D(decoupe, options, TableINI, "", r.PositionStop.pas);
     r = LancerDecoupeTS2D(preparee, TableINI, false, poste.suivi);
     EXPECT_EQ(r.fin, FinDecoupe::Terminee);
     EXPECT_TRUE(r.chauffeCoupee);

@@ -9,6 +9,7 @@
 
 #include "outils/boites.h"
 #include "outils_boite/boite_virtuelle.h"
+#include "outils_boite/fil_froid.h"
 
 #include <gtest/gtest.h>
 
@@ -16,6 +17,7 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -77,10 +79,20 @@ struct Poste {
         if (!boite.boite.Branchee() && ++toursSansBoite % 25 == 0) demandes.StopDemande = true;
         if (SurPompe) SurPompe();
     }
-    DecoupePreparee Preparer() { return PreparerDecoupeTS2D(decoupe, Options(), TableINI, "Mousse"); }
+    DecoupePreparee Preparer(const std::optional<PasAxes>& depart = {}) {
+        return PreparerDecoupeTS2D(decoupe, Options(), TableINI, "Mousse", depart);
+    }
     ResultatDecoupe Lancer(bool origine = false, GenreDecoupe genre = GenreDecoupe::Decoupe) {
         preparee = Preparer();
         return LancerDecoupeTS2D(preparee, TableINI, origine, suivi, genre);
+    }
+    // The rest of the path after a stop.
+    ResultatDecoupe Reprendre(const ResultatDecoupe& arret) {
+        decoupe.SequenceDecoupe =
+            SequenceDeReprise(decoupe.SequenceDecoupe, arret.NumSalveCourante, arret.PositionStop.pas,
+                              TableINI.VitesseDecoupeParDefaut, TableINI);
+        preparee = Preparer(arret.PositionStop.pas);
+        return LancerDecoupeTS2D(preparee, TableINI, false, suivi);
     }
     [[nodiscard]] PasAxes Position() const {
         PasAxes pas = {};
@@ -92,11 +104,7 @@ struct Poste {
         return boites.boites.empty() ? "" : boites.boites.back().titre;
     }
     void FilFroidOuDit() const {
-        const bool froid =
-            boite.boite.Etat().pwmCommande == 0 && boite.boite.Etat().file == simulateur::EtatFile::Repos;
-        const bool dit = std::ranges::any_of(boites.boites,
-                                             [](const Boite& b) { return b.icone == IconeBoite::Critique; });
-        EXPECT_TRUE(froid || dit);
+        EXPECT_TRUE(essais::FilFroidOuDit(boite.boite, boites.boites));
         EXPECT_EQ(interdites, 0);
     }
 

@@ -136,8 +136,10 @@ bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
     OptionsDecoupe2D options = m_options;
     // A heat that was pulled to nothing in a fright is none to pull a wire through foam with.
     if (suite && m_course.chauffe > 0) options.chauffe = m_course.chauffe;
-    m_course.preparee =
-        PreparerDecoupeTS2D(m_course.decoupe, options, TableINI, comboMatieres->currentText().toStdString());
+    std::optional<PasAxes> depart;
+    if (suite) depart = m_course.arret.PositionStop.pas;
+    m_course.preparee = PreparerDecoupeTS2D(m_course.decoupe, options, TableINI,
+                                            comboMatieres->currentText().toStdString(), depart);
     if (!m_course.preparee.possible) return false;
     m_course.arretee = false;
     m_course.fermerEnsuite = false;
@@ -225,7 +227,8 @@ void frmTessarel2D::ReprendreDecoupe() {
     if (Occupee() || !m_course.arretee || !LiaisonPermetLaSuite()) return;
     const Sequence avant = m_course.decoupe.SequenceDecoupe;
     m_course.decoupe.SequenceDecoupe =
-        SequenceDeReprise(avant, m_course.arret.NumSalveCourante, m_course.arret.PositionStop.pas, TableINI);
+        SequenceDeReprise(avant, m_course.arret.NumSalveCourante, m_course.arret.PositionStop.pas,
+                          VitesseEnVigueur(m_options, TableINI), TableINI);
     if (!LancerCourse(false, true) && m_course.arretee) m_course.decoupe.SequenceDecoupe = avant;
 }
 
