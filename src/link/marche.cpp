@@ -8,6 +8,7 @@
 #include "platform/pompe.h"
 
 #include <algorithm>
+#include <exception>
 #include <optional>
 
 namespace tessarel {
@@ -348,7 +349,7 @@ void Suivre(Marche& m) {
     for (;;) {
         LaisserPasserEvenements();
         if (ArretVoulu(m.suivi)) return Stopper(m, FinMarche::Arretee);
-        ChangerChauffe(m.suivi);
+        if (!m.finVue) ChangerChauffe(m.suivi); // nor relights what the machine has put out
         const StatutZelko statut = Avancer(m);
         Noter(m.echecs, statut.Recu, m.suivi);
         if (!statut.Recu) {
@@ -416,8 +417,16 @@ bool RefroidirFil(const SuiviMarche& suivi) {
 }
 
 bool SecourirMarche() noexcept {
+    // A fault passes through several hands, each of which may be the only one: the first has done it, and
+    // told.
+    static std::exception_ptr secourue;
+    static bool coupee = false;
     try {
-        bool coupee = false;
+        const std::exception_ptr faute = std::current_exception();
+        const bool dejaFait = faute && faute == secourue && !(coupee && ChauffePeutEtreActive());
+        if (dejaFait) return coupee;
+        secourue = faute;
+        coupee = false;
         for (int essai = 0; essai < EssaisDeSecours && !coupee; ++essai) {
             if (essai > 0) Patienter(EntreDeuxEssais);
             Envoyer(CommandeArret);

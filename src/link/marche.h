@@ -85,7 +85,7 @@ bool RefroidirFil(const SuiviMarche& suivi);
 
 // The last thing to do when a fault breaks out of a run: S and heat off in a few tries, without letting
 // events run. Never throws. True when the heat is off for certain; otherwise a critical box said that it may
-// not be.
+// not be. Called again while the same fault is passed on, it does nothing more and gives the same answer.
 bool SecourirMarche() noexcept;
 
 } // namespace tessarel

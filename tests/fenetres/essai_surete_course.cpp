@@ -7,6 +7,7 @@
 
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QScrollBar>
 #include <QToolButton>
 
 using namespace tessarel;
@@ -22,6 +23,8 @@ private slots:
     void UnMenuOuvertSeFermeAuDepart();
     void UnDepotEnPleineCourseNePrendRien();
     void UneFauteArreteDAbord();
+    void UneFauteDevantUneBoiteMuetteSeDitUneFois_data();
+    void UneFauteDevantUneBoiteMuetteSeDitUneFois();
     void UneFautePendantLOrigineArrete();
     void UneFautePendantUnMouvementArrete();
     void ApresUneDecoupeLesCommandesSontCommeAvant();
@@ -116,6 +119,45 @@ void EssaiSureteCourse::UneFauteArreteDAbord() {
     QVERIFY(!banc.poste.fenetre->Course().enCours);
     QVERIFY(banc.poste.Trouver<QToolButton>("cmdOuvrirFichierTS2D").isEnabled());
     QVERIFY(banc.poste.Trouver<QPushButton>("cmdLancerLaDecoupeTS2D").isVisible());
+}
+
+// A fault and a box that is gone: whoever passes the fault on finds it looked after.
+void EssaiSureteCourse::UneFauteDevantUneBoiteMuetteSeDitUneFois_data() {
+    QTest::addColumn<bool>("fleche");
+    QTest::addRow("a cut") << false;
+    QTest::addRow("an arrow") << true;
+}
+void EssaiSureteCourse::UneFauteDevantUneBoiteMuetteSeDitUneFois() {
+    QFETCH(bool, fleche);
+    constexpr std::size_t essais = 5; // of the rescue
+    Banc banc("(Defaut)", std::chrono::milliseconds(5));
+    if (fleche) {
+        banc.poste.Trouver<QPushButton>("cmdAnnulerDecoupe").click();
+        banc.poste.Cliquer<QToolButton>("cmdDeplacementsManuels");
+        banc.poste.Trouver<QScrollBar>("hscChauffeFilManuel").setValue(60);
+        banc.poste.Cliquer<QToolButton>("optChauffe_1");
+    }
+    bool fait = false;
+    std::size_t arrets = 0;
+    banc.virtuelle.SurPompe = [&] {
+        if (fait || !banc.Chaud() || banc.virtuelle.boite->Etat().file != simulateur::EtatFile::EnMarche)
+            return;
+        fait = true;
+        arrets = banc.virtuelle.Compter(CommandeArret, 0);
+        banc.virtuelle.boite->Brancher(false);
+        QTimer::singleShot(0, [] { throw FauteDepassement("trop"); });
+    };
+    if (fleche)
+        QTest::mousePress(&banc.poste.Trouver<QToolButton>("optGoManuel_4"), Qt::LeftButton);
+    else
+        banc.Lancer();
+    banc.virtuelle.SurPompe = {};
+    QVERIFY(fait);
+    QCOMPARE(banc.virtuelle.Compter(CommandeArret, 0) - arrets, essais);
+    QCOMPARE(std::ranges::count(banc.poste.boites.boites, TextesDoubles(40, 2), &Boite::titre), 1);
+    QCOMPARE(banc.poste.NombreBoites(), std::size_t(2)); // that one, and the fault's own
+    QVERIFY(CoupureEnSuspens);
+    QVERIFY(banc.Chaud());
 }
 
 void EssaiSureteCourse::UneFautePendantLOrigineArrete() {

@@ -230,6 +230,70 @@ TEST_F(Envoi, UneFauteSansBoitierDitQueLeFilPeutEtreChaud) {
     EXPECT_EQ(m_boites.boites[0].icone, IconeBoite::Critique);
 }
 
+// Several routines have it in hand on its way out: the first does all there is to do.
+TEST_F(Envoi, UneFauteEstSecourueUneFois) {
+    m_poste.boite.Brancher(false);
+    const auto arrets = [this] {
+        return std::ranges::count_if(m_commandes, [](const Tampon& t) { return t[1] == CommandeArret; });
+    };
+    EnvoyerChauffe(ValeurPWM(50), {[] { return true; }, {}}); // lost: the wire may be hot
+    const auto passer = [] {
+        try {
+            try {
+                throw FauteInterne("essai");
+            } catch (...) {
+                EXPECT_FALSE(SecourirMarche());
+                throw;
+            }
+        } catch (...) {
+            EXPECT_FALSE(SecourirMarche());
+        }
+    };
+    passer();
+    EXPECT_EQ(arrets(), 5);
+    EXPECT_EQ(m_boites.boites.size(), 1U);
+    passer(); // another one
+    EXPECT_EQ(arrets(), 10);
+    EXPECT_FALSE(SecourirMarche()); // nor is that without a fault the same
+    EXPECT_EQ(arrets(), 15);
+    m_poste.boite.Brancher(true);
+    EXPECT_TRUE(SecourirMarche());
+}
+
+// Where the wire was lit again in between, once is not enough.
+TEST_F(Envoi, UnFilRallumeEntreDeuxSecoursSEteint) {
+    try {
+        try {
+            throw FauteInterne("essai");
+        } catch (...) {
+            EXPECT_TRUE(SecourirMarche());
+            EnvoyerChauffe(ValeurPWM(50));
+            throw;
+        }
+    } catch (...) {
+        EXPECT_TRUE(SecourirMarche());
+    }
+    FilFroid();
+}
+
+TEST_F(Envoi, LaChauffeNeSuitPlusLaBarreQuandLaMachineACoupe) {
+    m_poste.boite.Programmer({.panne = Panne::BoutonStop, .salve = 4, .tick = 100});
+    std::size_t apres = 0;
+    SurPompe = [this, &apres] {
+        if (m_poste.boite.Etat().fin != FinMouvement::BoutonStop) return;
+        if (apres == 0) apres = m_commandes.size();
+        m_demandes.ChauffeModifiee = true; // at each turn
+        m_demandes.ChauffeVoulue = 60;
+    };
+    Envoyer(Liste());
+    ASSERT_GT(apres, 0U);
+    const auto rallumages =
+        std::count_if(m_commandes.begin() + static_cast<std::ptrdiff_t>(apres), m_commandes.end(),
+                      [](const Tampon& t) { return t[1] == CommandeChauffe && t[2] == 1; });
+    EXPECT_LE(rallumages, 1); // in the turn in which nobody knows of it yet
+    FilFroid();
+}
+
 TEST_F(Envoi, LeBoutonStopDeLaMachineFinitLaMarche) {
     m_poste.boite.Programmer({.panne = Panne::BoutonStop, .salve = 4, .tick = 100});
     const ResultatEnvoi envoi = Envoyer(Liste());
