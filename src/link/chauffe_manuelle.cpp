@@ -105,6 +105,7 @@ FilEnMarche::FilEnMarche(ChauffeManuelle& fil, DemandesMarche& demandes) : m_fil
 }
 
 FilEnMarche::~FilEnMarche() {
+    if (!m_fil.enMarche->ChauffeModifiee) m_fil.confirmee = m_fil.voulue; // the move has sent it
     m_fil.enMarche = nullptr;
     m_fil.coupureVoulue = false;
 }

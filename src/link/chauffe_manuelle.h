@@ -27,7 +27,7 @@ struct ChauffeManuelle {
     bool coupureVoulue = false; // asked for and not confirmed yet; during a move it is confirmed after it
     bool abandon = false;       // the heat that is being asked for is given up
     double voulue = 0;          // percent, asked for last
-    double confirmee = 0;       // percent, that the box confirmed last outside a move
+    double confirmee = 0;       // percent, that the box confirmed last
     EchecsConsecutifs echecs = {};
     int refroidie = 0; // times in a row that the box said it does not heat
 };

@@ -47,6 +47,7 @@ private slots:
     void LInterrupteurALInstantDuRelachement();
     void LaBarreApresLeBoutonStop();
     void LaQuestionAttendFilFroid();
+    void StopRenonceALaChauffeSansReponse();
 };
 
 void EssaiSecoursChauffe2D::LeBoutonStopALInstantDuRelachement_data() {
@@ -102,6 +103,30 @@ void EssaiSecoursChauffe2D::LaQuestionAttendFilFroid() {
         QCOMPARE(auMoment, 0);
         QVERIFY(!secours.SigneVisible());
     }
+}
+
+// The very first heat, which the box does not confirm: the mouse reaches Stop.
+void EssaiSecoursChauffe2D::StopRenonceALaChauffeSansReponse() {
+    Manuel manuel;
+    simulateur::PanneProgrammee panne;
+    panne.panne = simulateur::Panne::ReponsePerdue;
+    panne.commande = CommandeChauffe;
+    panne.fois = 4; // one more and the heat is given up by itself
+    manuel.virtuelle.boite->Programmer(panne);
+    auto& stop = manuel.poste.Trouver<QPushButton>("optAnnulerHome");
+    bool permis = false;
+    manuel.virtuelle.SurPompe = [&] {
+        if (permis || manuel.virtuelle.Compter(CommandeChauffe, 1) != 1) return;
+        permis = stop.isEnabled();
+        QTest::mouseClick(&stop, Qt::LeftButton);
+    };
+    manuel.poste.Trouver<QScrollBar>("hscChauffeFilManuel").setValue(60);
+    manuel.poste.Cliquer<QToolButton>("optChauffe_1");
+    manuel.virtuelle.SurPompe = {};
+    QVERIFY(permis);
+    QCOMPARE(manuel.virtuelle.Compter(CommandeChauffe, 1), std::size_t(1));
+    QCOMPARE(int(manuel.virtuelle.boite->Etat().pwmFil), 0);
+    QVERIFY(manuel.AuRepos());
 }
 
 QTEST_MAIN(EssaiSecoursChauffe2D)

@@ -15,6 +15,7 @@
 #include <QMessageBox>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QSlider>
 #include <QTimer>
 #include <QToolButton>
 
@@ -128,6 +129,13 @@ private slots:
     void UneFautePendantLaCoupureNeLaissePasLeFilChaud();
     void LeBoutonStopEstVuSansMouvement_data() { LesDeuxFenetres(); }
     void LeBoutonStopEstVuSansMouvement();
+    void LaBarreApresLeBoutonStopNeRallumePas_data() { LesDeuxFenetres(); }
+    void LaBarreApresLeBoutonStopNeRallumePas();
+    void LaChauffeChangeeTropTardPourLeMouvementPart_data() { LesDeuxFenetres(); }
+    void LaChauffeChangeeTropTardPourLeMouvementPart();
+    void StopRenonceALaChauffeSansReponse_data() { LesDeuxFenetres(); }
+    void StopRenonceALaChauffeSansReponse();
+    void LaQuestionEnFermantAttendFilFroid();
     void LaBoitePerdueSansMouvementSeDit_data() { LesDeuxFenetres(); }
     void LaBoitePerdueSansMouvementSeDit();
     void AbandonneeLaCoupureEstRetentee_data() { LesDeuxFenetres(); }
@@ -250,6 +258,83 @@ void EssaiSureteMachine::LeBoutonStopEstVuSansMouvement() {
     QVERIFY(!banc.Veille());
     QVERIFY(MouvementsActifs);
     QVERIFY(banc.poste.boites.boites.empty());
+}
+
+// Before the watch has seen it: the bar looks by itself, and the window says why it sends nothing.
+void EssaiSureteMachine::LaBarreApresLeBoutonStopNeRallumePas() {
+    QFETCH(int, fenetre);
+    Banc banc(static_cast<Banc::Fenetre>(fenetre));
+    Controle<QTimer>(*banc.fenetre, "TimerVeille").setInterval(60'000);
+    banc.virtuelle.boite->AppuyerStop();
+    const std::size_t allumages = banc.virtuelle.Compter(CommandeChauffe, 1);
+    Controle<QScrollBar>(*banc.fenetre, "hscChauffeParam").setValue(20);
+    QCOMPARE(banc.virtuelle.Compter(CommandeChauffe, 1), allumages);
+    QVERIFY(!banc.Chaud() && !banc.MontreChaud() && !banc.Veille());
+    QCOMPARE(banc.Mot(), QStringLiteral("La machine a coupé la chauffe"));
+    QVERIFY(banc.poste.boites.boites.empty());
+}
+
+// In the turn in which the move finds its end told for the second time it sends no heat any more.
+void EssaiSureteMachine::LaChauffeChangeeTropTardPourLeMouvementPart() {
+    QFETCH(int, fenetre);
+    Banc banc(static_cast<Banc::Fenetre>(fenetre));
+    auto& barre = Controle<QScrollBar>(*banc.fenetre, "hscChauffeParam");
+    bool uneFois = false;
+    banc.virtuelle.SurPompe = [&] {
+        const auto etat = banc.virtuelle.boite->Etat();
+        if (etat.file != simulateur::EtatFile::Repos || etat.fin != simulateur::FinMouvement::FinDeListe)
+            return;
+        if (!std::exchange(uneFois, true)) barre.setValue(20);
+    };
+    Cliquer(*banc.fenetre, fenetre == Banc::Machine ? "cmdGoIncrements" : "cmdMvtTranches_0");
+    banc.virtuelle.SurPompe = {};
+    QVERIFY(uneFois);
+    QCOMPARE(int(banc.virtuelle.boite->Etat().pwmFil), 51); // 20 x 2.55
+    QVERIFY(banc.MontreChaud());
+}
+
+void EssaiSureteMachine::StopRenonceALaChauffeSansReponse() {
+    QFETCH(int, fenetre);
+    Banc banc(static_cast<Banc::Fenetre>(fenetre));
+    const bool machine = fenetre == Banc::Machine;
+    Cliquer(*banc.fenetre, machine ? "optChauffeParam_0" : "optChauffeMatieres_0");
+    simulateur::PanneProgrammee panne;
+    panne.panne = simulateur::Panne::ReponsePerdue;
+    panne.commande = CommandeChauffe;
+    panne.fois = 4; // one more and the heat is given up by itself
+    banc.virtuelle.boite->Programmer(panne);
+    auto& stop = Controle<QAbstractButton>(*banc.fenetre, banc.Stop());
+    const std::size_t allumages = banc.virtuelle.Compter(CommandeChauffe, 1);
+    bool permis = false;
+    banc.virtuelle.SurPompe = [&] {
+        if (permis || banc.virtuelle.Compter(CommandeChauffe, 1) != allumages + 1) return;
+        permis = stop.isEnabled();
+        QTest::mouseClick(&stop, Qt::LeftButton);
+    };
+    Cliquer(*banc.fenetre, machine ? "optChauffeParam_1" : "optChauffeMatieres_1");
+    banc.virtuelle.SurPompe = {};
+    QVERIFY(permis);
+    QCOMPARE(banc.virtuelle.Compter(CommandeChauffe, 1), allumages + 1);
+    QVERIFY(banc.FroidEtImmobile() && !banc.MontreChaud());
+    QVERIFY(!stop.isEnabled());
+}
+
+void EssaiSureteMachine::LaQuestionEnFermantAttendFilFroid() {
+    Banc banc(Banc::Machine);
+    auto& pente = Controle<QSlider>(*banc.fenetre, "slidPenteAcceleration");
+    pente.setValue(pente.value() == 12 ? 11 : 12);
+    int auMoment = -1; // on the wire when the question comes up
+    const AfficheurBoite enregistreur = InstallerAfficheurBoite({});
+    InstallerAfficheurBoite([&](const Boite& boite) {
+        auMoment = banc.virtuelle.boite->Etat().pwmFil;
+        return enregistreur(boite);
+    });
+    QVERIFY(banc.Chaud());
+    QVERIFY(!banc.fenetre->close()); // No
+    InstallerAfficheurBoite(enregistreur);
+    QCOMPARE(banc.poste.boites.boites.size(), std::size_t(1));
+    QCOMPARE(auMoment, 0);
+    QVERIFY(banc.fenetre->isVisible() && !banc.MontreChaud());
 }
 
 void EssaiSureteMachine::LaBoitePerdueSansMouvementSeDit() {

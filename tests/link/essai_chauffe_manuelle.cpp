@@ -263,6 +263,26 @@ TEST_F(FilALaMain, LaBarreNeRallumePasCeQueLaMachineACoupe) {
     EXPECT_TRUE(boites.boites.empty());
 }
 
+// Nor what it has put out after a move in which the bar was raised from nothing.
+TEST_F(FilALaMain, CeQuiAChangePendantUnMouvementCompte) {
+    ASSERT_TRUE(AllumerFil(fil, 0, suivi));
+    DemandesMarche demandes;
+    const auto enMouvement = [&](double pourcent) {
+        const FilEnMarche marche(fil, demandes);
+        ChangerChauffeFil(fil, pourcent, suivi);
+        demandes.ChauffeModifiee = false; // sent between two exchanges
+        pwm = ValeurPWM(pourcent);
+    };
+    enMouvement(60);
+    enMouvement(0);
+    EXPECT_TRUE(ChangerChauffeFil(fil, 0, suivi)); // cold because it was told to be
+    enMouvement(60);
+    pwm = 0; // its STOP button
+    EXPECT_FALSE(ChangerChauffeFil(fil, 40, suivi));
+    EXPECT_EQ(pwm, 0);
+    EXPECT_FALSE(fil.chaude || fil.incertaine);
+}
+
 TEST_F(FilALaMain, UnFilMisAZeroRepartAvecLaBarre) {
     ASSERT_TRUE(AllumerFil(fil, 60, suivi));
     EXPECT_TRUE(ChangerChauffeFil(fil, 0, suivi));

@@ -102,7 +102,10 @@ ConduiteManuelle::Resultat ConduiteManuelle::Mouvoir(const PasAxes& pas, const V
     }
     if (moteursOff) CouperMoteurs();
     // A wire that stands must not go on melting, whoever stopped it.
-    if (coupureVoulue || mouvement.cause != CauseFin::FinDeListe) CouperSiChaud();
+    if (coupureVoulue || mouvement.cause != CauseFin::FinDeListe)
+        CouperSiChaud();
+    else if (m_demandes.ChauffeModifiee)
+        ChangerChauffe(m_fil.voulue); // it came too late for the move
     if (!AnnoncerCause(mouvement.cause)) AnnoncerMarcheAnormale(mouvement.marche.fin);
     emit FinMouvement();
     return {mouvement.marche.fin, mouvement.cause, PasFaits(mouvement, pas)};
@@ -110,6 +113,7 @@ ConduiteManuelle::Resultat ConduiteManuelle::Mouvoir(const PasAxes& pas, const V
 
 void ConduiteManuelle::DemanderArret() {
     m_demandes.StopDemande = true;
+    if (!m_enMouvement && m_fil.occupee) Couper();
 }
 
 void ConduiteManuelle::CouperLesMoteurs() {
@@ -160,12 +164,16 @@ std::unique_ptr<GardeEntrees> ConduiteManuelle::GarderFil() {
 
 bool ConduiteManuelle::Chauffer(double pourcent) {
     const auto garde = GarderFil();
+    emit ChauffeDemandee(true);
+    const auto finir = [this](void*) { emit ChauffeDemandee(false); };
+    const std::unique_ptr<void, decltype(finir)> fin(this, finir);
     return AllumerFil(m_fil, pourcent, SuiviFil());
 }
 
 void ConduiteManuelle::ChangerChauffe(double pourcent) {
     const auto garde = GarderFil();
-    ChangerChauffeFil(m_fil, pourcent, SuiviFil());
+    if (!ChangerChauffeFil(m_fil, pourcent, SuiviFil()))
+        emit CoupeeSansDemande(TexteProgramme::ChauffeManuelleCoupeeParMachine);
 }
 
 bool ConduiteManuelle::Couper() {

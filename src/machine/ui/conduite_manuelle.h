@@ -41,6 +41,7 @@ public:
         PasAxes Faits = {}; // steps done, by Axe
     };
     Resultat Mouvoir(const PasAxes& pas, const VitessesSalve& vitesses);
+    // Stops the move that runs, or gives up the heat that is being asked for.
     void DemanderArret();
     // Switches the motors off; a move that runs is stopped first.
     void CouperLesMoteurs();
@@ -71,6 +72,8 @@ signals:
     void Avance(double fraction);
     void FinMouvement();
     void ChauffeChangee(bool chaude);
+    // A heat is being asked for from here on, or not any more: the box may be slow to answer.
+    void ChauffeDemandee(bool enCours);
     // Nobody asked for it here: the machine has switched the heat off by itself, or a heat-off that was given
     // up is confirmed at last.
     void CoupeeSansDemande(TexteProgramme mot);

@@ -132,6 +132,8 @@ void frmD4X_matieres::RelierChauffe() {
         lblChauffeParam->setText(QStringLiteral("%1 %").arg(pourcent));
         m_conduite->ChangerChauffe(pourcent);
     });
+    connect(m_conduite, &ConduiteManuelle::ChauffeDemandee, this,
+            [this](bool enCours) { cmdStopTranches->setEnabled(enCours || m_conduite->EnMouvement()); });
     connect(m_conduite, &ConduiteManuelle::ChauffeChangee, this, [this](bool chaude) {
         optChauffeMatieres[chaude ? 1 : 0]->setChecked(true);
         lblWarningChauffe->setVisible(m_conduite->PeutEtreChaude());

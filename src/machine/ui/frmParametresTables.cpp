@@ -425,12 +425,11 @@ bool frmParametresTables::PeutFermer() {
         m_essais->DemanderArret();
         return false;
     }
-    // A signal does not wait for an answer while the wire may be hot.
-    if (Modifiee() && !FinDemandee() &&
-        !DemanderOuiNon(TextesMessages(RangeeQuitterSansValider), TitresMessages(RangeeQuitterSansValider),
-                        IconeBoite::Exclamation))
-        return false;
-    return m_essais->CouperAvantDePartir();
+    // Before anything is asked: the question may stand for hours. A signal does not wait for its answer.
+    if (!m_essais->CouperAvantDePartir()) return false;
+    return !Modifiee() || FinDemandee() ||
+           DemanderOuiNon(TextesMessages(RangeeQuitterSansValider), TitresMessages(RangeeQuitterSansValider),
+                          IconeBoite::Exclamation);
 }
 
 void frmParametresTables::reject() {

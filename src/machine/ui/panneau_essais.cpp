@@ -216,6 +216,10 @@ void PanneauEssais::RelierChauffe() {
         lblChauffeParam->setText(QStringLiteral("%1 %").arg(pourcent));
         m_conduite->ChangerChauffe(pourcent);
     });
+    connect(m_conduite, &ConduiteManuelle::ChauffeDemandee, this, [this](bool enCours) {
+        for (QPushButton* arret : {cmdStopIncrements, cmdStopValeurs})
+            arret->setEnabled(enCours || m_conduite->EnMouvement());
+    });
     connect(m_conduite, &ConduiteManuelle::ChauffeChangee, this, [this](bool chaude) {
         optChauffeParam[chaude ? 1 : 0]->setChecked(true);
         lblWarningChauffe->setVisible(m_conduite->PeutEtreChaude());

@@ -74,6 +74,7 @@ void frmTessarel2D::AllumerFilManuel() {
     if (permis) {
         m_panneauManuel->MontrerEtat({});
         const auto garde = GarderFil();
+        m_panneauManuel->MontrerStop(true);
         AllumerFil(m_fil, m_panneauManuel->Chauffe().Pourcent(), SuiviFil());
         MontrerLiaison();
     }

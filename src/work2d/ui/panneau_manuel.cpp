@@ -177,8 +177,9 @@ void PanneauManuel::MontrerMouvement(bool enMouvement, const QString& quoi) {
     lblEtatManuel->setText(quoi);
 }
 
-void PanneauManuel::MontrerStop() {
-    optAnnulerHome->setEnabled(m_enMouvement || m_chauffe->FilMontre() != PanneauChauffe::Fil::Froid);
+void PanneauManuel::MontrerStop(bool chauffeDemandee) {
+    optAnnulerHome->setEnabled(m_enMouvement || chauffeDemandee ||
+                               m_chauffe->FilMontre() != PanneauChauffe::Fil::Froid);
 }
 
 void PanneauManuel::MontrerEtat(const QString& quoi) {

@@ -27,8 +27,8 @@ public:
     [[nodiscard]] PanneauChauffe& Chauffe() const { return *m_chauffe; }
     // While something moves only Stop is at hand, and the arrow that is held: it would be let go otherwise.
     void MontrerMouvement(bool enMouvement, const QString& quoi = {});
-    // Stop also puts the wire out: it is at hand while the wire may be hot.
-    void MontrerStop();
+    // Stop also puts the wire out: it is at hand while the wire may be hot, and while its heat is asked for.
+    void MontrerStop(bool chauffeDemandee = false);
     void MontrerEtat(const QString& quoi);
     [[nodiscard]] float Vitesse() const;
     // The arrow that started the move is still held.
