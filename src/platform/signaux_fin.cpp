@@ -22,6 +22,7 @@ void Noter(int signal) {
 } // namespace
 
 void EcouterSignauxDeFin(SecondSigint second, Suspension suspension) {
+    recus = 0;
     secondTermine = second == SecondSigint::Termine ? 1 : 0;
     struct sigaction noter {};
     noter.sa_handler = Noter; // without SA_RESTART: a wait ends

@@ -3,10 +3,10 @@
 
 namespace tessarel {
 
-// From here on SIGINT, SIGTERM and SIGHUP end nothing by themselves: they are noted, and interrupt a wait. A
-// second SIGINT ends the program at once, in case it hears nothing; not for who must put out a wire first
-// (Compte). There SIGQUIT is noted like the others, and neither a closed pipe nor a terminal that belongs to
-// another ends or halts the program: the queue of the box would run on without it.
+// From here on SIGINT, SIGTERM and SIGHUP end nothing by themselves: they are noted, from none at all, and
+// interrupt a wait. A second SIGINT ends the program at once, in case it hears nothing; not for who must put
+// out a wire first (Compte). There SIGQUIT is noted like the others, and neither a closed pipe nor a terminal
+// that belongs to another ends or halts the program: the queue of the box would run on without it.
 enum class SecondSigint { Termine, Compte };
 // The key that suspends, SIGTSTP, for the same reason: noted like the others where the terminal is all that a
 // user has in hand, ignored where the windows go on.

@@ -11,17 +11,16 @@ namespace tessarel {
 
 namespace {
 
-constexpr int Periode = 200; // ms
 // A dialog that moves something stops it when it is asked to close, and stays until it stands. Asked again at
 // once it would give up a machine that is only slowing down.
 constexpr int RegardsEntreDeuxDemandes = 10;
 
 } // namespace
 
-GardienDeFin::GardienDeFin(QObject* parent) : QObject(parent) {
+GardienDeFin::GardienDeFin(QObject* parent, std::chrono::milliseconds periode) : QObject(parent) {
     // Queued: what is closed here may ask something in a loop of its own, and the timer must go on meanwhile.
     connect(&m_temps, &QTimer::timeout, this, &GardienDeFin::Regarder, Qt::QueuedConnection);
-    m_temps.start(Periode);
+    m_temps.start(periode);
 }
 
 void GardienDeFin::Regarder() {

@@ -6,16 +6,18 @@
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
+#include <chrono>
 
 namespace tessarel {
 
-// While it lives it looks every 200 ms whether a signal asked for the end (EcouterSignauxDeFin must have been
-// called). Boxes get the answer that changes nothing, dialogs are closed from the top, then the other windows
-// are: their questions about unsaved work are asked once for each signal, and the next one ends the program
-// without them.
+// While it lives it looks every `periode` whether a signal asked for the end (EcouterSignauxDeFin must have
+// been called). Boxes get the answer that changes nothing, dialogs are closed from the top, then the other
+// windows are: their questions about unsaved work are asked once for each signal, and the next one ends the
+// program without them.
 class GardienDeFin : public QObject {
 public:
-    explicit GardienDeFin(QObject* parent = nullptr);
+    explicit GardienDeFin(QObject* parent = nullptr,
+                          std::chrono::milliseconds periode = std::chrono::milliseconds(200));
 
 private:
     void Regarder();
