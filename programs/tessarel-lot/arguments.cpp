@@ -4,6 +4,7 @@
 #include "langue_lot.h"
 #include "session.h"
 
+#include "commun/ligne_de_commande.h"
 #include "platform/flux_standards.h"
 
 #include <cstdio>
@@ -19,18 +20,6 @@ std::optional<Langue> LireLangue(std::string_view texte) {
     return std::nullopt;
 }
 
-// Value of an option in words not yet parsed: "--nom valeur" or "--nom=valeur"; empty when absent.
-std::string ValeurBrute(int argc, char** argv, std::string_view nom) {
-    for (int i = 1; i < argc; ++i) {
-        const std::string_view mot = argv[i];
-        if (mot == "--") break;
-        if (mot == nom && i + 1 < argc) return argv[i + 1];
-        if (mot.starts_with(nom) && mot.size() > nom.size() && mot[nom.size()] == '=')
-            return std::string(mot.substr(nom.size() + 1));
-    }
-    return "";
-}
-
 // Help and refusals speak before the command line is understood.
 void ChoisirLangueDesMessages(int argc, char** argv) {
     const auto langue = LireLangue(ValeurBrute(argc, argv, "--langue"));
@@ -38,18 +27,9 @@ void ChoisirLangueDesMessages(int argc, char** argv) {
 }
 
 void DeclarerOptions(CLI::App& programme, Commande& commande) {
-    programme.get_formatter()->column_width(34);
-    programme.get_formatter()->label("Usage", Dire("Utilisation ", "Usage"));
-    programme.get_formatter()->label("OPTIONS", "OPTIONS");
-    programme.get_formatter()->label("SUBCOMMAND", Dire("VERBE", "VERB"));
-    programme.get_formatter()->label("Positionals", "Arguments");
-    programme.set_help_flag("-h,--help,--aide",
-                            Dire("Affiche cette aide et s'arrête", "Prints this help and stops"));
-    programme.set_version_flag("--version",
-                               std::string("tessarel-lot ") + std::to_string(TESSAREL_VERSION_MAJEURE) + "." +
-                                   std::to_string(TESSAREL_VERSION_MINEURE) + "." +
-                                   std::to_string(TESSAREL_VERSION_REVISION),
-                               Dire("Affiche la version et s'arrête", "Prints the version and stops"));
+    PreparerAide(programme);
+    AjouterOptionAide(programme);
+    AjouterOptionVersion(programme, "tessarel-lot");
     programme
         .add_option("--documents", commande.documents,
                     Dire("Dossier qui tient lieu de Documents : celui qui contient Tessarel",
@@ -61,7 +41,8 @@ void DeclarerOptions(CLI::App& programme, Commande& commande) {
             [&commande](const std::string& texte) {
                 commande.langue = LireLangue(texte);
                 if (!commande.langue)
-                    throw CLI::ValidationError("--langue", Dire("fr ou en attendu", "fr or en expected"));
+                    throw CLI::ValidationError(
+                        "--langue", texte + Dire(" (attendu : fr ou en)", " (expected: fr or en)"));
             },
             Dire("Langue des messages ; sinon celle des réglages",
                  "Language of the messages (default: that of the settings)"))
@@ -69,28 +50,6 @@ void DeclarerOptions(CLI::App& programme, Commande& commande) {
     programme.add_flag("--oui", commande.oui,
                        Dire("Répond Oui ou OK aux questions, au lieu de Non ou Annuler",
                             "Answers Yes or OK to questions, instead of No or Cancel"));
-}
-
-// What comes before a mark in the parser's English sentence: the name of the option it is about.
-std::string Avant(const std::string& phrase, const char* marque) {
-    return phrase.substr(0, phrase.find(marque));
-}
-
-std::string RaisonUsage(const CLI::App& programme, const CLI::ParseError& erreur) {
-    const std::string phrase = erreur.what();
-    if (dynamic_cast<const CLI::ExtrasError*>(&erreur) != nullptr)
-        return Dire("inattendu : ", "unexpected: ") + phrase.substr(phrase.find(": ") + 2);
-    if (dynamic_cast<const CLI::RequiredError*>(&erreur) != nullptr) {
-        if (programme.get_subcommands().empty()) return Dire("un verbe est attendu", "a verb is expected");
-        return Avant(phrase, " is required") + Dire(" est attendu", " is expected");
-    }
-    if (dynamic_cast<const CLI::ArgumentMismatch*>(&erreur) != nullptr)
-        return Avant(phrase, ":") +
-               Dire(" : une valeur et une seule est attendue", ": exactly one value is expected");
-    if (dynamic_cast<const CLI::ExcludesError*>(&erreur) != nullptr)
-        return Avant(phrase, " excludes") + Dire(" exclut ", " excludes ") +
-               phrase.substr(phrase.find("excludes ") + 9);
-    return phrase;
 }
 
 int RefuserUsage(const std::string& raison) {
@@ -114,10 +73,9 @@ int Imprimer(std::string_view texte) {
 
 CLI::App* AjouterVerbe(CLI::App& programme, const std::string& nom, const std::string& description) {
     CLI::App* verbe = programme.add_subcommand(nom, description);
-    verbe->group(Dire("Verbes", "Verbs"));
+    verbe->group(Dire("Verbes ", "Verbs"));
     verbe->fallthrough();
-    verbe->set_help_flag("-h,--help,--aide",
-                         Dire("Affiche cette aide et s'arrête", "Prints this help and stops"));
+    AjouterOptionAide(*verbe);
     return verbe;
 }
 
@@ -148,8 +106,6 @@ Commande LireCommande(int argc, char** argv) {
     CLI::App programme(Dire("Tessarel depuis un terminal : du dessin au Gcode pour une machine à fil chaud.",
                             "Tessarel from a shell: from a drawing to Gcode for a hot-wire machine."),
                        "tessarel-lot");
-    // The parser's own words for a group of options.
-    programme.option_defaults()->group("Options");
     DeclarerOptions(programme, commande);
     const ChoisirAction choisir = [&commande](Action action) { commande.action = std::move(action); };
     DeclarerDecouper(programme, choisir);

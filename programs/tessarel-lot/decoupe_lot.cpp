@@ -21,6 +21,7 @@
 #include "work2d/dessin_table.h"
 #include "work2d/espace2d.h"
 #include "work2d/export_gcode.h"
+#include "work2d/options_decoupe.h"
 #include "work2d/resume.h"
 
 #include <cmath>
@@ -73,9 +74,8 @@ bool OuvrirTout(const std::vector<std::string>& fichiers, Espace2D& espace, Lect
 }
 
 void Placer(const DemandeDecoupe& demande, Espace2D& espace) {
-    ReglesPlacement regles = demande.regles;
-    regles.margeX = Parametres.MargesInterieuresBlocX;
-    regles.margeY = Parametres.MargesInterieuresBlocY;
+    const ReglesPlacement regles = ReglesAvecMarges(demande.regles.ajuster, demande.regles.centrerX,
+                                                    demande.regles.centrerY, Parametres);
     if (demande.bloc) espace.bloc = LimiterBlocSaisi(*demande.bloc, TableINI);
     if (demande.blocAuto)
         espace.bloc = BlocAuto(espace.TableauSequences, regles, TableINI, espace.coeffTransf).bloc;
@@ -90,20 +90,7 @@ void Placer(const DemandeDecoupe& demande, Espace2D& espace) {
 OptionsDecoupe2D OptionsDeDecoupe(const DemandeDecoupe& demande, const Espace2D& espace) {
     const ValeursDecoupe valeurs =
         LimiterValeurs(DecoupeCourante, TableINI, static_cast<float>(Parametres.SaigneeMaxiSoft));
-    OptionsDecoupe2D options;
-    options.BlocX = espace.bloc.BlocX;
-    options.BlocY = espace.bloc.BlocY;
-    options.TypeEntree = espace.TypeEntree;
-    options.TypeSortie = espace.TypeSortie;
-    options.approcheRapide = espace.VitesseApproche == 1;
-    options.retourRapide = espace.VitesseRetour == 1;
-    options.decalage = static_cast<CoteDecalage2D>(demande.decalage);
-    options.modeExpert = Parametres.ModeExpert();
-    options.vitesseMatiere = valeurs.Vitesse;
-    options.saigneeMatiere = valeurs.SaigneeVD;
-    options.chauffe = valeurs.Chauffe;
-    options.distNettoyage = Parametres.DistNettoyage;
-    return options;
+    return OptionsDepuisEspace(espace, static_cast<CoteDecalage2D>(demande.decalage), valeurs, Parametres);
 }
 
 void EcrireApercu(const std::string& chemin, const Espace2D& espace, const Decoupe2D& decoupe) {

@@ -7,7 +7,9 @@
 
 #include "app/texts/textes.h"
 #include "app/texts/textes_programme.h"
+#include "link/echange.h"
 #include "link/etat_interface.h"
+#include "platform/dialogue.h"
 #include "platform/flux_standards.h"
 #include "platform/horloge.h"
 #include "platform/nombres.h"
@@ -25,6 +27,7 @@ namespace {
 constexpr int MessagesMiseEnTemperature = 189;
 constexpr int MessagesSegment = 190; // its second column
 constexpr int MessagesArret = 172;   // its second column
+constexpr int DoublesPasDeDecoupe = 53;
 // Between two drawings of the bar, so that it costs the run nothing.
 constexpr Instant EntreDeuxBarres = std::chrono::milliseconds(100);
 
@@ -86,10 +89,9 @@ struct Barre {
                                                        std::to_string(avancee.secondesChauffe) + " s");
             return;
         }
-        Progression::Montrer(avancee.PartFaite(), TitresMessages(MessagesSegment) + " " +
-                                                      std::to_string(avancee.NumSalveCourante) + "/" +
-                                                      std::to_string(avancee.sommets) + " - " +
-                                                      TexteTempsRestant(avancee));
+        Progression::Montrer(avancee.PartFaite(),
+                             TitresMessages(MessagesSegment) + std::to_string(avancee.NumSalveCourante) +
+                                 "/" + std::to_string(avancee.sommets) + " - " + TexteTempsRestant(avancee));
     }
 };
 
@@ -103,6 +105,13 @@ std::string TexteArret(const ResultatDecoupe& resultat) {
            Coordonnee(AxeY1, resultat.PositionStop) + " mm\n";
 }
 
+// Off only where the box has said so, and nothing has been sent since that could heat again.
+std::string TexteChauffe(const ResultatDecoupe& resultat) {
+    if (resultat.chauffeCoupee && !ChauffePeutEtreActive()) return Dire("Chauffe coupée\n", "Heating off\n");
+    return Dire("La chauffe n'est peut-être pas coupée : tenez le fil pour chaud\n",
+                "The heating may not be off: take the wire for hot\n");
+}
+
 } // namespace
 
 bool MachinePrete() {
@@ -112,6 +121,12 @@ bool MachinePrete() {
 
 int CouperSurMachine(const Decoupe2D& decoupe, const OptionsDecoupe2D& options,
                      const std::string& nomMatiere) {
+    if (decoupe.SequenceDecoupe.Points.size() < 2) {
+        AfficherExclamation(Dire("Le trajet n'a qu'un point : il n'y a rien à découper.",
+                                 "The path has a single point: there is nothing to cut."),
+                            TextesDoubles(DoublesPasDeDecoupe, 2));
+        return StatutRefuse;
+    }
     const DecoupePreparee preparee = PreparerDecoupeTS2D(decoupe, options, TableINI, nomMatiere);
     if (!preparee.possible) return StatutRefuse;
     DemandesMarche demandes;
@@ -135,6 +150,8 @@ int CouperSurMachine(const Decoupe2D& decoupe, const OptionsDecoupe2D& options,
     if (resultat.PositionStop.lecture == LecturePosition::Faite && resultat.fin != FinDecoupe::Terminee)
         Imprimer(TexteArret(resultat));
     if (resultat.fin == FinDecoupe::Arretee) AnnulerReprise(suivi);
+    if (resultat.fin != FinDecoupe::Terminee && resultat.NumSalveCourante > 1)
+        Imprimer(TexteChauffe(resultat));
     return resultat.fin == FinDecoupe::Terminee && resultat.chauffeCoupee ? StatutFait : StatutRefuse;
 }
 

@@ -5,11 +5,13 @@
 
 #include "app/settings/cles_generales.h"
 #include "app/texts/textes.h"
+#include "machine/machines_integrees.h"
 #include "machine/matieres.h"
 #include "machine/table_machine.h"
 #include "platform/dialogue.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace tessarel::lot {
 
@@ -17,20 +19,25 @@ namespace {
 
 constexpr int MessagesMatiereParDefaut = 105;
 
-void RefuserNom(const std::string& titre, const std::string& nom, const std::vector<std::string>& connus) {
-    std::string texte = nom + Dire(" n'existe pas. Connus : ", " does not exist. Known: ");
-    for (std::size_t i = 0; i < connus.size(); ++i) texte += (i == 0 ? "" : ", ") + connus[i];
+void RefuserNom(const std::string& titre, const std::string& nom, const std::vector<std::string>& connues) {
+    std::string texte = nom + Dire(" n'existe pas. Connues : ", " does not exist. Known: ");
+    for (std::size_t i = 0; i < connues.size(); ++i) texte += (i == 0 ? "" : ", ") + connues[i];
     AfficherExclamation(texte, titre);
 }
 
 } // namespace
 
+std::vector<std::string> NomsDesMachines() {
+    std::vector<std::string> noms = NomsMachinesIntegrees();
+    std::ranges::copy_if(TableauNomsMachines, std::back_inserter(noms),
+                         [](const std::string& nom) { return !EstMachineIntegree(nom); });
+    return noms;
+}
+
 bool ChoisirMachine(const std::string& nom) {
     if (nom.empty() || nom == TableINI.Nom) return true;
-    const auto& noms = TableauNomsMachines;
-    // The built-in machines that no list shows can be named all the same.
-    if (std::find(noms.begin(), noms.end(), nom) == noms.end() && !EstMachineIntegree(nom)) {
-        RefuserNom(Dire("Machine inconnue", "Unknown machine"), nom, noms);
+    if (!EstMachineConnue(nom)) {
+        RefuserNom(Dire("Machine inconnue", "Unknown machine"), nom, NomsDesMachines());
         return false;
     }
     if (ChargerMachine(nom) != StatutSucces || !ChargerBaseMatieres()) return false;

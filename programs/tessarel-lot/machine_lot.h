@@ -4,9 +4,12 @@
 #include "machine/matieres.h"
 
 #include <string>
+#include <vector>
 
 namespace tessarel::lot {
 
+// The machines that can be named: the built-in ones, then those of the settings file in its order.
+std::vector<std::string> NomsDesMachines();
 // Makes the machine current, with its materials, without touching the settings; an empty name keeps the
 // current one. False after a box.
 bool ChoisirMachine(const std::string& nom);

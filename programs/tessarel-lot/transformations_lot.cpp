@@ -5,11 +5,10 @@
 #include "langue_lot.h"
 
 #include "app/texts/textes.h"
+#include "commun/ligne_de_commande.h"
 #include "platform/dialogue.h"
 #include "work2d/edition.h"
 #include "work2d/selection.h"
-
-#include <CLI/CLI.hpp>
 
 #include <optional>
 
@@ -56,9 +55,9 @@ void DeclarerTransformations(CLI::App& verbe, TransformationsLot& demande) {
             "--tourner", demande.tourner,
             Dire("Tourne les tracés, en degrés vers la gauche", "Turns the paths, in degrees to the left"))
         ->type_name("DEG")
-        ->check(CLI::Range(-360.0, 360.0));
+        ->transform(Entre(-360, 360));
     const auto taille = [&](const char* option, double& valeur, const std::string& mots) {
-        verbe.add_option(option, valeur, mots)->type_name("MM")->check(CLI::Range(0.01, 100000.0));
+        verbe.add_option(option, valeur, mots)->type_name("MM")->transform(Entre(0.01, 100000));
     };
     taille("--largeur", demande.largeur,
            Dire("Met les tracés à cette largeur, proportions gardées",

@@ -6,6 +6,7 @@
 
 #include "app/settings/parametres.h"
 #include "app/texts/textes.h"
+#include "commun/ligne_de_commande.h"
 #include "cut4x/parametres_decoupe4x.h"
 #include "design4x/aile_neuve.h"
 #include "design4x/synchronisation.h"
@@ -119,17 +120,8 @@ void DeclarerFichiers(CLI::App& verbe, DemandeAile& demande) {
 
 void DeclarerDimensions(CLI::App& verbe, DemandeAile& demande) {
     PlanAile& plan = demande.plan;
-    // Comma or point, as in the fields of the windows.
     const auto nombre = [&](const char* option, auto& valeur, const std::string& description) {
-        return verbe.add_option_function<std::string>(
-            option,
-            [&valeur, option](const std::string& texte) {
-                const std::optional<double> lu = LireDecimal(texte);
-                if (!lu)
-                    throw CLI::ValidationError(option, texte + Dire(" n'est pas un nombre", " is no number"));
-                valeur = *lu;
-            },
-            description);
+        return verbe.add_option(option, valeur, description)->transform(UnNombre());
     };
     const auto longueur = [&](const char* option, auto& valeur, const char* francais, const char* english) {
         return nombre(option, valeur, Dire(francais, english))->type_name("MM");
@@ -157,7 +149,7 @@ void DeclarerDimensions(CLI::App& verbe, DemandeAile& demande) {
                  "hauteurs à 5 mm, 5 hauteurs à 10 mm",
                  "Block: 0 rectangular, 1 margins of 10 mm, 2 proportional margins, 3 margins of 5 mm, 4 "
                  "heights at 5 mm, 5 heights at 10 mm"))
-        ->check(CLI::Range(0, 5))
+        ->transform(Entre(0, 5, true))
         ->type_name("N");
 }
 

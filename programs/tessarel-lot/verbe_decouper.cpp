@@ -78,7 +78,7 @@ void DeclarerCoupe(CLI::App& verbe, DemandeDecoupe& demande) {
                       "Side of the offset by half the kerf, in the direction of travel"));
     const MotsChoix types = {{"0"}, {"1"}, {"2"}};
     AjouterChoix(verbe, "--entree", demande.entree, types,
-                 Dire("Entrée dans le bloc : 0 côté origine, 1 par-dessus, 2 par l'arrière",
+                 Dire("Entrée dans le bloc : 0 côté origine, 1 dessus, 2 côté opposé",
                       "Entry into the block: 0 from the origin side, 1 from above, 2 from the far side"));
     AjouterChoix(verbe, "--sortie", demande.sortie, types,
                  Dire("Sortie du bloc, de même", "Exit from the block, likewise"));

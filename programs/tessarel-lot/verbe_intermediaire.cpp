@@ -4,7 +4,7 @@
 #include "resume_lot.h"
 #include "verbes.h"
 
-#include "design4x/boites_cpx.h"
+#include "commun/ligne_de_commande.h"
 #include "design4x/intermediaire.h"
 #include "platform/nombres.h"
 
@@ -15,21 +15,20 @@ namespace tessarel::lot {
 namespace {
 
 struct DemandeIntermediaire {
-    std::string distance; // as typed
-    int vers = -1;        // 0 root, 1 tip
+    double distance = 0; // mm from the root
+    int vers = -1;       // 0 root, 1 tip
     std::string entree;
     std::string sortie;
 };
 
 int Remplacer(const DemandeIntermediaire& demande) {
-    const std::optional<double> distance = LireValeurSaisie(demande.distance);
-    if (!distance || !SortieProjet4xPermise(demande.sortie, {demande.entree})) return StatutRefuse;
+    if (!SortieProjet4xPermise(demande.sortie, {demande.entree})) return StatutRefuse;
     Progression progression(2);
     std::optional<Projet4x> projet = OuvrirProjet4x(demande.entree, progression);
     if (!projet) return StatutRefuse;
     ProjetCPX& conception = projet->conception.projet;
     ProfilIntermediaire intermediaire;
-    if (!CalculerProfilIntermediaire(conception, *distance, intermediaire)) return StatutRefuse;
+    if (!CalculerProfilIntermediaire(conception, demande.distance, intermediaire)) return StatutRefuse;
     const bool fait = demande.vers == 0 ? cmdIntermediaireToEmplanture(conception, intermediaire)
                                         : cmdIntermediaireToSaumon(conception, intermediaire);
     // A distance of 0 leaves the project as it is; any other refusal has told why.
@@ -55,6 +54,7 @@ void DeclarerIntermediaire(CLI::App& programme, const ChoisirAction& choisir) {
         ->add_option("D", demande->distance,
                      Dire("Distance à l'emplanture, mm", "Distance from the root, mm"))
         ->required()
+        ->transform(UnNombre())
         ->type_name("");
     AjouterChoix(*verbe, "--vers", demande->vers, {{"emplanture", "root"}, {"saumon", "tip"}},
                  Dire("Le bout qu'il remplace", "The end that it replaces"))

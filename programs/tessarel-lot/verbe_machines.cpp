@@ -24,8 +24,10 @@ constexpr int RangeePasDInterface = 247; // of TextesMessages
 
 int ListerMachines() {
     std::string texte;
-    for (const std::string& nom : TableauNomsMachines)
-        texte += (nom == TableINI.Nom ? "* " : "  ") + nom + "\n";
+    for (const std::string& nom : NomsDesMachines()) {
+        texte += nom == TableINI.Nom ? "* " : "  ";
+        texte += EstMachineIntegree(nom) ? LigneResume(nom, Dire("intégrée", "built in")) : nom + "\n";
+    }
     return Imprimer(texte);
 }
 

@@ -4,6 +4,7 @@
 #include "resume_lot.h"
 #include "verbes.h"
 
+#include "commun/ligne_de_commande.h"
 #include "design4x/compteurs.h"
 #include "platform/dialogue.h"
 #include "platform/fichiers.h"
@@ -15,6 +16,10 @@
 namespace tessarel::lot {
 
 namespace {
+
+// Bounds of what is typed as a whole number; whether it fits is told by who uses it.
+constexpr double PointMaximal = 1e9;
+constexpr double DrapeauMaximal = 65535;
 
 struct DemandeOutil {
     std::vector<std::string> termes; // control, its index and value, then the two files
@@ -160,6 +165,7 @@ void DeclarerOutil(CLI::App& programme, const ChoisirAction& choisir) {
         ->add_option("--courant,--current", demande->courant,
                      Dire("Compteurs de points, emplanture et saumon", "Point counters, root and tip"))
         ->expected(2)
+        ->transform(Entre(0, PointMaximal, true))
         ->type_name("E S");
     verbe
         ->add_option("--mode", demande->mode,
@@ -167,6 +173,7 @@ void DeclarerOutil(CLI::App& programme, const ChoisirAction& choisir) {
                           "décalage, 32 corde",
                           "Selection mode: 1 tools, 2 alignment, 4 synchronisation, 8 stops, 16 no offset, "
                           "32 chord"))
+        ->transform(Entre(0, DrapeauMaximal, true))
         ->type_name("N");
     verbe->callback([demande, choisir] { choisir([demande] { return Outiller(*demande); }); });
 }

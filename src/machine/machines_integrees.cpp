@@ -3,18 +3,20 @@
 
 #include "platform/fichiers.h"
 
+#include <algorithm>
+
 namespace tessarel {
 
 namespace {
 
-enum class Integree { Aucune, Defaut, Qt4xM1, Qt2dV12, Qt2dV10 };
+// In the order of their names below.
+enum class Integree { Defaut, Qt4xM1, Qt2dV12, Qt2dV10, Aucune };
 
 Integree Reconnaitre(const std::string& nom) {
-    if (EgalSansCasse(nom, "(Defaut)")) return Integree::Defaut;
-    if (EgalSansCasse(nom, "QT4X-m1")) return Integree::Qt4xM1;
-    if (EgalSansCasse(nom, "QT2d v12")) return Integree::Qt2dV12;
-    if (EgalSansCasse(nom, "QT2d v10")) return Integree::Qt2dV10;
-    return Integree::Aucune;
+    const std::vector<std::string>& noms = NomsMachinesIntegrees();
+    const auto trouve =
+        std::ranges::find_if(noms, [&](const std::string& integree) { return EgalSansCasse(nom, integree); });
+    return static_cast<Integree>(trouve - noms.begin());
 }
 
 // What all columns agree on.
@@ -117,6 +119,11 @@ TableMachine Qt2d(const TableMachine& ancienne, std::int16_t chauffeMaxi, std::i
 }
 
 } // namespace
+
+const std::vector<std::string>& NomsMachinesIntegrees() {
+    static const std::vector<std::string> noms = {"(Defaut)", "QT4X-m1", "QT2d v12", "QT2d v10"};
+    return noms;
+}
 
 bool EstMachineIntegree(const std::string& nom) {
     return Reconnaitre(nom) != Integree::Aucune;

@@ -214,6 +214,7 @@ DessinImporte LireDessin(const std::string& chemin, float distNettoyage) {
         Etendue etendue;
         LireFichier(points, chemin, etendue, dessin.extension, &dessin.rapport);
     } else {
+        if (!FichierExiste(chemin)) (void)LireFichierEntier(chemin); // tells what is there instead
         throw FauteLecture(chemin, 0, Texte(TexteProgramme::LectureGenreInconnu));
     }
     dessin.sequences =

@@ -109,7 +109,8 @@ bool OuvrirFichier2D(Espace2D& espace, const std::string& chemin, const TableMac
                      float distNettoyage, OuvertureFichier* ouverture, const LecteurContenu& lecteur) {
     const std::string extension = ExtensionMinuscule(chemin);
     const auto& connues = ExtensionsConnues();
-    if (std::find(connues.begin(), connues.end(), extension) == connues.end()) {
+    const bool present = FichierExiste(chemin) || DossierExiste(chemin);
+    if (present && std::find(connues.begin(), connues.end(), extension) == connues.end()) {
         AfficherExclamation(TextesDoubles(DoublesExtensionInconnue, 1) + "\r\n" + chemin,
                             TextesDoubles(DoublesExtensionInconnue, 2));
         return false;

@@ -50,7 +50,7 @@ std::string RefusEtranger(const std::string& chemin, std::string_view entete) {
         (CommencePar(entete, "CLI/") || CommencePar(entete, "nlohmann/"))) {
         return "";
     }
-    if (CommencePar(chemin, "programs/zelko-simulateur/") && CommencePar(entete, "CLI/")) return "";
+    if (CommencePar(chemin, "programs/commun/") && CommencePar(entete, "CLI/")) return "";
     if (CommencePar(chemin, "tests/") && (CommencePar(entete, "gtest/") || EstSysteme(entete))) return "";
     // What is known of foreign files is kept as JSON.
     if (CommencePar(chemin, "tests/corpus/") && CommencePar(entete, "nlohmann/")) return "";
@@ -79,12 +79,15 @@ bool LireInclusion(std::string_view ligne, char& marque, std::string_view& entet
     return true;
 }
 
-// Folder of the table meant by a quoted include, written from src/ or, by a test, from tests/.
+// Folder of the table meant by a quoted include, written from src/ or, by a test or a program, from its own
+// tree.
 std::string DossierInclus(const Fleches& fleches, const std::string& chemin, std::string_view entete) {
     if (entete.find('/') == std::string_view::npos) return DossierDe(fleches, chemin);
     const std::string depuisSrc = DossierDe(fleches, "src/" + std::string(entete));
-    if (!depuisSrc.empty() || !CommencePar(chemin, "tests/")) return depuisSrc;
-    return DossierDe(fleches, "tests/" + std::string(entete));
+    for (const char* arbre : {"tests/", "programs/"})
+        if (depuisSrc.empty() && CommencePar(chemin, arbre))
+            return DossierDe(fleches, arbre + std::string(entete));
+    return depuisSrc;
 }
 
 std::string RefusMaison(const Fleches& fleches, const std::string& chemin, std::string_view entete) {
@@ -122,9 +125,11 @@ const Fleches& FlechesDeLaMaison() {
         {"work2d/ui", {"ui", "work2d", "app/demarrage"}},
         {"app/ui", {"ui", "app/demarrage"}},
         {"programs/tessarel", {"app/ui", "work2d/ui", "machine/ui"}},
-        {"programs/tessarel-lot", {"app/demarrage", "work2d", "cut4x", "platform/images"}},
+        {"programs/commun", {"platform"}},
+        {"programs/tessarel-lot", {"programs/commun", "app/demarrage", "work2d", "cut4x", "platform/images"}},
         {"programs/explications", {"machine", "platform/images"}},
-        {"programs/zelko-simulateur", {"link/simulateur/ui", "link/simulateur", "app/demarrage", "work2d"}},
+        {"programs/zelko-simulateur",
+         {"programs/commun", "link/simulateur/ui", "link/simulateur", "app/demarrage", "work2d"}},
         {"tests/outils", {"platform", "platform/gabar"}},
         {"tests/outils_boite", {"tests/outils", "link", "link/simulateur"}},
         {"tests/architecture", {"tests/outils"}},

@@ -52,6 +52,7 @@ TEST_F(DecoupeMachine, UneToucheDeFinArreteRefroiditEtDitOuEstLeFil) {
         EXPECT_EQ(lot.statut, 1) << signal << lot.erreurs;
         EXPECT_NE(lot.sortie.find("Stopped at segment no. "), std::string::npos) << lot.sortie << lot.erreurs;
         EXPECT_NE(lot.sortie.find(", wire at X "), std::string::npos) << lot.sortie;
+        EXPECT_TRUE(lot.sortie.ends_with(" mm\nHeating off\n")) << lot.sortie;
         EXPECT_EQ(lot.erreurs,
                   "Stopped in the working area: Warning: the wire is not in its rest position.\n");
     }
@@ -104,7 +105,7 @@ TEST_F(DecoupeMachine, UnTerminalVoitLeDecompteEtLaBarre) {
         "8", "TERM=xterm script -qec 'tessarel-lot --documents doc decouper a.txt --interface' /dev/null");
     EXPECT_EQ(lot.statut, 0) << lot.sortie;
     EXPECT_NE(lot.sortie.find("Mise en température du fil 2/2 s"), std::string::npos) << lot.sortie;
-    EXPECT_NE(lot.sortie.find("Découpe segment n° "), std::string::npos) << lot.sortie;
+    EXPECT_NE(lot.sortie.find("Découpe segment n°2/"), std::string::npos) << lot.sortie;
 }
 
 TEST_F(DecoupeMachine, UneMachineInconnueDeLInterfaceNeBougePas) {

@@ -169,6 +169,29 @@ TEST_F(Demonstration, LaMachineDesReglagesEstDansLInterface) {
         << e.erreurs;
 }
 
+// All that the guide tells of a cut can be played: its machine homes. What the user has configured stays his.
+TEST_F(Demo, SaMachineChercheSonOrigineDansDesReglagesASoi) {
+    EcrireTout(travail.Fichier("a.txt"), "A\r\n20:5\r\n30:5\r\n30:12\r\n20:5\r\n");
+    const Execution e = Faire("mkdir -p config Documents/Tessarel/Datas; export "
+                              "XDG_CONFIG_HOME=\"$PWD/config\"; echo a >config/theme\n"
+                              "tessarel-lot machines >liste; sed -i 's/^Langue=.*/Langue=English\\r/' "
+                              "Documents/Tessarel/Datas/*.ini\n"
+                              "sum Documents/Tessarel/Datas/*.ini >avant\n" +
+                              LancerDemo() +
+                              "kill $lance; wait $lance; restes; ls sortie/demo/config\n"
+                              "s=0; TMPDIR=\"$PWD/tmp\" " +
+                              AVEC_MACHINE +
+                              "--fenetre --facteur 100 --config \"$PWD/sortie/demo/config\" --journal j.tsv "
+                              "tessarel-lot decouper a.txt --interface >dit 2>erreurs || s=$?\n"
+                              "echo statut $s; grep '^Machine' dit; cat erreurs; restes\n"
+                              "grep -o 'O origine\\|.chauffe.[0-9]*$' j.tsv | uniq\n"
+                              "sum Documents/Tessarel/Datas/*.ini | cmp - avant");
+    EXPECT_EQ(e.sortie, "theme\nuser-dirs.dirs\nstatut 0\nMachine       QT2d v12\n"
+                        "machine available: Cut finished, wire in its rest position, heating off.\n"
+                        "O origine\n\tchauffe\t166\n\tchauffe\t0\n")
+        << e.erreurs << LireTout(travail.Fichier("erreurs"));
+}
+
 TEST_F(Demo, SansDossierDeSessionIlEnAUnASoi) {
     const Execution e =
         Faire(LancerDemo("env -u XDG_RUNTIME_DIR ") +

@@ -81,16 +81,20 @@ TEST(Simulateur, UnMauvaisUsageEstDit) {
         EXPECT_EQ(e.sortie, "") << options;
         return e.erreurs.substr(0, e.erreurs.find('\n'));
     };
-    EXPECT_EQ(refus("--facteur 0"), "zelko-simulateur: --facteur: 0 : nombre attendu, de 0.01 à 1000000");
-    EXPECT_EQ(refus("--facteur dix"), "zelko-simulateur: --facteur: dix : nombre attendu, de 0.01 à 1000000");
-    EXPECT_EQ(refus("--capacite 1"), "zelko-simulateur: --capacite: 1 : nombre attendu, de 2 à 65536");
-    EXPECT_EQ(refus("--capacite 2.5"), "zelko-simulateur: --capacite: 2.5 : nombre entier attendu");
+    EXPECT_EQ(refus("--facteur 0"), "zelko-simulateur: --facteur : 0 (attendu : nombre de 0.01 à 1000000)");
+    EXPECT_EQ(refus("--facteur dix"),
+              "zelko-simulateur: --facteur : dix (attendu : nombre de 0.01 à 1000000)");
+    EXPECT_EQ(refus("--capacite 1"),
+              "zelko-simulateur: --capacite : 1 (attendu : nombre entier de 2 à 65536)");
+    EXPECT_EQ(refus("--capacite 2.5"),
+              "zelko-simulateur: --capacite : 2.5 (attendu : nombre entier de 2 à 65536)");
     EXPECT_EQ(refus("--zut"), "zelko-simulateur: inattendu : --zut");
     EXPECT_EQ(refus("--panne bouton-stop:x=1"), "zelko-simulateur: bouton-stop:x=1 : réglage inconnu : x");
     EXPECT_EQ(refus("--langue fr"), "zelko-simulateur: --langue : une valeur et une seule est attendue");
     const Execution e = Executer("zelko-simulateur --langue de", dossier.Chemin());
     EXPECT_EQ(e.statut, 2);
-    EXPECT_EQ(e.erreurs, "zelko-simulateur: --langue : fr ou en attendu\nAide : zelko-simulateur --help\n");
+    EXPECT_EQ(e.erreurs,
+              "zelko-simulateur: --langue : de (attendu : fr ou en)\nAide : zelko-simulateur --help\n");
 }
 
 TEST(Simulateur, CeQuiEmpecheDeCommencerEstDit) {
