@@ -15,6 +15,10 @@ EtatSplash ChercherInterface() {
     return etat;
 }
 
+bool MemoiresLues() {
+    return InterfaceConnectee && !MachineLaissee;
+}
+
 std::vector<std::string> DifferencesAvecMemoire(const TableMachine& table, const TableMachine& memoire) {
     std::string rapport;
     ComparerMachineEtZelko(table, memoire, &rapport);

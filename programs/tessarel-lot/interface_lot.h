@@ -12,6 +12,8 @@ namespace tessarel::lot {
 // Looks for the library and the box, as the desktop program does at its start; the machine is TableINI. Where
 // a memory agrees it is loaded, and moves are enabled. A library that is missing is told on standard error.
 EtatSplash ChercherInterface();
+// After it: false also for a box that was left running.
+bool MemoiresLues();
 
 // What differs between a machine and a memory of the box, one line each, as "Zelko.x=1  <>  TableINI.x=2
 // NOK"; empty when the two agree.

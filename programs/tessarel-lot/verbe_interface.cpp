@@ -53,8 +53,10 @@ std::string TexteInterface(const EtatSplash& etat) {
     std::string texte = LigneResume(Dire("Bibliothèque", "Library"), TexteBibliotheque());
     texte += LigneResume("Interface", InterfaceConnectee ? Dire("détectée", "detected")
                                                          : Dire("pas d'interface", "no interface"));
+    if (MachineLaissee)
+        texte += LigneResume(Dire("État", "State"), Dire("laissée en marche", "left running"));
     texte += LigneResume("Machine", TableINI.Nom);
-    for (std::size_t i = 0; InterfaceConnectee && i < etat.Memoires.size(); ++i) {
+    for (std::size_t i = 0; MemoiresLues() && i < etat.Memoires.size(); ++i) {
         std::string memoire = TexteMemoire(etat.Memoires[i], MemoiresZelko[i]);
         memoire.pop_back();
         texte += LigneResume(Dire("Mémoire ", "Memory ") + std::to_string(i), memoire);
@@ -89,9 +91,10 @@ nlohmann::ordered_json JsonInterface(const EtatSplash& etat) {
     nlohmann::ordered_json objet;
     objet["bibliotheque"] = {{"etat", MotBibliotheque()}, {"version", Zelko_Dll_Version()}};
     objet["connectee"] = InterfaceConnectee;
+    objet["laissee_en_marche"] = MachineLaissee;
     objet["machine"] = TableINI.Nom;
     objet["memoires"] = nlohmann::ordered_json::array();
-    for (std::size_t i = 0; InterfaceConnectee && i < etat.Memoires.size(); ++i)
+    for (std::size_t i = 0; MemoiresLues() && i < etat.Memoires.size(); ++i)
         objet["memoires"].push_back(JsonMemoire(i, MemoiresZelko[i]));
     objet["mouvements"] = MouvementsActifs;
     objet["memoire_active"] =

@@ -94,6 +94,7 @@ int ComparerAvecInterface(const std::string& nom) {
         AfficherExclamation(TextesMessages(RangeePasDInterface), TitresMessages(RangeePasDInterface));
         return StatutRefuse;
     }
+    if (!MemoiresLues()) return StatutRefuse; // the question told why
     std::string texte;
     for (int i = 0; i < NombreMemoires; ++i)
         texte += TexteComparaison(i, MemoiresZelko[static_cast<std::size_t>(i)]);

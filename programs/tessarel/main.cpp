@@ -46,7 +46,7 @@ void Entrer2D(Fenetres& fenetres) {
     QObject::connect(&travail, &frmTessarel2D::GererMatieres, &travail,
                      [&travail] { OuvrirReglages<frmD4X_matieres>(travail); });
     travail.show();
-    travail.RafraichirInterface();
+    travail.RafraichirInterface(QuestionMachine::PoseeUneFois); // the start has asked
     fenetres.splash->hide();
 }
 

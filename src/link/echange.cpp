@@ -18,17 +18,19 @@ constexpr std::uint8_t ChauffeCoupee = 0;
 constexpr int RangeeProbleme = 6; // of TextesDoubles
 
 bool chauffePeutEtreActive = false;
+bool filAllumeIci = false;
 
 // Before the sending, for a command that gets lost on its way back has been heard all the same.
 void NoterChauffePossible(const Tampon& commande) {
     const bool chauffe = commande[1] == CommandeChauffe && commande[2] == ChauffeEnMarche && commande[3] != 0;
     const bool lance = commande[1] == CommandeFile && commande[2] == FileLancer;
     if (chauffe || lance) chauffePeutEtreActive = true;
+    if (chauffe) filAllumeIci = true;
 }
 
 void NoterChauffeCoupee(const Tampon& commande, const Tampon& reponse) {
     if (commande[1] == CommandeChauffe && commande[2] == ChauffeCoupee && reponse[2] == 0 && reponse[4] == 0)
-        chauffePeutEtreActive = CoupureEnSuspens = false;
+        chauffePeutEtreActive = filAllumeIci = CoupureEnSuspens = false;
 }
 
 // What a reply that never came reads as.
@@ -123,6 +125,14 @@ void SignalerErreurInterface(std::string_view procedure, std::int32_t resultat) 
 
 bool ChauffePeutEtreActive() {
     return chauffePeutEtreActive;
+}
+
+void SupposerFilChaud() {
+    chauffePeutEtreActive = true;
+}
+
+bool FilAllumeIci() {
+    return filAllumeIci;
 }
 
 bool NoterEchange(EchecsConsecutifs& echecs, bool reussi) {

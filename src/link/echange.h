@@ -59,6 +59,10 @@ void SignalerErreurInterface(std::string_view procedure, std::int32_t resultat =
 // The wire may be hot, as far as this program knows: a heat or a frame went out, or was lost on the way, and
 // no heat-off was confirmed since. Cleared by the confirmation alone.
 bool ChauffePeutEtreActive();
+// From here on it may be, whoever lit it: this program is about to put it out.
+void SupposerFilChaud();
+// A heat by hand went out, or was lost on the way, and no heat-off was confirmed since.
+bool FilAllumeIci();
 
 // Counts exchanges that fail one after the other, for loops that go on in spite of them: the user must hear
 // of a box that is gone, once, and not at each try.

@@ -10,12 +10,14 @@ std::int32_t DernierResultatZelko = ResultatZelkoSucces;
 bool InterfaceConnectee = false;
 bool MouvementsActifs = false;
 bool CoupureEnSuspens = false;
+bool MachineLaissee = false;
 
 void ReinitialiserEtatInterface() {
     DernierResultatZelko = ResultatZelkoSucces;
     InterfaceConnectee = false;
     MouvementsActifs = false;
     CoupureEnSuspens = false;
+    MachineLaissee = false;
 }
 
 EtatBibliotheque TesterBibliothequeZelko(const std::vector<std::string>& dossiers) {
@@ -31,6 +33,7 @@ EtatBibliotheque TesterBibliothequeZelko(const std::vector<std::string>& dossier
 
 bool TesterInterface() {
     InterfaceConnectee = Zelko_IsConnected() == ZelkoBranchee;
+    if (!InterfaceConnectee) MachineLaissee = false;
     return InterfaceConnectee;
 }
 

@@ -18,6 +18,9 @@ extern bool MouvementsActifs;
 // A heat-off was given up before the box confirmed it, and the user told. The next refresh that finds the box
 // makes up for it. Cleared by the confirmation alone.
 extern bool CoupureEnSuspens;
+// The box was found running or heating although this program drives it not, and was left so
+// (ControlerMachine): nothing may disturb it. False as soon as it is found at rest, or gone.
+extern bool MachineLaissee;
 
 // Back to "no interface", the state before any test.
 void ReinitialiserEtatInterface();

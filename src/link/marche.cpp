@@ -427,10 +427,11 @@ bool SecourirMarche() noexcept {
         if (dejaFait) return coupee;
         secourue = faute;
         coupee = false;
-        for (int essai = 0; essai < EssaisDeSecours && !coupee; ++essai) {
+        bool arretee = false;
+        for (int essai = 0; essai < EssaisDeSecours && !(arretee && coupee); ++essai) {
             if (essai > 0) Patienter(EntreDeuxEssais);
-            Envoyer(CommandeArret);
-            coupee = Envoyer(CommandeChauffe) && TamponEchange[2] == 0 && TamponEchange[4] == 0;
+            arretee = Envoyer(CommandeArret) || arretee;
+            coupee = (Envoyer(CommandeChauffe) && TamponEchange[2] == 0 && TamponEchange[4] == 0) || coupee;
         }
         if (!coupee && ChauffePeutEtreActive()) SignalerChauffeNonCoupee();
         return coupee;

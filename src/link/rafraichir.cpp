@@ -23,11 +23,13 @@ void RechargerMachine() {
     ChargerMachine(parDefaut);
 }
 
-// The box was given up with the wire hot, and is there again: it has gone on by itself meanwhile.
-void RattraperCoupure() {
-    if (CoupureEnSuspens && SecourirMarche())
-        AfficherInformation(Texte(TexteProgramme::ChauffeRattrapee),
-                            Texte(TexteProgramme::ChauffeRattrapeeTitre));
+// The box was given up with the wire hot, and is there again: it has gone on by itself meanwhile. True when
+// it is made good.
+bool RattraperCoupure() {
+    if (!CoupureEnSuspens || !SecourirMarche()) return false;
+    AfficherInformation(Texte(TexteProgramme::ChauffeRattrapee),
+                        Texte(TexteProgramme::ChauffeRattrapeeTitre));
+    return true;
 }
 
 // The number of the memory that was made active, -1 for none.
@@ -46,14 +48,21 @@ int ChargerMemoireQuiCorrespond() {
 
 } // namespace
 
-EtatLiaison RafraichirUsb(const std::string& mode) {
+EtatLiaison RafraichirUsb(const std::string& mode, QuestionMachine question) {
     RechargerMachine();
     EtatLiaison etat;
     etat.Mode = mode;
     etat.NomMachine = TableINI.Nom;
     MouvementsActifs = false;
     if (!TesterInterface()) return etat;
-    RattraperCoupure();
+    etat.Rattrapee = RattraperCoupure();
+    // A heat of this program that does not go off has been told.
+    const MachineTrouvee trouvee = CoupureEnSuspens ? MachineTrouvee::Libre : ControlerMachine(question);
+    etat.Arretee = trouvee == MachineTrouvee::Arretee;
+    if (trouvee == MachineTrouvee::Laissee) {
+        etat.Liaison = LiaisonZelko::LaisseeEnMarche;
+        return etat;
+    }
     for (int i = 0; i < NombreMemoires; ++i) LireMemoireZelko(MemoiresZelko[static_cast<std::size_t>(i)], i);
     etat.Memoire = ChargerMemoireQuiCorrespond();
     MouvementsActifs = etat.Memoire >= 0;

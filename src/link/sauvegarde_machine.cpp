@@ -81,8 +81,8 @@ FinSauvegarde SauverParamMachineIniEtZelko(const SaisieMachine& saisie, std::opt
     MouvementsActifs = false; // the table in RAM is no longer known to be this machine
     if (ChargerMachine(saisie.Nom) != StatutSucces) return FinSauvegarde::FichierImpossible;
     ReprendreMatiere();
-    if (InterfaceConnectee && memoire) return EnvoyerEnMemoire(*memoire);
-    if (InterfaceConnectee) RafraichirUsb(ModeParametres);
+    if (InterfaceConnectee && !MachineLaissee && memoire) return EnvoyerEnMemoire(*memoire);
+    if (InterfaceConnectee) RafraichirUsb(ModeParametres, QuestionMachine::PoseeUneFois);
     return FinSauvegarde::Enregistree;
 }
 
@@ -95,7 +95,7 @@ void ChoisirMachine(const std::string& nom) {
     }
     EcrireMachineUtilisee(TableINI.Nom);
     ReprendreMatiere();
-    if (InterfaceConnectee) RafraichirUsb(ModeParametres);
+    if (InterfaceConnectee) RafraichirUsb(ModeParametres, QuestionMachine::PoseeUneFois);
 }
 
 bool CreerMachine(SaisieMachine saisie, const std::string& nom) {
@@ -134,6 +134,11 @@ bool InterfacePretePourMemoire() {
         AfficherExclamation(TextesMessages(RangeeInterfaceAbsente), TitresMessages(RangeeInterfaceAbsente));
         return false;
     }
+    // A table written now would become that of a run of somebody else.
+    const bool laissee = MachineLaissee;
+    const MachineTrouvee trouvee = ControlerMachine(QuestionMachine::Posee);
+    if (trouvee == MachineTrouvee::Laissee) MouvementsActifs = false;
+    if (laissee || trouvee != MachineTrouvee::Libre) return false;
     if (avant) return true;
     AfficherInformation(TextesMessages(RangeeVientDEtreBranchee), TitresMessages(RangeeVientDEtreBranchee));
     return false;

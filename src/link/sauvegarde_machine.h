@@ -37,7 +37,8 @@ enum class FinEffacement { Reservee, Abandonnee, Effacee };
 FinEffacement EffacerMachine(const std::string& nom, const std::function<void()>& chargement = {});
 
 // The interface as a save into a memory needs it: true when it is there and was there before. One that has
-// just been plugged in is told, so that the user looks at the memories first; one that is missing too.
+// just been plugged in is told, so that the user looks at the memories first; one that is missing too. One
+// that runs without this program is asked about: false also where it was stopped, for the same reason.
 bool InterfacePretePourMemoire();
 
 } // namespace tessarel

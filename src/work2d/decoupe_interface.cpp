@@ -198,6 +198,30 @@ FinDecoupe Finir(Passe& p, const ResultatMarche& marche) {
     return commencee ? FinDecoupe::Inexpliquee : FinDecoupe::Refusee;
 }
 
+// `neuve`: the cut begins, and not the rest of one whose place is known.
+AvantDecoupe DemanderLiaison(bool neuve) {
+    const EtatLiaison etat = RafraichirUsb(TS2D);
+    if (etat.Arretee || (neuve && etat.Rattrapee)) return AvantDecoupe::MachineArretee;
+    switch (etat.Liaison) {
+    case LiaisonZelko::LaisseeEnMarche:
+        return AvantDecoupe::LaisseeEnMarche;
+    case LiaisonZelko::SansInterface:
+        AfficherExclamation(TextesMessages(MessagesSansInterface), TitresMessages(MessagesSansInterface));
+        return AvantDecoupe::SansInterface;
+    case LiaisonZelko::SansCorrespondance: {
+        // Here the question stands apart from the finding, by an empty line.
+        std::string texte = TextesMessages(MessagesSansCorrespondance);
+        if (const auto fin = texte.find("\r\n"); fin != std::string::npos) texte.insert(fin, "\r\n");
+        return DemanderOuiNon(texte, TitresMessages(MessagesSansCorrespondance))
+                   ? AvantDecoupe::OuvrirParametrage
+                   : AvantDecoupe::SansCorrespondance;
+    }
+    case LiaisonZelko::MouvementsPermis:
+        break;
+    }
+    return AvantDecoupe::Permise;
+}
+
 // One pass of the streaming loop, and its end.
 FinDecoupe ExecuterSalves(Passe& p) {
     if (!InterrupteursPermettentLaDecoupe(p.table)) return FinDecoupe::Refusee;
@@ -226,27 +250,11 @@ SuiviMarche SuiviDeMarche(const SuiviDecoupe& suivi) {
 }
 
 AvantDecoupe VerifierLiaison() {
-    const EtatLiaison etat = RafraichirUsb(TS2D);
-    switch (etat.Liaison) {
-    case LiaisonZelko::SansInterface:
-        AfficherExclamation(TextesMessages(MessagesSansInterface), TitresMessages(MessagesSansInterface));
-        return AvantDecoupe::SansInterface;
-    case LiaisonZelko::SansCorrespondance: {
-        // Here the question stands apart from the finding, by an empty line.
-        std::string texte = TextesMessages(MessagesSansCorrespondance);
-        if (const auto fin = texte.find("\r\n"); fin != std::string::npos) texte.insert(fin, "\r\n");
-        return DemanderOuiNon(texte, TitresMessages(MessagesSansCorrespondance))
-                   ? AvantDecoupe::OuvrirParametrage
-                   : AvantDecoupe::SansCorrespondance;
-    }
-    case LiaisonZelko::MouvementsPermis:
-        break;
-    }
-    return AvantDecoupe::Permise;
+    return DemanderLiaison(false);
 }
 
 AvantDecoupe VerifierAvantDecoupe() {
-    const AvantDecoupe liaison = VerifierLiaison();
+    const AvantDecoupe liaison = DemanderLiaison(true);
     if (liaison != AvantDecoupe::Permise) return liaison;
     return VerifierInterrupteurs(TableINI) == StatutSucces ? AvantDecoupe::Permise
                                                            : AvantDecoupe::Interrupteurs;

@@ -69,7 +69,15 @@ struct ResultatDecoupe {
 enum class GenreDecoupe { Decoupe, Retour };
 
 // Refreshes the link and asks for what a cut needs. Anything but Permise was told by its box.
-enum class AvantDecoupe { Permise, SansInterface, SansCorrespondance, OuvrirParametrage, Interrupteurs };
+enum class AvantDecoupe {
+    Permise,
+    SansInterface,
+    SansCorrespondance,
+    OuvrirParametrage,
+    Interrupteurs,
+    LaisseeEnMarche, // it runs for somebody else, and goes on
+    MachineArretee   // it did, and has just been stopped: the wire stands anywhere, nothing follows by itself
+};
 AvantDecoupe VerifierAvantDecoupe();
 // The first two questions of it, for every procedure that moves.
 AvantDecoupe VerifierLiaison();

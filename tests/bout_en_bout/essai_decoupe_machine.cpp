@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 
 namespace tessarel::essais {
@@ -56,6 +57,46 @@ TEST_F(DecoupeMachine, UneToucheDeFinArreteRefroiditEtDitOuEstLeFil) {
         EXPECT_EQ(lot.erreurs,
                   "Stopped in the working area: Warning: the wire is not in its rest position.\n");
     }
+}
+
+// Letters of the commands that the box heard, but for frames and status requests; one T for several.
+std::string CommandesEntendues(const std::string& journal) {
+    std::string lettres;
+    std::istringstream lignes(journal);
+    for (std::string ligne; std::getline(lignes, ligne);) {
+        std::istringstream colonnes(ligne);
+        std::string colonne;
+        for (int i = 0; i < 6; ++i) std::getline(colonnes, colonne, '\t');
+        if (ligne.find("\techange\t") == std::string::npos || colonne[0] == 'I' || colonne[0] == 'D')
+            continue;
+        if (colonne[0] != 'T' || !lettres.ends_with('T')) lettres += colonne[0];
+    }
+    return lettres;
+}
+
+// Nobody can switch the heat off for a program that was killed: the box goes on. The next one that looks says
+// so, leaves it in peace unless told otherwise, and does not cut behind a stop.
+TEST_F(DecoupeMachine, UnProgrammeTueLaisseUneMachineQueLeSuivantTrouve) {
+    const Execution lot = AvecMachine(
+        "8", "tessarel-lot --documents doc decouper a.txt --interface >/dev/null 2>&1 & lot=$!\n"
+             "n=0; until grep -q 'debut-salve.2' journal.txt; do\n"
+             "  n=$((n+1)); [ $n -lt 400 ] || exit 98; sleep 0.05; done\n"
+             "kill -9 $lot; wait $lot || true\n"
+             "dire() { statut=0; tessarel-lot --documents doc \"$@\" >/dev/null 2>dit.txt || statut=$?\n"
+             "  echo \"$statut $(sed 's/:.*//' dit.txt | tr '\\n' ',')\"; }\n"
+             "dire interface\n"
+             "dire decouper a.txt --interface\n"
+             "dire --oui decouper a.txt --interface\n"
+             "dire decouper a.txt --interface\n");
+    EXPECT_EQ(lot.sortie, "0 Machine en marche,\n"
+                          "1 Machine en marche,\n"
+                          "1 Machine en marche,Machine arrêtée,\n"
+                          "0 machine disponible,\n")
+        << lot.statut << lot.erreurs;
+    // A cut that was not ended; nothing from the two that left it; the stop and the table; a cut to its end.
+    EXPECT_EQ(CommandesEntendues(LireTout(travail.Fichier("journal.txt"))), "TBBB"
+                                                                            "SPT"
+                                                                            "BBBP");
 }
 
 // A terminal that is held up shows nothing; the cut goes on to its end, and the wire is cold before anybody

@@ -6,6 +6,7 @@
 #include "link/memoires.h"
 #include "outils/boites.h"
 #include "outils/dossiers.h"
+#include "outils_boite/autrui.h"
 #include "outils_boite/boite_virtuelle.h"
 #include "ui/theme.h"
 
@@ -55,6 +56,8 @@ private slots:
     void SansMemoireDuNomIlsRestentDesactives();
     void UnChargementEnRamPerduLeDit();
     void Debranchee();
+    void UneMachineEnMarcheEstDemandee_data();
+    void UneMachineEnMarcheEstDemandee();
     void Images_data();
     void Images();
 
@@ -176,6 +179,34 @@ void EssaiSplashBoite::Debranchee() {
     QVERIFY(!MouvementsActifs);
     QCOMPARE(Texte("lblDetectionInterface"), QStringLiteral("Pas d'interface"));
     QVERIFY(m_boites->boites.empty());
+}
+
+void EssaiSplashBoite::UneMachineEnMarcheEstDemandee_data() {
+    QTest::addColumn<bool>("oui");
+    QTest::newRow("Yes") << true;
+    QTest::newRow("No") << false;
+}
+void EssaiSplashBoite::UneMachineEnMarcheEstDemandee() {
+    QFETCH(const bool, oui);
+    essais::LancerPourAutrui(m_boite->boite, 127);
+    std::string commandes;
+    m_boite->AvantEchange = [&commandes](const Tampon& t) { commandes += static_cast<char>(t[1]); };
+    m_boites->reponses = {oui ? ReponseBoite::Oui : ReponseBoite::Non};
+    Demarrer();
+    QCOMPARE(m_boites->boites.front().titre, std::string("Machine en marche"));
+    QCOMPARE(m_boites->boites.size(), std::size_t{oui ? 2U : 1U});
+    QCOMPARE(MouvementsActifs, oui);
+    QCOMPARE(m_boite->boite.Etat().pwmFil == 0, oui);
+    QCOMPARE(Texte("lblDetectionInterface"), QStringLiteral("(Zelko)\nInterface détectée"));
+    if (oui) {
+        QCOMPARE(Marque(0), QStringLiteral("mêmes paramètres"));
+        return;
+    }
+    QVERIFY(commandes.find_first_not_of('I') == std::string::npos);
+    QCOMPARE(Texte("lblPasDeCorrespondance"),
+             QStringLiteral("Machine laissée en marche, mouvements désactivés"));
+    QVERIFY(!m_splash->findChild<QCheckBox*>(QStringLiteral("chkMemoiresZelko_0"))->isVisible());
+    QVERIFY(essais::SauverImage(*m_splash, QStringLiteral("splash-laissee-en-marche")));
 }
 
 void EssaiSplashBoite::Images_data() {

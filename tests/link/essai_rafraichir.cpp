@@ -66,8 +66,8 @@ TEST_F(Rafraichir, UneMemoireEgaleActiveLesMouvements) {
     EXPECT_EQ(TableINI.NumeroMemoire, 1);
     EXPECT_EQ(m_boite.enRam, 1);
     EXPECT_EQ(MemoiresZelko[1].Nom, "(Defaut)");
-    // Part 1 and what follows it of each memory, then the load.
-    EXPECT_EQ(SousCodesEnvoyes(), (std::vector<int>{30, 70, 31, 71, 32, 72, 11}));
+    // Two looks at the box, part 1 and what follows it of each memory, then the load.
+    EXPECT_EQ(SousCodesEnvoyes(), (std::vector<int>{-1, -1, 30, 70, 31, 71, 32, 72, 11}));
     EXPECT_TRUE(boites.boites.empty());
 }
 
@@ -78,7 +78,7 @@ TEST_F(Rafraichir, LaPremiereMemoireEgaleGagne) {
     Ranger(1, TableINI);
     Ranger(2, TableINI);
     EXPECT_EQ(RafraichirUsb("TS2D").Memoire, 1);
-    EXPECT_EQ(envois.size(), 7U); // nothing is sent for the third
+    EXPECT_EQ(envois.size(), 9U); // nothing is sent for the third
 }
 
 TEST_F(Rafraichir, UneChauffeAbandonneeEstCoupeeDesQueLaBoiteEstRetrouvee) {
@@ -94,7 +94,7 @@ TEST_F(Rafraichir, UneChauffeAbandonneeEstCoupeeDesQueLaBoiteEstRetrouvee) {
     m_boite.echangeEnPanne = 2; // the first heat-off
     EXPECT_EQ(RafraichirUsb("TS2D").Liaison, LiaisonZelko::MouvementsPermis);
     EXPECT_FALSE(m_boite.chauffe);
-    ASSERT_EQ(envois.size(), 11U);
+    ASSERT_EQ(envois.size(), 13U);
     const std::string lettres = {char(envois[0][1]), char(envois[1][1]), char(envois[2][1]),
                                  char(envois[3][1])};
     EXPECT_EQ(lettres, "SPSP"); // before any memory is read
@@ -102,7 +102,7 @@ TEST_F(Rafraichir, UneChauffeAbandonneeEstCoupeeDesQueLaBoiteEstRetrouvee) {
     EXPECT_EQ(boites.boites[1].titre, "Interface retrouvée");
     // Once.
     RafraichirUsb("TS2D");
-    EXPECT_EQ(envois.size(), 18U);
+    EXPECT_EQ(envois.size(), 22U);
     EXPECT_EQ(boites.boites.size(), 2U);
 }
 
@@ -147,7 +147,7 @@ TEST_F(Rafraichir, UneMemoirePleineDeUnsNActivePas) {
 TEST_F(Rafraichir, UnChargementEnRamEchoueNActivePasEtEstDit) {
     Ranger(0, TableINI);
     m_boite.panne = essais::Panne::ReponsePerdue;
-    m_boite.echangeEnPanne = 7;
+    m_boite.echangeEnPanne = 9; // the load, after two looks and the three memories
     const EtatLiaison etat = RafraichirUsb("TS2D");
     EXPECT_EQ(etat.Liaison, LiaisonZelko::SansInterface);
     EXPECT_FALSE(InterfaceConnectee);
@@ -161,7 +161,7 @@ TEST_F(Rafraichir, UneMemoireIllisibleNeGardePasCelleDAvant) {
     ASSERT_TRUE(RafraichirUsb("TS2D").Memoire == 0);
     m_boite.recus = 0;
     m_boite.panne = essais::Panne::ReponsePerdue;
-    m_boite.echangeEnPanne = 1;
+    m_boite.echangeEnPanne = 3; // the first memory
     EXPECT_EQ(RafraichirUsb("TS2D").Liaison, LiaisonZelko::SansCorrespondance);
     EXPECT_EQ(MemoiresZelko[0].Nom, "");
 }

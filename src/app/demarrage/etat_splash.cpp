@@ -4,6 +4,7 @@
 #include "app/texts/textes.h"
 #include "app/texts/textes_programme.h"
 #include "link/etat_interface.h"
+#include "link/machine_trouvee.h"
 #include "link/memoires.h"
 #include "platform/dialogue.h"
 
@@ -92,6 +93,10 @@ EtatSplash AffichageSplashEtTestsZelko(const AccesMemoires& acces) {
         return etat;
     }
     etat.Detection = Libelle(TexteDetectee(), CouleurLibelle::Verte);
+    if (ControlerMachine(QuestionMachine::Posee) == MachineTrouvee::Laissee) {
+        etat.Correspondance = Libelle(Texte(TexteProgramme::LaisseeSansMouvements), CouleurLibelle::Rouge);
+        return etat;
+    }
     etat.NomsVisibles = true;
     ComparerMemoires(acces, etat);
     return etat;

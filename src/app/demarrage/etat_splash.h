@@ -47,7 +47,9 @@ struct AccesMemoires {
 AccesMemoires MemoiresDuLien();
 
 // Tests the interface against TableINI and tells what the splash shows. Sets InterfaceConnectee and
-// DernierResultatZelko, and NumeroMemoire of TableINI where a memory agrees; never changes a memory.
+// DernierResultatZelko, and NumeroMemoire of TableINI where a memory agrees; never changes a memory. A box
+// that runs or heats already is asked about first (ControlerMachine); where it is left so, its memories are
+// not read.
 EtatSplash AffichageSplashEtTestsZelko(const AccesMemoires& acces);
 
 } // namespace tessarel

@@ -196,6 +196,29 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
      "The interface answers again: the moves are stopped and the heating is off.\r\n"
      "The wire may no longer be where it was."},
     {TexteProgramme::ChauffeRattrapeeTitre, "Interface retrouvée", "Interface found again"},
+    {TexteProgramme::MachineEnMarche,
+     "La machine bouge ou son fil chauffe, et ce programme ne la conduit pas.\r\n"
+     "Une découpe a été interrompue, ou un autre programme se sert de la machine.\r\n\r\n"
+     "Arrêter la machine et couper la chauffe ?",
+     "The machine is moving or its wire is hot, and this program is not driving it.\r\n"
+     "A cut was broken off, or another program is using the machine.\r\n\r\n"
+     "Stop the machine and switch the heating off?"},
+    {TexteProgramme::MachineEnMarcheTitre, "Machine en marche", "Machine running"},
+    {TexteProgramme::MachineArretee,
+     "La machine est arrêtée et la chauffe est coupée.\r\n"
+     "Le fil n'est peut-être pas à sa position de repos : dégagez-le et refaites l'origine avant de "
+     "découper.",
+     "The machine has stopped and the heating is off.\r\n"
+     "The wire may not be in its rest position: free it, and home the machine before you cut."},
+    {TexteProgramme::MachineArreteeTitre, "Machine arrêtée", "Machine stopped"},
+    {TexteProgramme::LaisseeEnMarche, "Laissée en marche", "Left running"},
+    {TexteProgramme::LaisseeSansMouvements, "Machine laissée en marche, mouvements désactivés",
+     "Machine left running, motion disabled"},
+    {TexteProgramme::ArretPerime,
+     "Le fil a pu bouger depuis l'arrêt, sans ce programme : la découpe arrêtée ne peut plus être reprise.",
+     "The wire may have moved since the stop, without this program: the stopped cut can no longer be "
+     "resumed."},
+    {TexteProgramme::ArretPerimeTitre, "Reprise impossible", "Cannot resume"},
     {TexteProgramme::VitesseIncorrecte, "Valeur de Vitesse incorrecte", "Incorrect speed"},
     {TexteProgramme::ErreurPositionStop, "Erreur dans le calcul de la position du Stop => " COURRIEL,
      "Error in the calculation of the stop position => " COURRIEL},

@@ -292,9 +292,8 @@ void frmSplashScreen::MontrerInterface() {
     Ecrire(*m_lblDetectionInterface, splash.Detection);
     Ecrire(*m_lblPasDeCorrespondance, splash.Correspondance);
     m_lblNomMachinesMemoire->setVisible(splash.NomsVisibles);
-    // The names' heading shows with a box that was found, and only then.
-    const QString image =
-        splash.NomsVisibles ? QStringLiteral("interface") : QStringLiteral("interface-absente");
+    const bool trouvee = splash.Detection.Couleur == CouleurLibelle::Verte;
+    const QString image = trouvee ? QStringLiteral("interface") : QStringLiteral("interface-absente");
     m_pcbInterfaceDetectee->setPixmap(Icone(image).pixmap(TailleImage));
 }
 

@@ -72,7 +72,7 @@ frmParametresTables::frmParametresTables(QWidget* parent) : QDialog(parent) {
     AppliquerLibelles(*this, LibellesParametresTables(), LangueCourante());
     Relier();
     RemplirComboMachines();
-    Rafraichir();
+    Rafraichir(QuestionMachine::PoseeUneFois);
 }
 
 SaisieMachine frmParametresTables::Saisie() const {
@@ -127,7 +127,7 @@ void frmParametresTables::Relier() {
     connect(cmdNouvelleTable, &QPushButton::clicked, this, &frmParametresTables::DemanderNouvelleTable);
     connect(cmdEffacerTable, &QPushButton::clicked, this, &frmParametresTables::DemanderEffacement);
     connect(cmdRafraichirUsb, &QToolButton::clicked, this, [this] {
-        if (!m_essais->FilChaud() || m_essais->CouperAvantDePartir()) Rafraichir();
+        if (!m_essais->FilChaud() || m_essais->CouperAvantDePartir()) Rafraichir(QuestionMachine::Posee);
     });
     connect(cmdValider[0], &QPushButton::clicked, this, [this] { Valider(false); });
     connect(cmdValider[1], &QPushButton::clicked, this, [this] { Valider(true); });
@@ -249,15 +249,15 @@ bool frmParametresTables::Modifiee() const {
 // Link ----------------------------------------------------------------------------------------------
 
 // No exchange starts inside another: while a command is repeated the window is alive, and waits.
-void frmParametresTables::Rafraichir() {
+void frmParametresTables::Rafraichir(QuestionMachine question) {
     if (m_essais->MouvementEnCours()) return;
-    RafraichirUsb("TABLES");
+    RafraichirUsb("TABLES", question);
     MontrerMachine();
     ActualiserNomsMemoiresEtAffichageMachineDansFrmParametres();
 }
 
 void frmParametresTables::LireEtAfficherNom3TablesZelko() {
-    if (InterfaceConnectee) {
+    if (InterfaceConnectee && !MachineLaissee) {
         for (int i = 0; i < NombreMemoires; ++i)
             LireMemoireZelko(MemoiresZelko[static_cast<std::size_t>(i)], i);
     }
@@ -265,18 +265,20 @@ void frmParametresTables::LireEtAfficherNom3TablesZelko() {
 }
 
 void frmParametresTables::MontrerMemoires() {
+    const bool lues = InterfaceConnectee && !MachineLaissee;
+    const std::string sinon =
+        MachineLaissee ? Texte(TexteProgramme::LaisseeSansMouvements) : TextesMessages(RangeePasDInterface);
     for (std::size_t i = 0; i < optChoixMemoire.size(); ++i) {
         const TableMachine& memoire = MemoiresZelko[i];
-        const QString nom = InterfaceConnectee && !memoire.Nom.empty() ? QString::fromStdString(memoire.Nom)
-                                                                       : QStringLiteral("–");
+        const QString nom =
+            lues && !memoire.Nom.empty() ? QString::fromStdString(memoire.Nom) : QStringLiteral("–");
         optChoixMemoire[i]->setText(QStringLiteral("%1: %2").arg(i + 1).arg(nom));
         ssTabZelko->setTabText(static_cast<int>(i), optChoixMemoire[i]->text());
-        lblContenuMemoire[i]->setText(InterfaceConnectee ? TexteContenuMemoire(memoire, TableINI)
-                                                         : TexteAffiche(TextesMessages(RangeePasDInterface)));
+        lblContenuMemoire[i]->setText(lues ? TexteContenuMemoire(memoire, TableINI) : TexteAffiche(sinon));
         if (MouvementsActifs && TableINI.NumeroMemoire == i && m_memoires->checkedId() < 0)
             optChoixMemoire[i]->setChecked(true);
     }
-    frameChoixMemoire->setEnabled(InterfaceConnectee);
+    frameChoixMemoire->setEnabled(lues);
 }
 
 void frmParametresTables::ActualiserNomsMemoiresEtAffichageMachineDansFrmParametres() {
@@ -290,6 +292,7 @@ void frmParametresTables::ActualiserNomsMemoiresEtAffichageMachineDansFrmParamet
     const bool memeNom = std::ranges::any_of(
         MemoiresZelko, [](const TableMachine& memoire) { return memoire.Nom == TableINI.Nom; });
     if (!sansBoite && !MouvementsActifs && memeNom) etat = TitresMessages(RangeePasDInterface + 1);
+    if (MachineLaissee) etat = Texte(TexteProgramme::LaisseeSansMouvements);
     lblEtatInterface->setText(TexteAffiche(etat));
     Colorer(*lblEtatInterface, MouvementsActifs ? CouleurAccord() : CouleurAlerte());
     optReglagesVersManu[1]->setEnabled(MouvementsActifs);
@@ -317,7 +320,7 @@ void frmParametresTables::DesactiverCadreParametres() {
 }
 void frmParametresTables::ActiverCadreChoixMachine() {
     findChild<QWidget*>(QStringLiteral("frameChoixMachine"))->setEnabled(true);
-    frameChoixMemoire->setEnabled(InterfaceConnectee);
+    frameChoixMemoire->setEnabled(InterfaceConnectee && !MachineLaissee);
     for (QRadioButton* option : optReglagesVersManu) option->setEnabled(true);
 }
 void frmParametresTables::DesactiverCadreChoixMachine() {

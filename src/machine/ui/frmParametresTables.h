@@ -2,6 +2,7 @@
 // memory of the interface and tries its motors and its wire.
 #pragma once
 
+#include "link/machine_trouvee.h"
 #include "machine/saisie_machine.h"
 #include "machine/ui/champs_parametres.h"
 
@@ -103,7 +104,7 @@ private:
     void DemanderNouvelleTable();
     void DemanderEffacement();
     void Valider(bool versMemoire);
-    void Rafraichir();
+    void Rafraichir(QuestionMachine question);
     void MontrerPage(int page);
     [[nodiscard]] bool PeutFermer();
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "link/chauffe_manuelle.h"
+#include "link/machine_trouvee.h"
 #include "machine/matieres.h"
 #include "work2d/apercu.h"
 #include "work2d/decoupe2d.h"
@@ -88,7 +89,7 @@ public slots:
     // Shows the current machine and materials anew: another window has changed them.
     void ActualiserMachine();
     // Looks for the interface box and shows what was found. Not while a cut runs.
-    void RafraichirInterface();
+    void RafraichirInterface(QuestionMachine question = QuestionMachine::Posee);
 
 signals:
     // The user wants the window of the machine's parameters, or that of the materials.
@@ -197,6 +198,7 @@ private:
     void ReprendreDecoupe();
     void LancerRetour(TrajetRetour trajet);
     void AbandonnerDecoupe();
+    void OublierArret();
     void RetourAuRepos();
     void InitialiserBoutonsDecoupe(int enMarche);
     void PermettreCommandes(bool libre);

@@ -5,6 +5,7 @@
 #include "link/etat_interface.h"
 #include "link/marche.h"
 #include "link/rafraichir.h"
+#include "platform/dialogue.h"
 #include "platform/drapeau.h"
 #include "ui/alerte.h"
 #include "ui/boites_qt.h"
@@ -37,7 +38,7 @@ constexpr int MessagesEtatLiaison = 247; // the text: no interface, the title: m
 } // namespace
 
 void frmTessarel2D::RelierCourse() {
-    connect(cmdRafraichirUsbTS2D, &QToolButton::clicked, this, &frmTessarel2D::RafraichirInterface);
+    connect(cmdRafraichirUsbTS2D, &QToolButton::clicked, this, [this] { RafraichirInterface(); });
     connect(m_panneauCourse, &PanneauCourse::StopDemande, this,
             [this] { m_course.demandes.StopDemande = true; });
     connect(m_panneauCourse, &PanneauCourse::ChauffeVoulue, this, [this](double pourcent) {
@@ -50,14 +51,16 @@ void frmTessarel2D::RelierCourse() {
     MontrerLiaison();
 }
 
-void frmTessarel2D::RafraichirInterface() {
+void frmTessarel2D::RafraichirInterface(QuestionMachine question) {
     if (Occupee()) return;
     EteindreFilManuel(); // another table may come to run
     const TableMachine machine = TableINI;
+    EtatLiaison liaison;
     {
         const Drapeau occupee(m_course.enCours); // its boxes let events run
-        RafraichirUsb(TS2D);
+        liaison = RafraichirUsb(TS2D, question);
     }
+    if (liaison.Arretee || liaison.Liaison == LiaisonZelko::LaisseeEnMarche) OublierArret();
     if (MemesValeurs(TableINI, machine)) {
         MontrerLiaison();
     } else {
@@ -72,6 +75,8 @@ void frmTessarel2D::MontrerLiaison() {
     std::string etat = Texte(TexteProgramme::Fenetre2DMouvementsActifs);
     if (!InterfaceConnectee)
         etat = TextesMessages(MessagesEtatLiaison);
+    else if (MachineLaissee)
+        etat = Texte(TexteProgramme::LaisseeEnMarche);
     else if (!MouvementsActifs)
         etat = TitresMessages(MessagesEtatLiaison);
     const QKeySequence touches = cmdRafraichirUsbTS2D->shortcut();
@@ -213,6 +218,7 @@ bool frmTessarel2D::LiaisonPermetLaSuite() {
         liaison = VerifierLiaison();
     }
     MontrerLiaison();
+    if (liaison == AvantDecoupe::LaisseeEnMarche || liaison == AvantDecoupe::MachineArretee) OublierArret();
     const bool autre = !MemesValeurs(TableINI, machine); // the steps of a stop say nothing to it
     if (!autre && !m_course.fermerEnsuite && liaison != AvantDecoupe::OuvrirParametrage)
         return liaison == AvantDecoupe::Permise;
@@ -257,6 +263,19 @@ void frmTessarel2D::AbandonnerDecoupe() {
         SecourirMarche();
         delete m_alerteInterface;
         throw; // the operator may give up again
+    }
+    RetourAuRepos();
+    FermerDecoupe();
+    FermerSiDemande();
+}
+
+// Somebody else has moved the wire since the stop: the place of the stop says nothing any more. Nothing is
+// sent, for the other one may go on.
+void frmTessarel2D::OublierArret() {
+    if (!m_course.arretee) return;
+    {
+        const Drapeau occupee(m_course.enCours);
+        AfficherExclamation(Texte(TexteProgramme::ArretPerime), Texte(TexteProgramme::ArretPerimeTitre));
     }
     RetourAuRepos();
     FermerDecoupe();
