@@ -10,6 +10,7 @@
 #include <chrono>
 #include <cmath>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <ctime>
 #include <fcntl.h>
@@ -49,7 +50,7 @@ private:
 // A child and its group: killed and reaped at the end of the object's life if not before.
 class Enfant {
 public:
-    explicit Enfant(pid_t pid) : m_pid(pid) {}
+    explicit Enfant(pid_t pid) : m_pid(pid), m_attentes("/proc/" + std::to_string(pid) + "/schedstat") {}
     ~Enfant() { Recueillir(); }
     Enfant(const Enfant&) = delete;
     Enfant& operator=(const Enfant&) = delete;
@@ -67,6 +68,17 @@ public:
         if (clock_getcpuclockid(m_pid, &horloge) != 0 || clock_gettime(horloge, &t) != 0) return 0;
         return static_cast<double>(t.tv_sec) + static_cast<double>(t.tv_nsec) * 1e-9;
     }
+    // Seconds that it could have run and the processor was another's; 0 where the system does not tell.
+    [[nodiscard]] double Attendues() const {
+        const Descripteur compte(open(m_attentes.c_str(), O_RDONLY | O_CLOEXEC));
+        if (compte.Valeur() < 0) return 0;
+        std::array<char, 96> texte{}; // nanoseconds run, nanoseconds waited, turns
+        const ssize_t n = read(compte.Valeur(), texte.data(), texte.size() - 1);
+        unsigned long long couru = 0;
+        unsigned long long attendu = 0;
+        if (n <= 0 || std::sscanf(texte.data(), "%llu %llu", &couru, &attendu) != 2) return 0;
+        return static_cast<double>(attendu) * 1e-9;
+    }
     // Kills what is left of the group and gives the wait status.
     int Recueillir() {
         if (m_pid <= 0) return m_statut;
@@ -80,6 +92,7 @@ public:
 
 private:
     pid_t m_pid;
+    std::string m_attentes; // the file in which the system counts its waits
     int m_statut = 0;
 };
 
@@ -184,12 +197,18 @@ pid_t Demarrer(const std::vector<std::string>& commande, std::span<const std::st
 FinProcessus Suivre(const Enfant& enfant, int sortie, const LimitesProcessus& limites,
                     const std::function<void(std::string_view)>& recevoir) {
     using Horloge = std::chrono::steady_clock;
-    const auto fin = Horloge::now() + std::chrono::duration<double>(limites.secondes * RapportHorloge);
+    const auto debut = Horloge::now();
+    // What the child waited for a processor is not held against it.
+    const auto tropTard = [&] {
+        const double passees = std::chrono::duration<double>(Horloge::now() - debut).count();
+        const double limite = limites.secondes * RapportHorloge;
+        return passees > limite && passees - enfant.Attendues() > limite;
+    };
     std::vector<char> tampon(1U << 16U);
     std::size_t octets = 0;
     bool ouverte = true;
     while (ouverte || !enfant.Fini()) {
-        if (enfant.Secondes() > limites.secondes || Horloge::now() > fin) return FinProcessus::TempsDepasse;
+        if (enfant.Secondes() > limites.secondes || tropTard()) return FinProcessus::TempsDepasse;
         pollfd attente{ouverte ? sortie : -1, POLLIN, 0};
         // A closed output leaves only the end to wait for, which is near.
         if (poll(&attente, 1, ouverte ? PasSurveillance : 1) <= 0) continue;
@@ -212,7 +231,7 @@ std::string TrouverProgramme(const std::string& nom) {
     for (const std::string_view dossier : Decouper(chemins, ":")) {
         // A relative folder would depend on where the program was started.
         if (!dossier.starts_with('/')) continue;
-        const std::string chemin = JoindreChemin(std::string(dossier), nom);
+        std::string chemin = JoindreChemin(std::string(dossier), nom);
         if (!DossierExiste(chemin) && access(chemin.c_str(), X_OK) == 0) return chemin;
     }
     return "";

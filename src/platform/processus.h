@@ -12,7 +12,8 @@
 namespace tessarel {
 
 struct LimitesProcessus {
-    // Of the processor, which is fair on a busy machine; by the clock it is RapportHorloge times that.
+    // Of the processor, which is fair on a busy machine; by the clock, less what the program waited for a
+    // processor, it is RapportHorloge times that.
     double secondes = 1;
     std::size_t octetsSortie = 0;  // most that it may print
     std::size_t octetsMemoire = 0; // its address space

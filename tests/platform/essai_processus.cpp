@@ -2,6 +2,7 @@
 #include "platform/processus.h"
 
 #include "outils/dossiers.h"
+#include "outils/processeur.h"
 #include "platform/erreurs.h"
 #include "platform/fichiers.h"
 
@@ -12,8 +13,12 @@
 #include <csignal>
 #include <cstdlib>
 #include <functional>
+#include <sched.h>
 #include <stdexcept>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
 
 using namespace tessarel;
 
@@ -46,6 +51,37 @@ double Duree(const std::function<void()>& travail) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - debut).count();
 }
 
+// All on one processor, where others never stop counting, for as long as it lives.
+class ProcesseurOccupe {
+public:
+    explicit ProcesseurOccupe(int occupants) {
+        sched_getaffinity(0, sizeof m_avant, &m_avant);
+        int premier = 0;
+        while (!CPU_ISSET(premier, &m_avant)) ++premier;
+        cpu_set_t un;
+        CPU_ZERO(&un);
+        CPU_SET(premier, &un);
+        sched_setaffinity(0, sizeof un, &un);
+        for (int i = 0; i < occupants; ++i) {
+            const pid_t pid = fork();
+            if (pid == 0)
+                for (volatile unsigned compte = 0;;) compte = compte + 1;
+            m_occupants.push_back(pid);
+        }
+    }
+    ~ProcesseurOccupe() {
+        for (const pid_t pid : m_occupants) kill(pid, SIGKILL);
+        for (const pid_t pid : m_occupants) waitpid(pid, nullptr, 0);
+        sched_setaffinity(0, sizeof m_avant, &m_avant);
+    }
+    ProcesseurOccupe(const ProcesseurOccupe&) = delete;
+    ProcesseurOccupe& operator=(const ProcesseurOccupe&) = delete;
+
+private:
+    cpu_set_t m_avant{};
+    std::vector<pid_t> m_occupants;
+};
+
 } // namespace
 
 TEST(Processus, LEntreeArriveEtLaSortieRevient) {
@@ -72,12 +108,25 @@ TEST(Processus, UnSignalNEstPasUneFin) {
 }
 
 TEST(Processus, LaBoucleSansFinEstArretee) {
+    const double avant = essais::SecondesDesEnfants();
+    EXPECT_EQ(Executer({"/bin/sh", "-c", "while :; do :; done"}, "", Limites(0.2)).resultat.fin,
+              FinProcessus::TempsDepasse);
+    EXPECT_LT(essais::SecondesDesEnfants() - avant, 1); // by the processor: the clock is anybody's
+}
+
+// With a twentieth of a processor the work takes twenty times as long, by the clock twice what it may.
+TEST(Processus, LAttenteDuProcesseurNEstPasComptee) {
+    if (!FichierExiste("/proc/self/schedstat")) GTEST_SKIP() << "this system does not count waits";
+    const std::vector<std::string> travail = {"/bin/sh", "-c",
+                                              "i=0; while [ $i -lt 60000 ]; do i=$((i+1)); done"};
+    const double avant = essais::SecondesDesEnfants();
+    ASSERT_EQ(Executer(travail, "", Limites()).resultat.fin, FinProcessus::Terminee);
+    const double secondes = 4 * (essais::SecondesDesEnfants() - avant);
+    const ProcesseurOccupe occupe(20);
     FinProcessus fin{};
-    const double duree = Duree([&] {
-        fin = Executer({"/bin/sh", "-c", "while :; do :; done"}, "", Limites(0.2)).resultat.fin;
-    });
-    EXPECT_EQ(fin, FinProcessus::TempsDepasse);
-    EXPECT_LT(duree, 5);
+    const double duree = Duree([&] { fin = Executer(travail, "", Limites(secondes)).resultat.fin; });
+    EXPECT_EQ(fin, FinProcessus::Terminee);
+    EXPECT_GT(duree, secondes * RapportHorloge); // else nothing was tried
 }
 
 TEST(Processus, LAttenteSansFinEstArreteeParLHorloge) {
