@@ -49,7 +49,7 @@ Figure Courbe(bool english) {
     crayon.Texte({largeur + 3, -5}, english ? "speed" : "vitesse", 13, AncreTexte::Droite);
     crayon.Texte({2, hauteur + 4}, english ? "kerf" : "saignée", 13);
     std::vector<PointDessin> courbe;
-    for (double x = 4; x <= 86; x += 2) courbe.push_back({x, saignee(x)});
+    for (int x = 4; x <= 86; x += 2) courbe.push_back({double(x), saignee(x)});
     crayon.Encre(Fil, 2.5F).Ligne(courbe);
     for (const auto& [x, nom] : {std::pair{30.0, "V / 2"}, std::pair{60.0, "V"}}) {
         crayon.Encre(Trait, 1, true).Ligne({{x, 0}, {x, saignee(x)}, {0, saignee(x)}});

@@ -33,7 +33,7 @@ int TransformerProjet4axes(const Fichiers4x& fichiers, const ChangementCPX& outi
 }
 
 std::shared_ptr<Fichiers4x> AjouterFichiers4x(CLI::App& verbe) {
-    const auto fichiers = std::make_shared<Fichiers4x>();
+    auto fichiers = std::make_shared<Fichiers4x>();
     verbe.add_option("IN", fichiers->entree, Dire("Projet 4 axes à lire", "4-axis project to read"))
         ->required()
         ->type_name("");

@@ -93,7 +93,7 @@ enum class Reste { Oublie, Reporte };
 // Walks one section on both sides.
 class MarcheSection {
 public:
-    MarcheSection(Cote e, Cote s, Reste mode) : m_e(e), m_s(s), m_mode(mode) {}
+    MarcheSection(const Cote& e, const Cote& s, Reste mode) : m_e(e), m_s(s), m_mode(mode) {}
 
     // False when the section has no length on the tip, or when both sides don't end together.
     bool Parcourir() {

@@ -152,11 +152,12 @@ bool DegagerAxe(Recherche& r, std::size_t axe) {
     StatutZelko boucles;
     if (!LireBoucles(r, boucles)) return false;
     if (!boucles.OrigineOuverte) return true;
-    const double parMm = PasParMillimetre(r.table, axe, axe);
-    const double recul = (r.table.CourseX > CourseDesGrandes ? GrandRecul : PetitRecul) * parMm;
+    const double recul = r.table.CourseX > CourseDesGrandes ? GrandRecul : PetitRecul;
     Distances pas = {};
-    pas[axe] = -Sens(r.table, axe) * recul;
-    for (double faits = 0; faits <= ReculMaxi * parMm; faits += recul) {
+    pas[axe] = -Sens(r.table, axe) * recul * PasParMillimetre(r.table, axe, axe);
+    // The last one begins at ReculMaxi.
+    const std::int32_t reculs = ArrondiLong(ReculMaxi / recul) + 1;
+    for (std::int32_t faits = 0; faits < reculs; ++faits) {
         ResultatMouvement mouvement = Bouger(r, pas);
         if (!MouvementUtilisable(r, mouvement)) return false;
         const StatutZelko statut = mouvement.marche.statut;

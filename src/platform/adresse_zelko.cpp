@@ -28,7 +28,7 @@ std::string DossierZelko(bool creer) {
     const char* variable = std::getenv("XDG_RUNTIME_DIR"); // NOLINT: read before any other thread exists
     if (variable != nullptr && *variable == '/') return variable;
     const std::string utilisateur = std::to_string(::geteuid());
-    const std::string ordinaire = "/run/user/" + utilisateur;
+    std::string ordinaire = "/run/user/" + utilisateur;
     if (EstSur(ordinaire)) return ordinaire;
     const std::string dernier = "/tmp/tessarel-" + utilisateur;
     if (creer) ::mkdir(dernier.c_str(), S_IRWXU); // one that exists already is looked at all the same

@@ -77,7 +77,7 @@ std::string DossierExecutable() {
 }
 
 std::string DossierPersonnel() {
-    const std::string variable = VariableAbsolue("HOME");
+    std::string variable = VariableAbsolue("HOME");
     if (!variable.empty()) return variable;
     const struct passwd* fiche = ::getpwuid(::getuid());
     return fiche != nullptr && fiche->pw_dir != nullptr ? fiche->pw_dir : "/";
@@ -88,7 +88,7 @@ std::string DossierConfiguration() {
 }
 
 std::string DossierDocumentsUtilisateur() {
-    const std::string declare = DocumentsDeclares();
+    std::string declare = DocumentsDeclares();
     if (!declare.empty() && DossierExiste(declare)) return declare;
     const std::string usuel = JoindreChemin(DossierPersonnel(), "Documents");
     return DossierExiste(usuel) ? usuel : DossierPersonnel();

@@ -130,7 +130,7 @@ void Canevas::Cadrer(const CadreDessin& cadre) {
     ChangerVue(vue);
 }
 
-void Canevas::ChangerVue(VueDessin vue) {
+void Canevas::ChangerVue(const VueDessin& vue) {
     if (vue == m_vue) return;
     // A frame begun on a place of the drawing stays there, whatever the wheel does meanwhile.
     const PointDessin debut = EnMm(m_debutGeste);

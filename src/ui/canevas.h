@@ -96,7 +96,7 @@ private:
     enum class Geste { Aucun, Deplacement, Rectangle, ZoomRectangle };
 
     void ZoomerAutour(QPointF pixels, double facteur);
-    void ChangerVue(VueDessin vue);
+    void ChangerVue(const VueDessin& vue);
     void AbandonnerGeste();
     void Repeindre(Couche couche, const QRegion& avant);
     void RepeindreZone(const QRegion& ou);

@@ -57,7 +57,7 @@ std::string_view Programme(std::string_view texte, const std::string& chemin) {
 }
 
 std::string TrouverInterprete(const std::string& chemin) {
-    const std::string programme = TrouverProgramme(NomInterprete);
+    std::string programme = TrouverProgramme(NomInterprete);
     if (programme.empty())
         throw FauteLecture(
             chemin, 0,

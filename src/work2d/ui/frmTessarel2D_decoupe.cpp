@@ -201,7 +201,7 @@ std::string frmTessarel2D::ChoisirFichierGcodeTS2D() {
     demande.enregistrer = true;
     const FichiersChoisis choix = ChoisirFichier(demande, this);
     if (choix.Annule()) return ChoixAnnule;
-    const std::string chemin = choix.Premier();
+    std::string chemin = choix.Premier();
     if (ExtensionMinuscule(chemin) != "gcode") {
         AfficherExclamation(TextesMessages(MessagesExtensionGcode), TitresMessages(MessagesExtensionGcode));
         return "";
