@@ -1,32 +1,13 @@
 // The road of a 2D cut and its G-code, on a path as long as a cut can be.
+#include "allocations.h"
+
 #include "paths/gcode.h"
 #include "work2d/assemblage.h"
 #include "work2d/export_gcode.h"
 
 #include <benchmark/benchmark.h>
 
-#include <atomic>
 #include <cmath>
-#include <cstdlib>
-#include <new>
-
-namespace {
-std::atomic<std::size_t> allocations{0};
-}
-
-// Counted, so that the figures can tell what a line allocates; not inlined, or the compiler takes the pair
-// for a mismatch.
-[[gnu::noinline]] void* operator new(std::size_t taille) {
-    ++allocations;
-    if (void* p = std::malloc(taille)) return p;
-    throw std::bad_alloc();
-}
-[[gnu::noinline]] void operator delete(void* p) noexcept {
-    std::free(p);
-}
-[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept {
-    std::free(p);
-}
 
 using namespace tessarel;
 

@@ -1,5 +1,7 @@
 // The 4-axis cut on two profiles of up to a million points: the whole computation, what follows it, and one
 // bare pass over the same memory to hold it against.
+#include "allocations.h"
+
 #include "cut4x/controle4x.h"
 #include "cut4x/decoupe4x.h"
 #include "cut4x/export_gcode4x.h"
@@ -10,28 +12,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include <atomic>
 #include <cmath>
-#include <cstdlib>
-#include <new>
-
-namespace {
-std::atomic<std::size_t> allocations{0};
-}
-
-// Counted, so that the figures can tell what a computation allocates; not inlined, or the compiler takes the
-// pair for a mismatch.
-[[gnu::noinline]] void* operator new(std::size_t taille) {
-    ++allocations;
-    if (void* p = std::malloc(taille)) return p;
-    throw std::bad_alloc();
-}
-[[gnu::noinline]] void operator delete(void* p) noexcept {
-    std::free(p);
-}
-[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept {
-    std::free(p);
-}
 
 using namespace tessarel;
 

@@ -1,5 +1,7 @@
 // The workshop of the 2D window: a step of a drag with its repaint, what lies under the pointer, undo, and
 // the opening of the cut tab, on large projects.
+#include "bench_fenetre.h"
+
 #include "app/settings/gestion_ini.h"
 #include "app/settings/parametres.h"
 #include "machine/matieres.h"
@@ -196,9 +198,5 @@ BENCHMARK(OuvrirOngletDecoupe32000)->Unit(benchmark::kMillisecond);
 } // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return bancs::LancerSansEcran(argc, argv);
 }

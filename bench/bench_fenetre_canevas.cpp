@@ -1,4 +1,6 @@
 // Pan and zoom steps of the canvas over 100 000 points, painted into an image as the window system would.
+#include "bench_fenetre.h"
+
 #include "ui/canevas.h"
 
 #include <QApplication>
@@ -121,9 +123,5 @@ BENCHMARK(DeplacerGribouillis)->Unit(benchmark::kMillisecond);
 } // namespace
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return bancs::LancerSansEcran(argc, argv);
 }

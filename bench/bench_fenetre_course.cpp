@@ -1,5 +1,7 @@
 // A cut of 30 000 segments driven from the 2D window, offscreen: how fast it talks to a virtual box on its
 // socket beside a bare ping-pong on the same socket, and what one step of its display costs.
+#include "bench_fenetre.h"
+
 #include "app/settings/gestion_ini.h"
 #include "app/settings/parametres.h"
 #include "app/texts/textes.h"
@@ -308,9 +310,5 @@ BENCHMARK(CouperFenetreOuverte)->Arg(1000)->Iterations(1)->Unit(benchmark::kMill
 BENCHMARK(CouperFenetreCachee)->Arg(1000)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return bancs::LancerSansEcran(argc, argv);
 }

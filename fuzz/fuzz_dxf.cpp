@@ -1,10 +1,9 @@
 // Any bytes as a DXF: read, or refused with a sentence; what is read keeps the promises of the reader.
-#include "platform/erreurs.h"
-#include "platform/gabar/assemblage.h"
-#include "platform/gabar/lecture.h"
-#include "platform/nombres.h"
+#include "promesses.h"
 
-#include <cmath>
+#include "platform/erreurs.h"
+#include "platform/gabar/lecture.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -20,12 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     } catch (const FauteLecture&) {
         return 0;
     }
-    if (points.empty() || rapport.lus.empty()) std::abort();
-    for (const PointSimple& p : points)
-        if (!(std::abs(p.X) <= EnSimple(CoordonneeMax) && std::abs(p.Y) <= EnSimple(CoordonneeMax)))
-            std::abort();
-    const bool plusieurs = points.front().CodeSequence != points.back().CodeSequence;
-    if (plusieurs && points.front().CodeSequence < points.back().CodeSequence) std::abort();
+    fuzz::VerifierDessin(points, rapport);
     // What was read can be written and read again.
     std::vector<PointSimple> relus;
     RapportLecture second;

@@ -1,11 +1,10 @@
 // Any bytes as a plotter file: read, or refused with a sentence; what is read keeps the promises of the
 // reader.
-#include "platform/erreurs.h"
-#include "platform/gabar/assemblage.h"
-#include "platform/gabar/lecture.h"
-#include "platform/nombres.h"
+#include "promesses.h"
 
-#include <cmath>
+#include "platform/erreurs.h"
+#include "platform/gabar/lecture.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -21,17 +20,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     } catch (const FauteLecture&) {
         return 0;
     }
-    if (points.empty() || rapport.lus.empty()) std::abort();
-    for (const PointSimple& p : points)
-        if (!(std::abs(p.X) <= EnSimple(CoordonneeMax) && std::abs(p.Y) <= EnSimple(CoordonneeMax)))
-            std::abort();
-    // No polyline of a single point, and the codes in their order.
+    fuzz::VerifierDessin(points, rapport);
+    // No polyline of a single point.
     for (std::size_t i = 0; i < points.size(); ++i) {
         const bool debut = i == 0 || points[i - 1].CodeSequence != points[i].CodeSequence;
         const bool fin = i + 1 == points.size() || points[i + 1].CodeSequence != points[i].CodeSequence;
         if (debut && fin) std::abort();
     }
-    const bool plusieurs = points.front().CodeSequence != points.back().CodeSequence;
-    if (plusieurs && points.front().CodeSequence < points.back().CodeSequence) std::abort();
     return 0;
 }

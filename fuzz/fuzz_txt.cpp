@@ -1,8 +1,8 @@
 // Any bytes as a file of coordinates: read, or refused with a sentence; what is read survives the flat array.
-#include "paths/import.h"
+#include "promesses.h"
+
 #include "platform/erreurs.h"
 
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -19,8 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* octets, std::size_t ta
     }
     for (const Sequence& s : sequences) {
         if (s.Points.empty()) std::abort();
-        for (const PointProfil& p : s.Points)
-            if (!std::isfinite(p.X) || !std::isfinite(p.Y)) std::abort();
+        fuzz::VerifierPoints(s);
     }
     const auto retour = CreerSequencesDepuisPoints(PointsDepuisSequences(sequences), "tsr", 0.02F);
     if (retour.size() != sequences.size()) std::abort();

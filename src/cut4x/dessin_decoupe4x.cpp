@@ -4,6 +4,7 @@
 
 #include "app/texts/textes_programme.h"
 #include "platform/nombres.h"
+#include "platform/tracer_dessin.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -54,25 +55,11 @@ double Unite(const TableMachine& table, const EtendueVue& vue) {
     return std::max({vue.X, vue.Y, double{table.EcartementY1Y2}, 1.0});
 }
 
-void OuvrirTrait(Dessin& dessin, Couleur couleur, float epaisseur, GenreTrait genre = GenreTrait::Ligne) {
-    TraitDessin trait;
-    trait.premier = static_cast<std::uint32_t>(dessin.points.size());
-    trait.couleur = couleur;
-    trait.epaisseur = epaisseur;
-    trait.genre = genre;
-    dessin.traits.push_back(trait);
-}
-
-void AjouterPoint(Dessin& dessin, double x, double y) {
-    dessin.points.push_back({x, y});
-    ++dessin.traits.back().nombre;
-}
-
 void AjouterContour(Dessin& dessin, std::initializer_list<PointDessin> coins, Couleur couleur,
                     float epaisseur) {
-    OuvrirTrait(dessin, couleur, epaisseur, epaisseur == 0 ? GenreTrait::Surface : GenreTrait::Ligne);
-    for (const PointDessin& coin : coins) AjouterPoint(dessin, coin.X, coin.Y);
-    AjouterPoint(dessin, coins.begin()->X, coins.begin()->Y);
+    OuvrirTrait(dessin, couleur, epaisseur, false, epaisseur == 0 ? GenreTrait::Surface : GenreTrait::Ligne);
+    for (const PointDessin& coin : coins) AjouterPoint(dessin, coin);
+    AjouterPoint(dessin, *coins.begin());
 }
 
 void AjouterRectangle(Dessin& dessin, const CadreDessin& r, Couleur couleur, float epaisseur) {
@@ -80,36 +67,10 @@ void AjouterRectangle(Dessin& dessin, const CadreDessin& r, Couleur couleur, flo
                    epaisseur);
 }
 
-void AjouterLigne(Dessin& dessin, PointDessin a, PointDessin b, Couleur couleur, float epaisseur) {
-    OuvrirTrait(dessin, couleur, epaisseur);
-    AjouterPoint(dessin, a.X, a.Y);
-    AjouterPoint(dessin, b.X, b.Y);
-}
-
-void AjouterMarque(Dessin& dessin, GenreMarque genre, PointDessin ou, float taille, Couleur couleur) {
-    MarqueDessin marque;
-    marque.ou = ou;
-    marque.genre = genre;
-    marque.taille = taille;
-    marque.couleur = couleur;
-    dessin.marques.push_back(marque);
-}
-
-void AjouterTexte(Dessin& dessin, PointDessin ou, std::string texte, Couleur couleur, float taille,
-                  AncreTexte ancre) {
-    TexteDessin t;
-    t.ou = ou;
-    t.texte = std::move(texte);
-    t.taille = taille;
-    t.couleur = couleur;
-    t.ancre = ancre;
-    dessin.textes.push_back(std::move(t));
-}
-
 void AjouterChemin(Dessin& dessin, std::span<const PointProfil> points, Couleur couleur, float epaisseur) {
     if (points.empty()) return;
     OuvrirTrait(dessin, couleur, epaisseur);
-    for (const PointProfil& p : points) AjouterPoint(dessin, p.X, p.Y);
+    for (const PointProfil& p : points) AjouterPoint(dessin, {p.X, p.Y});
 }
 
 // The travel of the machine as far as the view shows it: an end beyond it is left open.
@@ -213,14 +174,14 @@ void NommerPlan(Dessin& dessin, const Plan& plan, const TableMachine& table, con
     const double dessous = -0.03 * u;
     const double fin = table.EcartementY1Y2;
     AjouterTexte(dessin, plan.Lieu(fin / 2, dessus), Texte(TexteProgramme::Apercu4xPlan), palette.texte,
-                 TailleTitre, AncreTexte::Centre);
+                 AncreTexte::Centre, TailleTitre);
     AjouterTexte(dessin, plan.Lieu(0, dessous), Texte(TexteProgramme::Apercu4xChariot1), palette.texte,
-                 TailleLibelle, AncreTexte::Centre);
+                 AncreTexte::Centre, TailleLibelle);
     AjouterTexte(dessin, plan.Lieu(fin, dessous), Texte(TexteProgramme::Apercu4xChariot2), palette.texte,
-                 TailleLibelle, AncreTexte::Centre);
+                 AncreTexte::Centre, TailleLibelle);
     AjouterTexte(dessin, plan.Lieu(fin / 2, dessous),
-                 FormaterNombre(table.EcartementY1Y2, MasqueMesure) + " mm", palette.texte, TailleLibelle,
-                 AncreTexte::Centre);
+                 FormaterNombre(table.EcartementY1Y2, MasqueMesure) + " mm", palette.texte,
+                 AncreTexte::Centre, TailleLibelle);
 }
 
 // Lowest place of the wire, parking included.
@@ -271,15 +232,15 @@ void DessinerVueDeCote(Dessin& dessin, const ContexteD4X& contexte, const Decoup
     DessinerFautes(dessin, ConstaterDecoupeD4X(contexte, decoupe), decoupe);
     const double dessous = std::min(0.0, BasDuTrajet(decoupe)) - 0.035 * u;
     AjouterTexte(dessin, {vue.X / 2, vue.Y + 0.02 * u}, Texte(TexteProgramme::Apercu4xCote), palette.texte,
-                 TailleTitre, AncreTexte::Centre);
-    AjouterTexte(dessin, {0, dessous}, Texte(TexteProgramme::Apercu4xSaumon), CouleurSaumon, TailleLibelle,
-                 AncreTexte::Gauche);
+                 AncreTexte::Centre, TailleTitre);
+    AjouterTexte(dessin, {0, dessous}, Texte(TexteProgramme::Apercu4xSaumon), CouleurSaumon,
+                 AncreTexte::Gauche, TailleLibelle);
     AjouterTexte(dessin, {vue.X, dessous}, Texte(TexteProgramme::Apercu4xEmplanture), CouleurEmplanture,
-                 TailleLibelle, AncreTexte::Droite);
+                 AncreTexte::Droite, TailleLibelle);
     AjouterTexte(dessin, {vue.X / 2, dessous - 0.035 * u},
                  FormaterNombre(double(table.CourseX), MasqueMesure) + " x " +
                      FormaterNombre(double(table.CourseY), MasqueMesure) + " mm",
-                 palette.texte, TailleLibelle, AncreTexte::Centre);
+                 palette.texte, AncreTexte::Centre, TailleLibelle);
 }
 
 void DessinerPlan(Dessin& dessin, const ContexteD4X& contexte, const DecoupeD4X& decoupe, PointDessin origine,

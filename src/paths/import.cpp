@@ -85,9 +85,9 @@ std::size_t Alleger(Sequence& sequence, float distNettoyage) {
     return avant - simples.size();
 }
 
-// X and Y of a coordinate line; nothing when it has no such two fields.
-bool LireCoordonnees(std::string_view ligne, PointProfil& point) {
-    const auto champs = Decouper(ligne, ":");
+} // namespace
+
+bool LireXY(const std::vector<std::string_view>& champs, PointProfil& point) {
     if (champs.size() < 2) return false;
     const auto x = LireDecimal(champs[0]);
     const auto y = LireDecimal(champs[1]);
@@ -96,8 +96,6 @@ bool LireCoordonnees(std::string_view ligne, PointProfil& point) {
     point.Y = *y;
     return true;
 }
-
-} // namespace
 
 const std::vector<std::string>& ExtensionsConnues() {
     static const std::vector<std::string> extensions = {"tsr", "qnt", "dxf", "txt", "dat",
@@ -156,7 +154,7 @@ std::vector<Sequence> SequencesDepuisTexte(std::string_view texte, const std::st
             continue;
         }
         PointProfil point;
-        if (!LireCoordonnees(ligne, point))
+        if (!LireXY(Decouper(ligne, ":"), point))
             throw FauteLecture(chemin, numero, Texte(TexteProgramme::LectureCoordonneesAttendues));
         if (std::abs(point.X) > CoordonneeMax || std::abs(point.Y) > CoordonneeMax)
             throw FauteLecture(chemin, numero,

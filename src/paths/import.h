@@ -31,6 +31,9 @@ std::vector<Sequence> CreerSequencesDepuisPoints(const std::vector<PointSimple>&
                                                  const std::string& extension, float distNettoyage,
                                                  std::size_t* pointsRetires = nullptr);
 
+// X and Y from the first two fields of a line; false where there are no two numbers.
+bool LireXY(const std::vector<std::string_view>& champs, PointProfil& point);
+
 // Coordinates file .txt: X colon Y on a line, any line that does not begin like a number opens a new path.
 // FauteLecture with the line where a line of coordinates is none.
 std::vector<Sequence> LireCoordonneesTexte(const std::string& chemin);

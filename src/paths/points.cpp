@@ -30,7 +30,10 @@ Sequence BornesDesPoints(std::span<const PointProfil> points) {
 }
 
 void CalculerBornesSequence(Sequence& sequence) {
-    const Sequence bornes = BornesDesPoints(sequence.Points);
+    CopierBornes(BornesDesPoints(sequence.Points), sequence);
+}
+
+void CopierBornes(const Sequence& bornes, Sequence& sequence) {
     sequence.XMin = bornes.XMin;
     sequence.XMax = bornes.XMax;
     sequence.YMin = bornes.YMin;

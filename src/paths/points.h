@@ -51,6 +51,8 @@ inline constexpr std::size_t PointsMaxDecoupe = 32767;
 // rounded to 32 bits, and what is stored comes from the unrounded value. A sequence without points gets a box
 // of zeros.
 void CalculerBornesSequence(Sequence& sequence);
+// The box of one sequence given to another, points left as they are.
+void CopierBornes(const Sequence& bornes, Sequence& sequence);
 
 // Reverses the vertices in place; every field travels with its vertex.
 void InverserSequence(Sequence& sequence);

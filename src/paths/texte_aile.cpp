@@ -108,14 +108,7 @@ bool OuvrirSection(Lecteur& l, std::string_view ligne) {
 bool LirePointAile(std::string_view ligne, PointProfil& point) {
     if (const std::size_t egal = ligne.find('='); egal != std::string_view::npos)
         ligne.remove_prefix(egal + 1);
-    const auto champs = Decouper(ligne, ligne.find(';') != std::string_view::npos ? ";" : ":");
-    if (champs.size() < 2) return false;
-    const auto x = LireDecimal(champs[0]);
-    const auto y = LireDecimal(champs[1]);
-    if (!x || !y) return false;
-    point.X = *x;
-    point.Y = *y;
-    return true;
+    return LireXY(Decouper(ligne, ligne.find(';') != std::string_view::npos ? ";" : ":"), point);
 }
 
 void AjouterPointAile(Lecteur& l, std::string_view ligne) {

@@ -11,7 +11,18 @@ namespace {
 ReponseBoite RepondreSurErreurStandard(const Boite& boite) {
     const std::string ligne = BoiteEnUneLigne(boite) + "\n";
     std::fputs(ligne.c_str(), stderr);
-    switch (boite.boutons) {
+    return ReponseSansPersonne(boite.boutons);
+}
+
+AfficheurBoite& AfficheurCourant() {
+    static AfficheurBoite afficheur = RepondreSurErreurStandard;
+    return afficheur;
+}
+
+} // namespace
+
+ReponseBoite ReponseSansPersonne(BoutonsBoite boutons) {
+    switch (boutons) {
     case BoutonsBoite::Ok:
         return ReponseBoite::Ok;
     case BoutonsBoite::OuiNon:
@@ -22,13 +33,6 @@ ReponseBoite RepondreSurErreurStandard(const Boite& boite) {
     }
     return ReponseBoite::Annuler;
 }
-
-AfficheurBoite& AfficheurCourant() {
-    static AfficheurBoite afficheur = RepondreSurErreurStandard;
-    return afficheur;
-}
-
-} // namespace
 
 AfficheurBoite InstallerAfficheurBoite(AfficheurBoite afficheur) {
     if (!afficheur) afficheur = RepondreSurErreurStandard;

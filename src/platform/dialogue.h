@@ -23,8 +23,11 @@ struct Boite {
 using AfficheurBoite = std::function<ReponseBoite(const Boite&)>;
 
 // Replaces the one who shows boxes; returns the one replaced. An empty function restores the default, which
-// writes "title: text" on standard error and answers No, or Cancel, or Ok where there is no choice.
+// writes "title: text" on standard error and answers by ReponseSansPersonne.
 AfficheurBoite InstallerAfficheurBoite(AfficheurBoite afficheur);
+
+// What a box answers where nobody is there to choose: No, or Cancel, or Ok where there is no choice.
+ReponseBoite ReponseSansPersonne(BoutonsBoite boutons);
 
 // Shows a box and waits for its answer, which is always one that the buttons offer.
 ReponseBoite AfficherBoite(const Boite& boite);

@@ -1,6 +1,7 @@
 // Draws what the workshop lays over the paths.
 #include "work2d/dessin_outils.h"
 
+#include "platform/tracer_dessin.h"
 #include "work2d/transformations.h"
 
 #include <algorithm>
@@ -23,41 +24,12 @@ constexpr float EpaisseurOmbre = 5;
 constexpr Couleur BoiteClaire = {40, 90, 190};
 constexpr Couleur BoiteSombre = {140, 180, 255};
 
-void Ouvrir(Dessin& dessin, Couleur couleur, float epaisseur, bool tirets = false) {
-    TraitDessin trait;
-    trait.premier = static_cast<std::uint32_t>(dessin.points.size());
-    trait.couleur = couleur;
-    trait.epaisseur = epaisseur;
-    trait.tirets = tirets;
-    dessin.traits.push_back(trait);
-}
-
-void Ajouter(Dessin& dessin, PointDessin p) {
-    dessin.points.push_back(p);
-    ++dessin.traits.back().nombre;
-}
-
-void Marquer(Dessin& dessin, GenreMarque genre, PointDessin ou, float taille, Couleur couleur) {
-    MarqueDessin marque;
-    marque.ou = ou;
-    marque.genre = genre;
-    marque.taille = taille;
-    marque.couleur = couleur;
-    dessin.marques.push_back(marque);
-}
-
 PointDessin Par(const MatriceDessin& m, PointDessin p) {
     return {m.xx * p.X + m.xy * p.Y + m.dx, m.yx * p.X + m.yy * p.Y + m.dy};
 }
 
 PointDessin Lieu(const PointProfil& p) {
     return {p.X, p.Y};
-}
-
-void Segment(Dessin& dessin, PointDessin a, PointDessin b, Couleur couleur, float epaisseur) {
-    Ouvrir(dessin, couleur, epaisseur);
-    Ajouter(dessin, a);
-    Ajouter(dessin, b);
 }
 
 } // namespace
@@ -67,22 +39,22 @@ void DessinerBoite(Dessin& dessin, const Sequence& BoiteSelection, double echell
     if (BoiteSelection.Selection == 0) return;
     const Couleur trait = options.sombre ? BoiteSombre : BoiteClaire;
     const Sequence boite = BoiteAffichee(BoiteSelection, echelle);
-    Ouvrir(dessin, survol.zone == ZoneBoite::Rotation ? CouleurSurvol : trait, EpaisseurFine, true);
+    OuvrirTrait(dessin, survol.zone == ZoneBoite::Rotation ? CouleurSurvol : trait, EpaisseurFine, true);
     for (const std::string_view coin : {"BG", "HG", "HD", "BD", "BG"})
-        Ajouter(dessin, Par(matrice, PlacePoignee(boite, coin)));
-    Marquer(dessin, GenreMarque::Croix, Par(matrice, MilieuBoite(BoiteSelection)), TailleCroix, trait);
+        AjouterPoint(dessin, Par(matrice, PlacePoignee(boite, coin)));
+    AjouterMarque(dessin, GenreMarque::Croix, Par(matrice, MilieuBoite(BoiteSelection)), TailleCroix, trait);
     for (const std::string_view nom : PoigneesMontrees(BoiteSelection, echelle)) {
         const bool survolee = survol.zone == ZoneBoite::Poignee && survol.HandleCourant == nom;
-        Marquer(dessin, GenreMarque::Poignee, Par(matrice, PlacePoignee(boite, nom)),
-                survolee ? TaillePoigneeSurvolee : TaillePoignee, survolee ? CouleurSurvol : trait);
+        AjouterMarque(dessin, GenreMarque::Poignee, Par(matrice, PlacePoignee(boite, nom)),
+                      survolee ? TaillePoigneeSurvolee : TaillePoignee, survolee ? CouleurSurvol : trait);
     }
 }
 
 void DessinerTraceSurvole(Dessin& dessin, const Sequence& sequence) {
     if (sequence.Points.empty()) return;
-    Ouvrir(dessin, CouleurSurvol, EpaisseurFine);
+    OuvrirTrait(dessin, CouleurSurvol, EpaisseurFine);
     dessin.points.reserve(dessin.points.size() + sequence.Points.size());
-    for (const PointProfil& p : sequence.Points) Ajouter(dessin, Lieu(p));
+    for (const PointProfil& p : sequence.Points) AjouterPoint(dessin, Lieu(p));
 }
 
 void DessinerSegmentSurvole(Dessin& dessin, const Sequence& sequence, std::size_t segment,
@@ -90,14 +62,15 @@ void DessinerSegmentSurvole(Dessin& dessin, const Sequence& sequence, std::size_
     if (segment >= sequence.Points.size()) return;
     const PointDessin a = Lieu(sequence.Points[segment]);
     const PointDessin b = Lieu(sequence.Points[std::min(segment + 1, sequence.Points.size() - 1)]);
-    Segment(dessin, a, b, CouleurSurvol, EpaisseurSurvol);
+    AjouterLigne(dessin, a, b, CouleurSurvol, EpaisseurSurvol);
     const std::string_view coin = CoinSegment(a, b, souris);
-    Marquer(dessin, GenreMarque::Poignee, coin == CoinSegment(a, b, a) ? a : b, TaillePoignee, CouleurSurvol);
+    AjouterMarque(dessin, GenreMarque::Poignee, coin == CoinSegment(a, b, a) ? a : b, TaillePoignee,
+                  CouleurSurvol);
 }
 
 void DessinerPointVise(Dessin& dessin, PointDessin ou) {
-    Marquer(dessin, GenreMarque::Croix, ou, 2 * TailleVise, CouleurSurvol);
-    Marquer(dessin, GenreMarque::PremierPoint, ou, TailleVise, CouleurSurvol);
+    AjouterMarque(dessin, GenreMarque::Croix, ou, 2 * TailleVise, CouleurSurvol);
+    AjouterMarque(dessin, GenreMarque::PremierPoint, ou, TailleVise, CouleurSurvol);
 }
 
 void DessinerFilm(Dessin& dessin, const Film2D& film, const PlaceFil& place) {
@@ -105,34 +78,35 @@ void DessinerFilm(Dessin& dessin, const Film2D& film, const PlaceFil& place) {
     if (points.empty()) return;
     const std::size_t dernier = std::min(place.point, points.size() - 1);
     const PointDessin fil{place.X, place.Y};
-    Ouvrir(dessin, CouleurDejaCoupe, EpaisseurDejaCoupe);
-    for (std::size_t i = 0; i <= dernier; ++i) Ajouter(dessin, Lieu(points[i]));
-    Ajouter(dessin, fil);
+    OuvrirTrait(dessin, CouleurDejaCoupe, EpaisseurDejaCoupe);
+    for (std::size_t i = 0; i <= dernier; ++i) AjouterPoint(dessin, Lieu(points[i]));
+    AjouterPoint(dessin, fil);
     if (dernier + 1 < points.size()) {
         const PointDessin a = Lieu(points[dernier]);
         const PointDessin b = Lieu(points[dernier + 1]);
-        Segment(dessin, a, b, CouleurOmbre, EpaisseurOmbre);
-        Segment(dessin, a, b, CouleurSegmentCoupe, EpaisseurSegmentCoupe);
+        AjouterLigne(dessin, a, b, CouleurOmbre, EpaisseurOmbre);
+        AjouterLigne(dessin, a, b, CouleurSegmentCoupe, EpaisseurSegmentCoupe);
     }
     // A ring: the segment under way is seldom longer than the wire's mark is wide, and shows through it.
-    Marquer(dessin, GenreMarque::PremierPoint, fil, TailleFil, CouleurDejaCoupe);
+    AjouterMarque(dessin, GenreMarque::PremierPoint, fil, TailleFil, CouleurDejaCoupe);
 }
 
 void DessinerDejaCoupe(Dessin& dessin, std::span<const PointDessin> points) {
-    Ouvrir(dessin, CouleurDejaCoupe, EpaisseurFine);
-    for (const PointDessin& p : points) Ajouter(dessin, p);
+    OuvrirTrait(dessin, CouleurDejaCoupe, EpaisseurFine);
+    for (const PointDessin& p : points) AjouterPoint(dessin, p);
 }
 
 void DessinerSegmentEnCours(Dessin& dessin, PointDessin debut, PointDessin fil) {
-    Segment(dessin, debut, fil, CouleurOmbre, EpaisseurOmbre);
-    Segment(dessin, debut, fil, CouleurSegmentCoupe, EpaisseurSegmentCoupe);
-    Marquer(dessin, GenreMarque::PremierPoint, fil, TailleFil, CouleurDejaCoupe); // a ring, as in the film
+    AjouterLigne(dessin, debut, fil, CouleurOmbre, EpaisseurOmbre);
+    AjouterLigne(dessin, debut, fil, CouleurSegmentCoupe, EpaisseurSegmentCoupe);
+    // A ring, as in the film.
+    AjouterMarque(dessin, GenreMarque::PremierPoint, fil, TailleFil, CouleurDejaCoupe);
 }
 
 void DessinerTrajetRetour(Dessin& dessin, std::span<const PointDessin> points) {
     if (points.size() < 2) return;
-    Ouvrir(dessin, CouleurDejaCoupe, EpaisseurFine, true);
-    for (const PointDessin& p : points) Ajouter(dessin, p);
+    OuvrirTrait(dessin, CouleurDejaCoupe, EpaisseurFine, true);
+    for (const PointDessin& p : points) AjouterPoint(dessin, p);
 }
 
 } // namespace tessarel

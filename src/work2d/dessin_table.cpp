@@ -2,6 +2,7 @@
 #include "work2d/dessin_table.h"
 
 #include "platform/nombres.h"
+#include "platform/tracer_dessin.h"
 #include "work2d/depassements.h"
 
 #include <algorithm>
@@ -37,56 +38,18 @@ const PaletteTable& PaletteDe(const OptionsDessin& options) {
     return PaletteDuFond(options.sombre);
 }
 
-void OuvrirTrait(Dessin& dessin, Couleur couleur, float epaisseur, bool tirets = false) {
-    TraitDessin trait;
-    trait.premier = static_cast<std::uint32_t>(dessin.points.size());
-    trait.couleur = couleur;
-    trait.epaisseur = epaisseur;
-    trait.tirets = tirets;
-    dessin.traits.push_back(trait);
-}
-
-void AjouterPoint(Dessin& dessin, double x, double y) {
-    dessin.points.push_back({x, y});
-    ++dessin.traits.back().nombre;
-}
-
-void AjouterLigne(Dessin& dessin, double x0, double y0, double x1, double y1, Couleur couleur) {
-    OuvrirTrait(dessin, couleur, EpaisseurNormale);
-    AjouterPoint(dessin, x0, y0);
-    AjouterPoint(dessin, x1, y1);
-}
-
 void AjouterRectangle(Dessin& dessin, const CadreDessin& r, Couleur couleur, float epaisseur, bool tirets) {
     OuvrirTrait(dessin, couleur, epaisseur, tirets);
-    AjouterPoint(dessin, r.XMin, r.YMin);
-    AjouterPoint(dessin, r.XMin, r.YMax);
-    AjouterPoint(dessin, r.XMax, r.YMax);
-    AjouterPoint(dessin, r.XMax, r.YMin);
-    AjouterPoint(dessin, r.XMin, r.YMin);
+    AjouterPoint(dessin, {r.XMin, r.YMin});
+    AjouterPoint(dessin, {r.XMin, r.YMax});
+    AjouterPoint(dessin, {r.XMax, r.YMax});
+    AjouterPoint(dessin, {r.XMax, r.YMin});
+    AjouterPoint(dessin, {r.XMin, r.YMin});
 }
 
 void AjouterSurface(Dessin& dessin, const CadreDessin& r, Couleur couleur) {
     AjouterRectangle(dessin, r, couleur, 0, false);
     dessin.traits.back().genre = GenreTrait::Surface;
-}
-
-void AjouterMarque(Dessin& dessin, GenreMarque genre, double x, double y, float taille, Couleur couleur) {
-    MarqueDessin marque;
-    marque.ou = {x, y};
-    marque.genre = genre;
-    marque.taille = taille;
-    marque.couleur = couleur;
-    dessin.marques.push_back(marque);
-}
-
-void AjouterTexte(Dessin& dessin, double x, double y, std::string texte, Couleur couleur, AncreTexte ancre) {
-    TexteDessin t;
-    t.ou = {x, y};
-    t.texte = std::move(texte);
-    t.couleur = couleur;
-    t.ancre = ancre;
-    dessin.textes.push_back(std::move(t));
 }
 
 double Unite(const TableMachine& table) {
@@ -105,11 +68,11 @@ void DessinerRegle(Dessin& dessin, double course, double unite, double reculText
     for (int i = 0; i <= nombre; ++i) {
         const PointDessin a = placer(i * fin, 0.0);
         const PointDessin b = placer(i * fin, (principale(i) ? TraitLong : TraitCourt) * unite);
-        AjouterLigne(dessin, a.X, a.Y, b.X, b.Y, palette.regle);
+        AjouterLigne(dessin, a, b, palette.regle, EpaisseurNormale);
     }
     for (int i = 0; i <= nombre; i += SousGraduations) {
         const PointDessin t = placer(i * fin, reculTexte);
-        AjouterTexte(dessin, t.X, t.Y, FormaterNombre(i * fin, MasqueRegle), palette.texte, ancre);
+        AjouterTexte(dessin, t, FormaterNombre(i * fin, MasqueRegle), palette.texte, ancre);
     }
 }
 
@@ -129,7 +92,7 @@ void AjouterFleches(Dessin& dessin, std::span<const PointProfil> points, int nom
             const double t = l > 0 ? (total * (suivante + 0.5) / nombre - parcouru) / l : 0;
             const double dx = points[i + 1].X - points[i].X;
             const double dy = points[i + 1].Y - points[i].Y;
-            AjouterMarque(dessin, GenreMarque::Fleche, points[i].X + dx * t, points[i].Y + dy * t,
+            AjouterMarque(dessin, GenreMarque::Fleche, {points[i].X + dx * t, points[i].Y + dy * t},
                           TailleFleche, couleur);
             dessin.marques.back().angle = std::atan2(dy, dx);
             ++suivante;
@@ -140,14 +103,14 @@ void AjouterFleches(Dessin& dessin, std::span<const PointProfil> points, int nom
 
 void AjouterPoints(Dessin& dessin, std::span<const PointProfil> points, Couleur couleur) {
     for (const PointProfil& p : points)
-        AjouterMarque(dessin, GenreMarque::Point, p.X, p.Y, TaillePoint, couleur);
+        AjouterMarque(dessin, GenreMarque::Point, {p.X, p.Y}, TaillePoint, couleur);
 }
 
 void AjouterPolyligne(Dessin& dessin, std::span<const PointProfil> points, Couleur couleur, float epaisseur,
                       bool tirets) {
     if (points.empty()) return;
     OuvrirTrait(dessin, couleur, epaisseur, tirets);
-    for (const PointProfil& p : points) AjouterPoint(dessin, p.X, p.Y);
+    for (const PointProfil& p : points) AjouterPoint(dessin, {p.X, p.Y});
 }
 
 // Segments of one part of the cut; runs of the same thickness are one stroke.
@@ -155,9 +118,9 @@ void DessinerPartie(Dessin& dessin, std::span<const PointProfil> points, Couleur
     for (std::size_t i = 0; i + 1 < points.size(); ++i) {
         if (i == 0 || points[i].Rapide != points[i - 1].Rapide) {
             OuvrirTrait(dessin, couleur, points[i].Rapide ? EpaisseurRapide : EpaisseurNormale);
-            AjouterPoint(dessin, points[i].X, points[i].Y);
+            AjouterPoint(dessin, {points[i].X, points[i].Y});
         }
-        AjouterPoint(dessin, points[i + 1].X, points[i + 1].Y);
+        AjouterPoint(dessin, {points[i + 1].X, points[i + 1].Y});
     }
 }
 
@@ -175,10 +138,10 @@ void DessinerAxe(Dessin& dessin, PointDessin bout, double dx, double dy, double 
                  const PaletteTable& palette) {
     const double x = bout.X + dx * BoutAxe * unite;
     const double y = bout.Y + dy * BoutAxe * unite;
-    AjouterLigne(dessin, bout.X, bout.Y, x, y, palette.regle);
-    AjouterMarque(dessin, GenreMarque::Fleche, x, y, TailleFleche, palette.regle);
+    AjouterLigne(dessin, bout, {x, y}, palette.regle, EpaisseurNormale);
+    AjouterMarque(dessin, GenreMarque::Fleche, {x, y}, TailleFleche, palette.regle);
     dessin.marques.back().angle = std::atan2(dy, dx);
-    AjouterTexte(dessin, bout.X + dx * NomAxe * unite, bout.Y + dy * NomAxe * unite, nom, palette.texte,
+    AjouterTexte(dessin, {bout.X + dx * NomAxe * unite, bout.Y + dy * NomAxe * unite}, nom, palette.texte,
                  AncreTexte::Centre);
 }
 
@@ -234,7 +197,7 @@ void DessinerTable(Dessin& dessin, const TableMachine& table, const Bloc& bloc,
     if (marges && utile.XMin < utile.XMax && utile.YMin < utile.YMax)
         AjouterRectangle(dessin, utile, palette.bordBloc, EpaisseurNormale, true);
     AjouterRectangle(dessin, plateau, palette.bordTable, EpaisseurRapide, false);
-    AjouterMarque(dessin, GenreMarque::Point, 0, table.OrigineEnHaut ? courseY : 0, 2 * TaillePoint,
+    AjouterMarque(dessin, GenreMarque::Point, {0, table.OrigineEnHaut ? courseY : 0}, 2 * TaillePoint,
                   palette.bordTable);
 
     const double u = Unite(table);
@@ -260,7 +223,7 @@ void DessinerSequences(Dessin& dessin, std::span<const Sequence> sequences, cons
         AjouterPolyligne(dessin, sequence.Points, couleur, EpaisseurNormale, false);
         AjouterFleches(dessin, sequence.Points, options.voirSens ? FlechesDuSens : 1, couleur);
         const PointProfil& premier = sequence.Points.front();
-        AjouterMarque(dessin, GenreMarque::PremierPoint, premier.X, premier.Y, TaillePremierPoint, couleur);
+        AjouterMarque(dessin, GenreMarque::PremierPoint, {premier.X, premier.Y}, TaillePremierPoint, couleur);
         if (options.voirPoints) AjouterPoints(dessin, sequence.Points, couleur);
     }
 }
@@ -288,8 +251,8 @@ void DessinerDecoupe(Dessin& dessin, const Decoupe2D& decoupe, const OptionsDess
     AjouterFleches(dessin, avant, 1, entrer);
     AjouterFleches(dessin, milieu, FlechesDuChemin, couper);
     AjouterFleches(dessin, apres, 1, sortir);
-    AjouterMarque(dessin, GenreMarque::PremierPoint, points[contact].X, points[contact].Y, TaillePremierPoint,
-                  couper);
+    AjouterMarque(dessin, GenreMarque::PremierPoint, {points[contact].X, points[contact].Y},
+                  TaillePremierPoint, couper);
     if (options.voirPoints) AjouterPoints(dessin, milieu, couper);
 }
 

@@ -255,15 +255,6 @@ bool MemesBornes(const Sequence& a, const Sequence& b) {
            meme(a.Largeur, b.Largeur) && meme(a.Hauteur, b.Hauteur);
 }
 
-void FixerBornes(Sequence& sequence, const Sequence& bornes) {
-    sequence.XMin = bornes.XMin;
-    sequence.XMax = bornes.XMax;
-    sequence.YMin = bornes.YMin;
-    sequence.YMax = bornes.YMax;
-    sequence.Largeur = bornes.Largeur;
-    sequence.Hauteur = bornes.Hauteur;
-}
-
 // Boxes that giving back would not find again by itself.
 std::shared_ptr<const std::vector<Sequence>> PrendreBornes(std::span<const Sequence> sequences) {
     const bool calculees = std::all_of(sequences.begin(), sequences.end(), [](const Sequence& s) {
@@ -271,7 +262,7 @@ std::shared_ptr<const std::vector<Sequence>> PrendreBornes(std::span<const Seque
     });
     if (calculees) return nullptr;
     std::vector<Sequence> bornes(sequences.size());
-    for (std::size_t i = 0; i < sequences.size(); ++i) FixerBornes(bornes[i], sequences[i]);
+    for (std::size_t i = 0; i < sequences.size(); ++i) CopierBornes(sequences[i], bornes[i]);
     return std::make_shared<const std::vector<Sequence>>(std::move(bornes));
 }
 
@@ -363,7 +354,7 @@ void RendreEtat(const EtatTransformations& etat, std::vector<Sequence>& sequence
             points.insert(points.end(), lus.begin(), lus.end());
             place += lus.size();
         }
-        FixerBornes(sequences[i], etat.bornes ? (*etat.bornes)[i] : BornesDesPoints(points));
+        CopierBornes(etat.bornes ? (*etat.bornes)[i] : BornesDesPoints(points), sequences[i]);
         sequences[i].Selection = (*etat.selections)[i];
     }
     bloc = etat.bloc;

@@ -9,18 +9,8 @@
 #include <random>
 
 using namespace tessarel;
+using essais::Losanges;
 using essais::Projet;
-
-namespace {
-
-// Root: chord 100, height 12, leading edge (100, 4), trailing edge (0, 1), foot -3.
-// Tip: chord 50, height 6, leading edge (70, 7), trailing edge (20, 5.5), foot 3.5. Spacing 500.
-ProjetCPX Losanges() {
-    return Projet({{0, 1}, {40, 9}, {100, 4}, {40, -3}, {0, 1}},
-                  {{20, 5.5}, {40, 9.5}, {70, 7}, {40, 3.5}, {20, 5.5}});
-}
-
-} // namespace
 
 TEST(Corde, EchelleAutourDeLOrigineDesCoordonnees) {
     ProjetCPX p = Losanges();

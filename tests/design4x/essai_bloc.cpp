@@ -10,16 +10,10 @@
 #include <string>
 
 using namespace tessarel;
+using essais::Losanges;
 using essais::Projet;
 
 namespace {
-
-// Root: X 0..100, Y -3..9, leading edge at 4, trailing edge at 1. Tip: X 20..70, Y 3.5..9.5, edges at 7 and
-// 5.5. Sweep 30 at the leading edge, 20 at the trailing edge, dihedral 6.5.
-ProjetCPX Losanges() {
-    return Projet({{0, 1}, {40, 9}, {100, 4}, {40, -3}, {0, 1}},
-                  {{20, 5.5}, {40, 9.5}, {70, 7}, {40, 3.5}, {20, 5.5}});
-}
 
 std::map<std::string, float> Etiquettes(const ProjetCPX& projet) {
     std::map<std::string, float> valeurs;

@@ -6,16 +6,12 @@
 #include <gtest/gtest.h>
 
 using namespace tessarel;
-using essais::Projet;
+using namespace tessarel::essais;
 
 namespace {
 
-void Attendre(const ProfilCPX& profil, std::vector<std::pair<double, double>> points) {
-    ASSERT_EQ(profil.Points.size(), points.size());
-    for (std::size_t k = 0; k < points.size(); ++k) {
-        EXPECT_NEAR(profil.Points[k].X, points[k].first, 1e-6) << k;
-        EXPECT_NEAR(profil.Points[k].Y, points[k].second, 1e-6) << k;
-    }
+void Attendre(const ProfilCPX& profil, const Coordonnees& points) {
+    AttendrePoints(profil, points, 1e-6);
 }
 
 } // namespace

@@ -10,14 +10,6 @@ using namespace tessarel::essais;
 
 namespace {
 
-using Coordonnees = std::vector<std::pair<double, double>>;
-
-Coordonnees Places(const std::vector<PointProfil>& points) {
-    Coordonnees places;
-    for (const PointProfil& p : points) places.emplace_back(p.X, p.Y);
-    return places;
-}
-
 struct Dit {
     std::string texte;
     std::string titre;

@@ -12,14 +12,6 @@ using namespace tessarel::essais;
 
 namespace {
 
-using Coordonnees = std::vector<std::pair<double, double>>;
-
-Coordonnees Places(const std::vector<PointProfil>& points) {
-    Coordonnees places;
-    for (const PointProfil& p : points) places.emplace_back(p.X, p.Y);
-    return places;
-}
-
 std::vector<int> Marques(const std::vector<PointProfil>& points) {
     std::vector<int> marques;
     for (const PointProfil& p : points) marques.push_back(p.Drapeaux);

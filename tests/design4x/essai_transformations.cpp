@@ -8,16 +8,12 @@
 #include <random>
 
 using namespace tessarel;
-using essais::Projet;
+using namespace tessarel::essais;
 
 namespace {
 
-void Attendre(const ProfilCPX& profil, std::vector<std::pair<double, double>> points) {
-    ASSERT_EQ(profil.Points.size(), points.size());
-    for (std::size_t k = 0; k < points.size(); ++k) {
-        EXPECT_NEAR(profil.Points[k].X, points[k].first, 1e-9) << k;
-        EXPECT_NEAR(profil.Points[k].Y, points[k].second, 1e-9) << k;
-    }
+void Attendre(const ProfilCPX& profil, const Coordonnees& points) {
+    AttendrePoints(profil, points, 1e-9);
 }
 
 // Root: selection box 0..10 by 0..4, centre (5, 2). Tip: 20..24 by 10..20, centre (22, 15).

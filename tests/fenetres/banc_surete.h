@@ -4,7 +4,6 @@
 
 #include "fenetres/boite_des_fenetres.h"
 #include "fenetres/poste_2d.h"
-#include "ui/pompe_qt.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -21,19 +20,6 @@
 namespace tessarel::essais {
 
 inline constexpr const char* TriangleTexte = "Triangle\r\n0.0:0.0\r\n4.0:0.0\r\n2.0:3.0\r\n0.0:0.0\r\n";
-
-// The desktop program's own pump, with a place to act in before each turn.
-class PompeDuProgramme {
-public:
-    explicit PompeDuProgramme(BoiteDesFenetres& virtuelle) {
-        InstallerPompeQt();
-        Pompe qt = InstallerPompe({});
-        InstallerPompe([&virtuelle, qt = std::move(qt)] {
-            if (virtuelle.SurPompe) virtuelle.SurPompe();
-            qt();
-        });
-    }
-};
 
 // A drawing in its block, the cut page open, the machine in memory 1 of the box.
 struct Banc {
@@ -64,12 +50,7 @@ struct Banc {
         };
     }
     // Exchanges from the gesture to the first S; the number of all there were where none was sent.
-    [[nodiscard]] std::size_t EchangesAvantArret() const {
-        const auto debut = virtuelle.commandes.begin() + static_cast<std::ptrdiff_t>(depuis);
-        const auto arret = std::find_if(debut, virtuelle.commandes.end(),
-                                        [](const Tampon& t) { return t[1] == CommandeArret; });
-        return static_cast<std::size_t>(arret - debut);
-    }
+    [[nodiscard]] std::size_t EchangesAvantArret() const { return virtuelle.EchangesAvantArret(depuis); }
     [[nodiscard]] bool Parti() const { return virtuelle.Compter(CommandeFile, 128) > 0; }
     [[nodiscard]] bool Chaud() const { return virtuelle.boite->Etat().pwmCommande > 0; }
     [[nodiscard]] bool FroidEtImmobile() const {

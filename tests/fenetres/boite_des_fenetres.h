@@ -5,6 +5,7 @@
 #include "link/echange.h"
 #include "outils_boite/boite_virtuelle.h"
 #include "platform/pompe.h"
+#include "ui/pompe_qt.h"
 
 #include <QCoreApplication>
 
@@ -45,6 +46,13 @@ public:
         return static_cast<std::size_t>(std::ranges::count_if(
             commandes, [&](const Tampon& t) { return t[1] == code && t[2] == argument; }));
     }
+    // Exchanges from the `depuis`-th on to the first Stop; all there were where none was sent.
+    [[nodiscard]] std::size_t EchangesAvantArret(std::size_t depuis) const {
+        const auto debut = commandes.begin() + static_cast<std::ptrdiff_t>(depuis);
+        const auto arret =
+            std::find_if(debut, commandes.end(), [](const Tampon& t) { return t[1] == CommandeArret; });
+        return static_cast<std::size_t>(arret - debut);
+    }
 
 private:
     BoiteVirtuelle m_virtuelle;
@@ -54,6 +62,19 @@ public:
     simulateur::BoiteZelko* boite = &m_virtuelle.boite;
     std::vector<Tampon> commandes;
     std::function<void()> SurPompe; // called whenever a loop lets events run
+};
+
+// The desktop program's own pump, with a place to act in before each turn.
+class PompeDuProgramme {
+public:
+    explicit PompeDuProgramme(BoiteDesFenetres& virtuelle) {
+        InstallerPompeQt();
+        Pompe qt = InstallerPompe({});
+        InstallerPompe([&virtuelle, qt = std::move(qt)] {
+            if (virtuelle.SurPompe) virtuelle.SurPompe();
+            qt();
+        });
+    }
 };
 
 } // namespace tessarel::essais

@@ -521,18 +521,10 @@ void EssaiChauffeManuelle2D::UneReponsePerdueNeLaissePasChaud() {
 }
 
 void EssaiChauffeManuelle2D::Images_data() {
-    QTest::addColumn<bool>("anglais");
-    QTest::addColumn<bool>("sombre");
-    QTest::addRow("fr-clair") << false << false;
-    QTest::addRow("fr-sombre") << false << true;
-    QTest::addRow("en-clair") << true << false;
-    QTest::addRow("en-sombre") << true << true;
+    RangeesImages();
 }
 void EssaiChauffeManuelle2D::Images() {
-    QFETCH(bool, anglais);
-    QFETCH(bool, sombre);
-    AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
-    Chauffe chauffe("(Defaut)", anglais ? Langue::English : Langue::Francais);
+    Chauffe chauffe("(Defaut)", ReglerRangeeImage());
     TableINI.TempoChauffe = 20;
     chauffe.Allumer();
     chauffe.poste.Trouver<QTimer>("TimerClignotement").setInterval(60'000); // its full face
@@ -541,8 +533,7 @@ void EssaiChauffeManuelle2D::Images() {
     QVERIFY(DefautsLibelles(*chauffe.poste.fenetre, LibellesTessarel2D()).empty());
     const QStringList coupes = MotsCoupes(*chauffe.poste.fenetre);
     QVERIFY2(coupes.isEmpty(), qPrintable(coupes.join(u' ')));
-    QVERIFY(SauverImage(*chauffe.poste.fenetre, QStringLiteral("frmTessarel2D-fil-chaud-") +
-                                                    QString::fromLatin1(QTest::currentDataTag())));
+    QVERIFY(SauverImageRangee(*chauffe.poste.fenetre, QStringLiteral("frmTessarel2D-fil-chaud-")));
 }
 
 void EssaiChauffeManuelle2D::LeSignalDeFinCoupe() {

@@ -1,5 +1,6 @@
 // The heat-off of the 2D window before a mute box: whatever asks for it, no menu may open a loop of its own
 // that would hold up the next try.
+#include "fenetres/menus.h"
 #include "fenetres/poste_manuel.h"
 #include "ui/theme.h"
 
@@ -31,15 +32,7 @@ void EssaiCoupureGardee2D::AucunMenuNeRetientLaCoupure() {
     manuel.poste.Cliquer<QToolButton>("optChauffe_1");
     QCOMPARE(int(manuel.virtuelle.boite->Etat().pwmFil), 153);
     manuel.virtuelle.boite->Brancher(false);
-    bool menu = false;
-    QTimer fermeur; // a menu would wait for ever
-    connect(&fermeur, &QTimer::timeout, [&menu] {
-        while (QWidget* ouvert = QApplication::activePopupWidget()) {
-            menu = true;
-            if (!ouvert->close()) break;
-        }
-    });
-    fermeur.start(20);
+    FermeurDeMenus menus;
     int demandes = 0;
     manuel.virtuelle.SurPompe = [&] {
         if (demandes > 0) {
@@ -61,7 +54,7 @@ void EssaiCoupureGardee2D::AucunMenuNeRetientLaCoupure() {
     }
     manuel.virtuelle.SurPompe = {};
     QVERIFY(demandes > 0);
-    QVERIFY(!menu);
+    QVERIFY(!menus.vu);
     QCOMPARE(int(manuel.virtuelle.boite->Etat().pwmFil), 0);
     QCOMPARE(manuel.poste.NombreBoites(), std::size_t(0));
 }

@@ -372,8 +372,7 @@ void EssaiParametresTables::EnvoyerEnMemoire1ActiveLesMouvements() {
     Controle<QTabWidget>(fenetre, "ssTabParametres").setCurrentIndex(6);
     QApplication::processEvents();
     QVERIFY2(MotsCoupes(fenetre).isEmpty(), qPrintable(MotsCoupes(fenetre).join(u' ')));
-    QVERIFY(SauverImage(fenetre, QStringLiteral("frmParametresTables-envoyee-") +
-                                     QString::fromLatin1(QTest::currentDataTag())));
+    QVERIFY(SauverImageRangee(fenetre, QStringLiteral("frmParametresTables-envoyee-")));
     fenetre.close();
 
     // The next start finds the machine in memory 1 and says so on the splash.
@@ -389,8 +388,7 @@ void EssaiParametresTables::EnvoyerEnMemoire1ActiveLesMouvements() {
     if (!anglais)
         QCOMPARE(Controle<QLabel>(splash, "lblPasDeCorrespondance").text(),
                  QStringLiteral("Même nom et même définition des sorties actives, mouvements activés!"));
-    QVERIFY(SauverImage(splash, QStringLiteral("frmSplashScreen-mouvements-actives-") +
-                                    QString::fromLatin1(QTest::currentDataTag())));
+    QVERIFY(SauverImageRangee(splash, QStringLiteral("frmSplashScreen-mouvements-actives-")));
 }
 
 void EssaiParametresTables::EnvoyerUneReserveeNEcritRienDansLeFichier() {

@@ -302,19 +302,9 @@ private slots:
         QVERIFY(journal.toPlainText().contains(QStringLiteral("600 lignes passées")));
     }
 
-    void LaFenetreTientEn1280Sur800_data() {
-        QTest::addColumn<bool>("anglais");
-        QTest::addColumn<bool>("sombre");
-        QTest::addRow("fr-clair") << false << false;
-        QTest::addRow("fr-sombre") << false << true;
-        QTest::addRow("en-clair") << true << false;
-        QTest::addRow("en-sombre") << true << true;
-    }
+    void LaFenetreTientEn1280Sur800_data() { essais::RangeesImages(); }
     void LaFenetreTientEn1280Sur800() {
-        QFETCH(bool, anglais);
-        QFETCH(bool, sombre);
-        AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
-        Poste p(anglais ? Langue::English : Langue::Francais);
+        Poste p(essais::ReglerRangeeImage());
         p.poste->Boite().FixerCapaciteFile(256);
         p.Lancer(190, Nervure());
         for (int i = 0; i < 46; ++i) p.Passer(1s);
@@ -322,8 +312,7 @@ private slots:
         QApplication::processEvents();
         QVERIFY2(MotsCoupes(*p.fenetre).isEmpty(), qPrintable(MotsCoupes(*p.fenetre).join(u' ')));
         QCOMPARE(p.fenetre->size(), QSize(1280, 800));
-        QVERIFY(essais::SauverImage(*p.fenetre, QStringLiteral("frmSimulateur-") +
-                                                    QString::fromLatin1(QTest::currentDataTag())));
+        QVERIFY(essais::SauverImageRangee(*p.fenetre, QStringLiteral("frmSimulateur-")));
         AppliquerTheme(Theme::Clair);
     }
 };

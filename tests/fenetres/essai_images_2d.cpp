@@ -7,7 +7,6 @@
 #include "ui/boites_qt.h"
 #include "ui/canevas.h"
 #include "ui/champ_nombre.h"
-#include "ui/theme.h"
 #include "work2d/selection.h"
 #include "work2d/ui/atelier_2d.h"
 #include "work2d/ui/panneau_simulation.h"
@@ -90,20 +89,9 @@ class EssaiImages2D : public QObject {
 private slots:
     void cleanup() { m_poste.reset(); }
 
-    void LaFenetreTientEn1280Sur800_data() {
-        QTest::addColumn<bool>("anglais");
-        QTest::addColumn<bool>("sombre");
-        QTest::addRow("fr-clair") << false << false;
-        QTest::addRow("fr-sombre") << false << true;
-        QTest::addRow("en-clair") << true << false;
-        QTest::addRow("en-sombre") << true << true;
-    }
+    void LaFenetreTientEn1280Sur800_data() { essais::RangeesImages(); }
     void LaFenetreTientEn1280Sur800() {
-        QFETCH(bool, anglais);
-        QFETCH(bool, sombre);
-        const QString suffixe = QString::fromLatin1(QTest::currentDataTag());
-        AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
-        Poste2D poste(anglais ? Langue::English : Langue::Francais);
+        Poste2D poste(essais::ReglerRangeeImage());
         poste.OuvrirFenetre();
         QVERIFY(poste.fenetre->OuvrirFichier(Echantillon("console.dxf")));
         poste.Cliquer<QCheckBox>("chkCentrer_0");
@@ -112,7 +100,7 @@ private slots:
         Reposer(poste);
         QVERIFY2(MotsCoupes(*poste.fenetre).isEmpty(), qPrintable(MotsCoupes(*poste.fenetre).join(u' ')));
         QCOMPARE(poste.fenetre->size(), QSize(1280, 800));
-        QVERIFY(essais::SauverImage(*poste.fenetre, QStringLiteral("frmTessarel2D-") + suffixe));
+        QVERIFY(essais::SauverImageRangee(*poste.fenetre, QStringLiteral("frmTessarel2D-")));
 
         poste.Cliquer<QPushButton>("cmdDecouper");
         poste.Cliquer<QToolButton>("optEntrerBloc_1");
@@ -121,7 +109,7 @@ private slots:
         poste.Cliquer<QCheckBox>("chkExportGcode2D");
         Reposer(poste);
         QVERIFY2(MotsCoupes(*poste.fenetre).isEmpty(), qPrintable(MotsCoupes(*poste.fenetre).join(u' ')));
-        QVERIFY(essais::SauverImage(*poste.fenetre, QStringLiteral("frmTessarel2D-decoupe-") + suffixe));
+        QVERIFY(essais::SauverImageRangee(*poste.fenetre, QStringLiteral("frmTessarel2D-decoupe-")));
     }
 
     // Whatever it says of the mouse, the status bar has the room for it.
@@ -222,10 +210,7 @@ private slots:
 
     void LaBibliothequeMontreUnApercu_data() { LaFenetreTientEn1280Sur800_data(); }
     void LaBibliothequeMontreUnApercu() {
-        QFETCH(bool, anglais);
-        QFETCH(bool, sombre);
-        AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
-        Poste2D poste(anglais ? Langue::English : Langue::Francais);
+        Poste2D poste(essais::ReglerRangeeImage());
         RemplirBibliotheque(poste);
         poste.OuvrirFenetre();
         QVERIFY(poste.fenetre->OuvrirFichier(DossiersProgramme.Bibliotheque + "/console.dxf"));
@@ -239,8 +224,7 @@ private slots:
         QTRY_VERIFY(poste.Trouver<QWidget>("bandeauApercu").isVisible());
         Reposer(poste);
         QVERIFY2(MotsCoupes(*poste.fenetre).isEmpty(), qPrintable(MotsCoupes(*poste.fenetre).join(u' ')));
-        QVERIFY(essais::SauverImage(*poste.fenetre, QStringLiteral("frmTessarel2D-bibliotheque-") +
-                                                        QString::fromLatin1(QTest::currentDataTag())));
+        QVERIFY(essais::SauverImageRangee(*poste.fenetre, QStringLiteral("frmTessarel2D-bibliotheque-")));
     }
 
 private:
@@ -255,10 +239,7 @@ private:
     }
     // The sample in the middle of its block, in the language and on the ground of the row.
     void OuvrirConsole() {
-        QFETCH(bool, anglais);
-        QFETCH(bool, sombre);
-        AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
-        m_poste = std::make_unique<Poste2D>(anglais ? Langue::English : Langue::Francais);
+        m_poste = std::make_unique<Poste2D>(essais::ReglerRangeeImage());
         m_poste->OuvrirFenetre();
         QVERIFY(m_poste->fenetre->OuvrirFichier(Echantillon("console.dxf")));
         m_poste->Cliquer<QCheckBox>("chkCentrer_1");
@@ -273,9 +254,8 @@ private:
         QVERIFY2(MotsCoupes(*m_poste->fenetre).isEmpty(),
                  qPrintable(MotsCoupes(*m_poste->fenetre).join(u' ')));
         if (sombre && !sombreAussi) return;
-        QVERIFY(essais::SauverImage(*m_poste->fenetre,
-                                    QStringLiteral("frmTessarel2D-%1-").arg(QLatin1String(etape)) +
-                                        QString::fromLatin1(QTest::currentDataTag())));
+        QVERIFY(essais::SauverImageRangee(*m_poste->fenetre,
+                                          QStringLiteral("frmTessarel2D-%1-").arg(QLatin1String(etape))));
     }
     void Renoncer(essais::Souris& souris) const {
         QTest::keyClick(&Toile(), Qt::Key_Escape);

@@ -76,21 +76,9 @@ QString Segment(int numero) {
 class EssaiImagesCourse : public QObject {
     Q_OBJECT
 private slots:
-    void EtatParEtat_data() {
-        QTest::addColumn<bool>("anglais");
-        QTest::addColumn<bool>("sombre");
-        QTest::addRow("fr-clair") << false << false;
-        QTest::addRow("fr-sombre") << false << true;
-        QTest::addRow("en-clair") << true << false;
-        QTest::addRow("en-sombre") << true << true;
-    }
+    void EtatParEtat_data() { RangeesImages(); }
     void EtatParEtat();
-    void UneInterfaceMuette_data() {
-        QTest::addColumn<bool>("anglais");
-        QTest::addColumn<bool>("sombre");
-        QTest::addRow("fr-clair") << false << false;
-        QTest::addRow("en-clair") << true << false;
-    }
+    void UneInterfaceMuette_data() { RangeesImages({Theme::Clair}); }
     void UneInterfaceMuette();
 
 private:
@@ -104,16 +92,12 @@ private:
     static void Garder(const QPixmap& image, const char* etat, bool enSombre = false) {
         QFETCH(bool, sombre);
         if (sombre && !enSombre) return;
-        QVERIFY(SauverImage(image, QStringLiteral("frmTessarel2D-%1-").arg(QString::fromLatin1(etat)) +
-                                       QString::fromLatin1(QTest::currentDataTag())));
+        QVERIFY(SauverImageRangee(image, QStringLiteral("frmTessarel2D-%1-").arg(QString::fromLatin1(etat))));
     }
 };
 
 void EssaiImagesCourse::EtatParEtat() {
-    QFETCH(bool, anglais);
-    QFETCH(bool, sombre);
-    AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
-    Course course(anglais ? Langue::English : Langue::Francais);
+    Course course(ReglerRangeeImage());
     QVERIFY(DefautsLibelles(*course.poste.fenetre, LibellesTessarel2D()).empty());
     QStringList boites; // the titles of those shown
     const char* nomBoite = nullptr;
@@ -159,9 +143,7 @@ void EssaiImagesCourse::EtatParEtat() {
 }
 
 void EssaiImagesCourse::UneInterfaceMuette() {
-    QFETCH(bool, anglais);
-    AppliquerTheme(Theme::Clair);
-    Course course(anglais ? Langue::English : Langue::Francais);
+    Course course(ReglerRangeeImage());
     course.Quand(Segment(60), [&] { course.virtuelle.boite->Brancher(false); });
     course.Quand(Segment(80), [&] { course.poste.Cliquer<QPushButton>("cmdSTOP"); });
     bool prise = false;

@@ -6,7 +6,6 @@
 #include "machine/ui/frmParametresTables.h"
 #include "machine/ui/libelles_matieres.h"
 #include "machine/ui/libelles_parametres.h"
-#include "ui/theme.h"
 
 #include <QTabWidget>
 
@@ -16,19 +15,9 @@ using namespace tessarel::essais;
 class EssaiImagesMachine : public QObject {
     Q_OBJECT
 private slots:
-    void LesOngletsTiennentEn1280Sur800_data() {
-        QTest::addColumn<bool>("anglais");
-        QTest::addColumn<bool>("sombre");
-        QTest::addRow("fr-clair") << false << false;
-        QTest::addRow("fr-sombre") << false << true;
-        QTest::addRow("en-clair") << true << false;
-        QTest::addRow("en-sombre") << true << true;
-    }
+    void LesOngletsTiennentEn1280Sur800_data() { RangeesImages(); }
     void LesOngletsTiennentEn1280Sur800() {
-        QFETCH(bool, anglais);
-        QFETCH(bool, sombre);
-        AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
-        const PosteMachine poste(anglais ? Langue::English : Langue::Francais);
+        const PosteMachine poste(ReglerRangeeImage());
         frmParametresTables fenetre;
         Exposer(fenetre);
         for (const std::string& defaut : DefautsLibelles(fenetre, LibellesParametresTables()))
@@ -40,26 +29,21 @@ private slots:
             QApplication::processEvents();
             QVERIFY2(MotsCoupes(fenetre).isEmpty(), qPrintable(MotsCoupes(fenetre).join(u' ')));
             if (i > 0) continue; // the first page stands for all in the documentation
-            QVERIFY(SauverImage(fenetre, QStringLiteral("frmParametresTables-%1-").arg(i + 1) +
-                                             QString::fromLatin1(QTest::currentDataTag())));
+            QVERIFY(SauverImageRangee(fenetre, QStringLiteral("frmParametresTables-%1-").arg(i + 1)));
         }
         QVERIFY(fenetre.width() <= 1280 && fenetre.height() <= 800);
     }
 
     void LaFenetreDesMatieresTientEn1280Sur800_data() { LesOngletsTiennentEn1280Sur800_data(); }
     void LaFenetreDesMatieresTientEn1280Sur800() {
-        QFETCH(bool, anglais);
-        QFETCH(bool, sombre);
-        AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
-        const PosteMachine poste(anglais ? Langue::English : Langue::Francais);
+        const PosteMachine poste(ReglerRangeeImage());
         frmD4X_matieres fenetre;
         Exposer(fenetre);
         for (const std::string& defaut : DefautsLibelles(fenetre, LibellesMatieres()))
             qWarning("%s", defaut.c_str());
         QVERIFY(DefautsLibelles(fenetre, LibellesMatieres()).empty());
         QVERIFY2(MotsCoupes(fenetre).isEmpty(), qPrintable(MotsCoupes(fenetre).join(u' ')));
-        QVERIFY(SauverImage(fenetre, QStringLiteral("frmD4X_matieres-") +
-                                         QString::fromLatin1(QTest::currentDataTag())));
+        QVERIFY(SauverImageRangee(fenetre, QStringLiteral("frmD4X_matieres-")));
         QVERIFY(fenetre.width() <= 1280 && fenetre.height() <= 800);
     }
 };

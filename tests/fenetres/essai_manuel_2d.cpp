@@ -168,24 +168,15 @@ void EssaiManuel2D::LaBoitePerdueArreteEtEstDite() {
 }
 
 void EssaiManuel2D::Images_data() {
-    QTest::addColumn<bool>("anglais");
-    QTest::addColumn<bool>("sombre");
-    QTest::addRow("fr-clair") << false << false;
-    QTest::addRow("fr-sombre") << false << true;
-    QTest::addRow("en-clair") << true << false;
-    QTest::addRow("en-sombre") << true << true;
+    RangeesImages();
 }
 void EssaiManuel2D::Images() {
-    QFETCH(bool, anglais);
-    QFETCH(bool, sombre);
-    AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
-    Manuel manuel("(Defaut)", anglais ? Langue::English : Langue::Francais);
+    Manuel manuel("(Defaut)", ReglerRangeeImage());
     QVERIFY(DefautsLibelles(*manuel.poste.fenetre, LibellesTessarel2D()).empty());
     QApplication::processEvents();
     QVERIFY2(MotsCoupes(*manuel.poste.fenetre).isEmpty(),
              qPrintable(MotsCoupes(*manuel.poste.fenetre).join(u' ')));
-    QVERIFY(SauverImage(*manuel.poste.fenetre, QStringLiteral("frmTessarel2D-manuel-") +
-                                                   QString::fromLatin1(QTest::currentDataTag())));
+    QVERIFY(SauverImageRangee(*manuel.poste.fenetre, QStringLiteral("frmTessarel2D-manuel-")));
 }
 
 QTEST_MAIN(EssaiManuel2D)

@@ -434,26 +434,17 @@ void EssaiMouvementsMachine::FermerAvecLaBoiteDebrancheePrevient() {
 }
 
 void EssaiMouvementsMachine::Images_data() {
-    QTest::addColumn<bool>("anglais");
-    QTest::addColumn<bool>("sombre");
-    QTest::addRow("fr-clair") << false << false;
-    QTest::addRow("fr-sombre") << false << true;
-    QTest::addRow("en-clair") << true << false;
-    QTest::addRow("en-sombre") << true << true;
+    RangeesImages();
 }
 void EssaiMouvementsMachine::Images() {
-    QFETCH(bool, anglais);
-    QFETCH(bool, sombre);
-    AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
-    Essais essai(anglais ? Langue::English : Langue::Francais);
+    Essais essai(ReglerRangeeImage());
     QVERIFY(DefautsLibelles(*essai.fenetre, LibellesParametresTables()).empty());
     Taper(*essai.fenetre, "txtIncrements_0", QStringLiteral("10"));
     Cliquer(*essai.fenetre, "cmdGoIncrements");
     Cliquer(*essai.fenetre, "optChauffeParam_1");
     QApplication::processEvents();
     QVERIFY2(MotsCoupes(*essai.fenetre).isEmpty(), qPrintable(MotsCoupes(*essai.fenetre).join(u' ')));
-    QVERIFY(SauverImage(*essai.fenetre, QStringLiteral("frmParametresTables-essais-") +
-                                            QString::fromLatin1(QTest::currentDataTag())));
+    QVERIFY(SauverImageRangee(*essai.fenetre, QStringLiteral("frmParametresTables-essais-")));
 }
 
 QTEST_MAIN(EssaiMouvementsMachine)

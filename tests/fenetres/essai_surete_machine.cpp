@@ -2,12 +2,12 @@
 // holds it up, Stop acts on the way down, and a fault of the program stops it before it is told.
 #include "app/ui/application.h"
 #include "fenetres/boite_des_fenetres.h"
+#include "fenetres/menus.h"
 #include "fenetres/poste_machine.h"
 #include "machine/ui/frmD4X_matieres.h"
 #include "machine/ui/frmParametresTables.h"
 #include "platform/erreurs.h"
 #include "ui/champ_nombre.h"
-#include "ui/pompe_qt.h"
 #include "ui/theme.h"
 
 #include <QContextMenuEvent>
@@ -29,23 +29,12 @@ using namespace tessarel::essais;
 
 namespace {
 
-// The desktop program's own pump, with a place to act in before each turn.
-void PomperCommeLeProgramme(BoiteDesFenetres& virtuelle) {
-    InstallerPompeQt();
-    Pompe qt = InstallerPompe({});
-    InstallerPompe([&virtuelle, qt = std::move(qt)] {
-        if (virtuelle.SurPompe) virtuelle.SurPompe();
-        qt();
-    });
-}
-
 // A window with a hot wire, and a long move of it; `geste` runs once in the middle.
 struct Banc {
     enum Fenetre { Machine, Matieres };
 
     explicit Banc(Fenetre quelle) : sorte(quelle) {
         virtuelle.Memoriser(TableINI);
-        PomperCommeLeProgramme(virtuelle);
         RafraichirUsb("TABLES");
         if (quelle == Machine)
             fenetre = std::make_unique<frmParametresTables>();
@@ -73,12 +62,7 @@ struct Banc {
     [[nodiscard]] const char* Stop() const {
         return sorte == Machine ? "cmdStopIncrements" : "cmdStopTranches";
     }
-    [[nodiscard]] std::size_t EchangesAvantArret() const {
-        const auto debut = virtuelle.commandes.begin() + static_cast<std::ptrdiff_t>(depuis);
-        const auto arret = std::find_if(debut, virtuelle.commandes.end(),
-                                        [](const Tampon& t) { return t[1] == CommandeArret; });
-        return static_cast<std::size_t>(arret - debut);
-    }
+    [[nodiscard]] std::size_t EchangesAvantArret() const { return virtuelle.EchangesAvantArret(depuis); }
     [[nodiscard]] bool Chaud() const { return virtuelle.boite->Etat().pwmCommande > 0; }
     // The watch over the wire looks every few milliseconds.
     void VeillerVite() const { Controle<QTimer>(*fenetre, "TimerVeille").setInterval(5); }
@@ -99,6 +83,7 @@ struct Banc {
     Fenetre sorte;
     PosteMachine poste;
     BoiteDesFenetres virtuelle;
+    PompeDuProgramme pompe{virtuelle};
     std::unique_ptr<QDialog> fenetre;
     bool fait = false;
     std::size_t depuis = 0;
@@ -167,15 +152,7 @@ void EssaiSureteMachine::EchapArrete() {
 void EssaiSureteMachine::RienNOuvreDeBoucle() {
     QFETCH(int, fenetre);
     Banc banc(static_cast<Banc::Fenetre>(fenetre));
-    bool menu = false;
-    QTimer fermeur; // a menu would wait for ever
-    connect(&fermeur, &QTimer::timeout, [&menu] {
-        while (QWidget* ouvert = QApplication::activePopupWidget()) {
-            menu = true;
-            if (!ouvert->close()) break;
-        }
-    });
-    fermeur.start(100);
+    FermeurDeMenus menus;
     banc.Mouvoir([&] {
         for (auto* controle : banc.fenetre->findChildren<QWidget*>()) {
             if (!controle->isVisible()) continue;
@@ -192,7 +169,7 @@ void EssaiSureteMachine::RienNOuvreDeBoucle() {
         }
     });
     QVERIFY(banc.fait);
-    QVERIFY(!menu);
+    QVERIFY(!menus.vu);
     QCOMPARE(banc.pendant, std::size_t(0));
     QVERIFY(banc.poste.boites.boites.empty());
     QVERIFY(banc.virtuelle.boite->Etat().file == simulateur::EtatFile::Repos);

@@ -1,14 +1,19 @@
 // Pictures of windows for the documentation: taken by the window tests where TESSAREL_IMAGES names a folder.
 #pragma once
 
+#include "app/texts/textes.h"
 #include "ui/boites_qt.h"
+#include "ui/theme.h"
 
 #include <QDir>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPixmap>
 #include <QString>
+#include <QTest>
 #include <QWidget>
+
+#include <initializer_list>
 
 namespace tessarel::essais {
 
@@ -22,6 +27,28 @@ inline bool SauverImage(const QPixmap& image, const QString& nom) {
 }
 inline bool SauverImage(QWidget& fenetre, const QString& nom) {
     return SauverImage(fenetre.grab(), nom);
+}
+
+// The rows of a test that takes pictures, French and English on each ground: "fr-clair" and so on.
+inline void RangeesImages(std::initializer_list<Theme> fonds = {Theme::Clair, Theme::Sombre}) {
+    QTest::addColumn<bool>("anglais");
+    QTest::addColumn<bool>("sombre");
+    for (const bool anglais : {false, true})
+        for (const Theme fond : fonds)
+            QTest::addRow("%s-%s", anglais ? "en" : "fr", fond == Theme::Sombre ? "sombre" : "clair")
+                << anglais << (fond == Theme::Sombre);
+}
+// In such a test: puts on the ground of the row and gives its language.
+inline Langue ReglerRangeeImage() {
+    QFETCH(bool, anglais);
+    QFETCH(bool, sombre);
+    AppliquerTheme(sombre ? Theme::Sombre : Theme::Clair);
+    return anglais ? Langue::English : Langue::Francais;
+}
+// As SauverImage, under `debut` and the name of the row: "frmX-" gives frmX-fr-clair.png and so on.
+template <typename Montre>
+bool SauverImageRangee(Montre& montre, const QString& debut) {
+    return SauverImage(montre, debut + QString::fromLatin1(QTest::currentDataTag()));
 }
 
 // What `fenetre` shows with `boite` over its middle, under a title bar as a desktop gives it: without a

@@ -3,9 +3,12 @@
 
 #include "platform/erreurs.h"
 
+#include "outils_boite/sommets.h"
+
 #include <gtest/gtest.h>
 
 using namespace tessarel;
+using essais::Sommet;
 
 namespace {
 
@@ -21,15 +24,6 @@ TableMachine Machine() {
     table.CourseY = 510;
     table.TempoChauffe = 7;
     return table;
-}
-
-PointProfil Sommet(double x, double y, float vitesse, bool rapide = false) {
-    PointProfil p;
-    p.X = x;
-    p.Y = y;
-    p.Vitesse = vitesse;
-    p.Rapide = rapide;
-    return p;
 }
 
 // Rapid up, then cutting across, then back.

@@ -8,6 +8,7 @@
 
 #include "outils/boites.h"
 #include "outils_boite/boite_virtuelle.h"
+#include "outils_boite/sommets.h"
 
 #include <gtest/gtest.h>
 
@@ -15,19 +16,11 @@
 #include <string>
 
 using namespace tessarel;
+using essais::Sommet;
 using namespace tessarel::simulateur;
 using namespace std::chrono_literals;
 
 namespace {
-
-PointProfil Sommet(double x, double y, float vitesse, bool rapide = false) {
-    PointProfil p;
-    p.X = x;
-    p.Y = y;
-    p.Vitesse = vitesse;
-    p.Rapide = rapide;
-    return p;
-}
 
 // Out at the rapid speed, a short saw of cuts, and not back to where it began, so that a frame lost or
 // doubled shows in the end position.

@@ -9,6 +9,7 @@
 #include "outils/boites.h"
 #include "outils_boite/boite_virtuelle.h"
 #include "outils_boite/fil_froid.h"
+#include "outils_boite/sommets.h"
 
 #include <gtest/gtest.h>
 
@@ -16,6 +17,7 @@
 #include <optional>
 
 using namespace tessarel;
+using essais::Sommet;
 using namespace tessarel::simulateur;
 using namespace std::chrono_literals;
 
@@ -57,15 +59,6 @@ struct Scene {
     int toursSansBoite = 0;
     int interdites = 0;
 };
-
-PointProfil Sommet(double x, double y, float vitesse, bool rapide = false) {
-    PointProfil p;
-    p.X = x;
-    p.Y = y;
-    p.Vitesse = vitesse;
-    p.Rapide = rapide;
-    return p;
-}
 
 ListeDeDecoupe Liste() {
     std::vector<PointProfil> chemin = {Sommet(0, 0, 4, true), Sommet(0, 1, 8)};

@@ -5,6 +5,7 @@
 
 #include "outils/boites.h"
 #include "outils_boite/boite_virtuelle.h"
+#include "outils_boite/sommets.h"
 
 #include <gtest/gtest.h>
 
@@ -13,18 +14,11 @@
 #include <string>
 
 using namespace tessarel;
+using essais::Sommet;
 using namespace tessarel::simulateur;
 using namespace std::chrono_literals;
 
 namespace {
-
-PointProfil Sommet(double x, double y) {
-    PointProfil p;
-    p.X = x;
-    p.Y = y;
-    p.Vitesse = 4;
-    return p;
-}
 
 // A saw that does not come back to where it began, a queue of four, 10 ms an exchange.
 class ReponsesFausses : public ::testing::Test {
@@ -42,8 +36,8 @@ protected:
             return resultat;
         };
         RemplacerZelkoCom(std::move(fonctions));
-        std::vector<PointProfil> chemin = {Sommet(0, 0), Sommet(0, 1)};
-        for (int i = 1; i <= 8; ++i) chemin.push_back(Sommet(0.2 * i, i % 2 == 0 ? 1 : 1.3));
+        std::vector<PointProfil> chemin = {Sommet(0, 0, 4), Sommet(0, 1, 4)};
+        for (int i = 1; i <= 8; ++i) chemin.push_back(Sommet(0.2 * i, i % 2 == 0 ? 1 : 1.3, 4));
         m_liste = PreparerSalves(chemin, 1, 50, TableINI);
     }
     ResultatMarche Lancer() {

@@ -13,16 +13,7 @@ BoitesEnregistrees::BoitesEnregistrees() {
             reponses.pop_front();
             return reponse;
         }
-        switch (boite.boutons) {
-        case BoutonsBoite::Ok:
-            return ReponseBoite::Ok;
-        case BoutonsBoite::OuiNon:
-            return ReponseBoite::Non;
-        case BoutonsBoite::OkAnnuler:
-        case BoutonsBoite::OuiNonAnnuler:
-            break;
-        }
-        return ReponseBoite::Annuler;
+        return ReponseSansPersonne(boite.boutons);
     });
 }
 

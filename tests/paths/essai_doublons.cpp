@@ -1,26 +1,14 @@
 // What counts as a path that is there twice.
 #include "paths/doublons.h"
 
+#include "outils/traces.h"
+
 #include <gtest/gtest.h>
 
 #include <utility>
 
 using namespace tessarel;
-
-namespace {
-
-Sequence Trace(const std::vector<std::pair<double, double>>& sommets) {
-    Sequence s;
-    for (const auto& [x, y] : sommets) {
-        PointProfil p;
-        p.X = x;
-        p.Y = y;
-        s.Points.push_back(p);
-    }
-    return s;
-}
-
-} // namespace
+using essais::Trace;
 
 TEST(Doublons, UnContourRepeteCompteUneFoisParRepetition) {
     const Sequence carre = Trace({{0, 0}, {4, 0}, {4, 4}, {0, 0}});

@@ -1,29 +1,17 @@
 // Boxes, reversing and joining of paths.
 #include "paths/points.h"
 
+#include "outils/traces.h"
+
 #include <gtest/gtest.h>
 
 #include <random>
 
 using namespace tessarel;
-
-namespace {
-
-Sequence Depuis(std::initializer_list<std::pair<double, double>> points) {
-    Sequence s;
-    for (const auto& [x, y] : points) {
-        PointProfil p;
-        p.X = x;
-        p.Y = y;
-        s.Points.push_back(p);
-    }
-    return s;
-}
-
-} // namespace
+using essais::Trace;
 
 TEST(Bornes, UnSeulPointNAPasDeTaille) {
-    Sequence s = Depuis({{-3.5, 7.25}});
+    Sequence s = Trace({{-3.5, 7.25}});
     CalculerBornesSequence(s);
     EXPECT_EQ(s.XMin, -3.5F);
     EXPECT_EQ(s.XMax, -3.5F);
@@ -41,7 +29,7 @@ TEST(Bornes, SansPointDesZeros) {
 }
 
 TEST(Bornes, TousLesQuadrants) {
-    Sequence s = Depuis({{1, 2}, {-4, 8}, {6, -0.5}});
+    Sequence s = Trace({{1, 2}, {-4, 8}, {6, -0.5}});
     CalculerBornesSequence(s);
     EXPECT_EQ(s.XMin, -4.0F);
     EXPECT_EQ(s.XMax, 6.0F);
@@ -53,7 +41,7 @@ TEST(Bornes, TousLesQuadrants) {
 
 // 16777217 has no 32-bit form: it is held as 16777216, and the width is that of what is held.
 TEST(Bornes, TenuesEnSimplePrecision) {
-    Sequence s = Depuis({{16777217.0, 0.1}, {0.1, 0}});
+    Sequence s = Trace({{16777217.0, 0.1}, {0.1, 0}});
     CalculerBornesSequence(s);
     EXPECT_EQ(s.XMax, 16777216.0F);
     EXPECT_EQ(s.XMin, 0.1F);
@@ -63,7 +51,7 @@ TEST(Bornes, TenuesEnSimplePrecision) {
 }
 
 TEST(Inversion, UnSeulPointResteTelQuel) {
-    Sequence s = Depuis({{1, 2}});
+    Sequence s = Trace({{1, 2}});
     const Sequence avant = s;
     InverserSequence(s);
     EXPECT_EQ(s, avant);
@@ -97,7 +85,7 @@ TEST(Inversion, OrdreRenverseEtDeuxFoisIdentiqueTousChampsCompris) {
 }
 
 TEST(Concatenation, PointsBoutABoutSansFusion) {
-    std::vector<Sequence> liste = {Depuis({{0, 0}, {1, 0}}), Sequence(), Depuis({{1, 0}, {1, -2}})};
+    std::vector<Sequence> liste = {Trace({{0, 0}, {1, 0}}), Sequence(), Trace({{1, 0}, {1, -2}})};
     liste[0].Points[1].Drapeaux = 4;
     liste[2].Points[0].Vitesse = 3;
     const Sequence tout = ConcatenerSequences(liste);
@@ -112,7 +100,7 @@ TEST(Concatenation, PointsBoutABoutSansFusion) {
 }
 
 TEST(Cadrage, IgnoreLesSequencesVides) {
-    std::vector<Sequence> liste = {Sequence(), Depuis({{5, 6}, {7, 9}}), Depuis({{6, 4}})};
+    std::vector<Sequence> liste = {Sequence(), Trace({{5, 6}, {7, 9}}), Trace({{6, 4}})};
     for (Sequence& s : liste) CalculerBornesSequence(s);
     const Etendue cadre = CadrageSequences(liste);
     EXPECT_EQ(cadre.XMin, 5.0F);

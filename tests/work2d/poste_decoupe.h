@@ -10,6 +10,7 @@
 #include "outils/boites.h"
 #include "outils_boite/boite_virtuelle.h"
 #include "outils_boite/fil_froid.h"
+#include "outils_boite/sommets.h"
 
 #include <gtest/gtest.h>
 
@@ -22,15 +23,6 @@
 #include <vector>
 
 namespace tessarel::essais {
-
-inline PointProfil Sommet(double x, double y, float vitesse, bool rapide = false) {
-    PointProfil p;
-    p.X = x;
-    p.Y = y;
-    p.Vitesse = vitesse;
-    p.Rapide = rapide;
-    return p;
-}
 
 // A small cut with a rapid way in and out, all in a few seconds of the machine.
 inline Decoupe2D PetiteDecoupe() {

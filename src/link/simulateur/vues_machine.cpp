@@ -1,6 +1,8 @@
 // Pictures of the virtual machine, as lists of strokes.
 #include "link/simulateur/vues_machine.h"
 
+#include "platform/tracer_dessin.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -93,14 +95,10 @@ public:
 
 private:
     void Commencer(Couleur couleur, float epaisseur, GenreTrait genre, bool tirets) {
-        m_dessin.traits.push_back(
-            {static_cast<std::uint32_t>(m_dessin.points.size()), 0, epaisseur, couleur, genre, tirets});
+        OuvrirTrait(m_dessin, couleur, epaisseur, tirets, genre);
         m_ferme = false;
     }
-    void Point(PointDessin p) {
-        m_dessin.points.push_back(p);
-        ++m_dessin.traits.back().nombre;
-    }
+    void Point(PointDessin p) { AjouterPoint(m_dessin, p); }
     void Coins(const CadreDessin& r) {
         Point({r.XMin, r.YMin});
         Point({r.XMax, r.YMin});
@@ -173,14 +171,6 @@ double Chaleur(const EtatBoite& etat) {
     return std::clamp(etat.temperature, 0.0, 1.0);
 }
 
-TexteDessin Ecrire(PointDessin ou, std::string texte, Couleur couleur) {
-    TexteDessin t;
-    t.ou = ou;
-    t.texte = std::move(texte);
-    t.couleur = couleur;
-    return t;
-}
-
 } // namespace
 
 PlacesChariots PlacesEnMm(const PositionPas& position, const TableRam& ram) {
@@ -238,11 +228,7 @@ Dessin DessinerFondCote(const SceneMachine& scene) {
     PoserBloc(plume, CadreBlocCote(scene.bloc), tons);
     plume.Rectangle({0, scene.mecanique.courseX, 0, scene.mecanique.courseY}, tons.cadre, 1, true);
     const double yOrigine = scene.mecanique.origineEnHaut ? scene.mecanique.courseY : 0;
-    MarqueDessin origine;
-    origine.ou = {0, yOrigine};
-    origine.taille = 8;
-    origine.couleur = tons.discret;
-    dessin.marques.push_back(origine);
+    AjouterMarque(dessin, GenreMarque::Point, {0, yOrigine}, 8, tons.discret);
     return dessin;
 }
 
@@ -312,7 +298,7 @@ Dessin DessinerFondVue(const SceneMachine& scene, VueMachine vue) {
     const double ecart = 0.045 * std::max(bout, m.ecartement);
     for (const double z : {0.0, m.ecartement}) {
         plume.Segment(PlaceVue(vue, 0, z), PlaceVue(vue, bout, z), tons.cadre, 3);
-        dessin.textes.push_back(Ecrire(PlaceVue(vue, -ecart, z), z == 0 ? "1" : "2", tons.discret));
+        AjouterTexte(dessin, PlaceVue(vue, -ecart, z), z == 0 ? "1" : "2", tons.discret, AncreTexte::Centre);
     }
     plume.Segment(PlaceVue(vue, 0, 0), PlaceVue(vue, 0, m.ecartement), tons.cadre, 1, true);
     return dessin;

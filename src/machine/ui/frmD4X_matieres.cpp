@@ -8,6 +8,7 @@
 #include "link/rafraichir.h"
 #include "machine/gestion_matieres.h"
 #include "machine/ui/conduite_manuelle.h"
+#include "machine/ui/controles_chauffe.h"
 #include "machine/ui/explications.h"
 #include "machine/ui/frmImporterMatiere.h"
 #include "machine/ui/libelles_matieres.h"
@@ -73,7 +74,7 @@ frmD4X_matieres::frmD4X_matieres(QWidget* parent) : QDialog(parent) {
     m_vitesse.barre->setRange(1, static_cast<int>(Arrondi(TableINI.VmaxAvecAccXY / m_vitesse.unite)));
     for (Curseur* saignee : {&m_saignee, &m_saigneeVsur2})
         saignee->barre->setRange(0, static_cast<int>(Arrondi(Parametres.SaigneeMaxiSoft / saignee->unite)));
-    hscChauffeParam->setRange(0, TableINI.ChauffeMaxiSur100);
+    m_controlesChauffe.hscChauffeParam->setRange(0, TableINI.ChauffeMaxiSur100);
     Relier();
     for (std::size_t i = 0; i < txtDimensionsTranches.size(); ++i)
         txtDimensionsTranches[i]->FixerValeur(DimensionsDeDepart[i]);
@@ -106,7 +107,7 @@ void frmD4X_matieres::Relier() {
     connect(cmdQuitter, &QPushButton::clicked, this, &QDialog::reject);
     RelierCurseurs();
     RelierTest();
-    RelierChauffe();
+    RelierConduite();
 }
 
 void frmD4X_matieres::RelierCurseurs() {
@@ -123,28 +124,11 @@ void frmD4X_matieres::RelierCurseurs() {
     relier(m_saigneeVsur2, "##0.0#", "mm");
 }
 
-void frmD4X_matieres::RelierChauffe() {
-    connect(optChauffeMatieres[1], &QRadioButton::clicked, this, [this] {
-        if (!m_conduite->Chauffer(hscChauffeParam->value())) optChauffeMatieres[0]->setChecked(true);
-    });
-    connect(optChauffeMatieres[0], &QRadioButton::pressed, m_conduite, &ConduiteManuelle::Couper);
-    connect(hscChauffeParam, &QScrollBar::valueChanged, this, [this](int pourcent) {
-        lblChauffeParam->setText(QStringLiteral("%1 %").arg(pourcent));
-        m_conduite->ChangerChauffe(pourcent);
-    });
+void frmD4X_matieres::RelierConduite() {
+    RelierChauffe(m_controlesChauffe, *m_conduite, *lblEtatTranches);
     connect(m_conduite, &ConduiteManuelle::ChauffeDemandee, this,
             [this](bool enCours) { cmdStopTranches->setEnabled(enCours || m_conduite->EnMouvement()); });
-    connect(m_conduite, &ConduiteManuelle::ChauffeChangee, this, [this](bool chaude) {
-        optChauffeMatieres[chaude ? 1 : 0]->setChecked(true);
-        lblWarningChauffe->setVisible(m_conduite->PeutEtreChaude());
-    });
-    connect(m_conduite, &ConduiteManuelle::CoupeeSansDemande, this,
-            [this](TexteProgramme mot) { lblEtatTranches->setText(TexteAffiche(Texte(mot))); });
     connect(m_conduite, &ConduiteManuelle::LiaisonPerdue, this, &frmD4X_matieres::MontrerMouvementsPossibles);
-    lblWarningChauffe->hide();
-    QPalette rouge = lblWarningChauffe->palette();
-    rouge.setColor(QPalette::WindowText, CouleurAlerte());
-    lblWarningChauffe->setPalette(rouge);
     connect(chkDesactiverTimeOutMoteurs, &QCheckBox::toggled, this, [this](bool permanente) {
         if (m_conduite->TensionPermanente(permanente)) return;
         const QSignalBlocker rienNEstParti(chkDesactiverTimeOutMoteurs);
@@ -182,8 +166,9 @@ void frmD4X_matieres::MontrerValeurs(const ValeursDecoupe& valeurs) {
     poser(m_vitesse, valeurs.Vitesse);
     poser(m_saignee, valeurs.SaigneeVD);
     poser(m_saigneeVsur2, valeurs.SaigneeVDsur2);
-    if (!m_conduite->Chaude()) hscChauffeParam->setValue(static_cast<int>(Arrondi(valeurs.Chauffe)));
-    lblChauffeParam->setText(QStringLiteral("%1 %").arg(hscChauffeParam->value()));
+    if (!m_conduite->Chaude())
+        m_controlesChauffe.hscChauffeParam->setValue(static_cast<int>(Arrondi(valeurs.Chauffe)));
+    MontrerChauffe(m_controlesChauffe);
     txtVitesseTranches->setText(QString::fromStdString(PointVersSeparateur(
         FormaterNombre(std::min(valeurs.Vitesse, TableINI.VmaxSansAccXY), "#####0.0##"))));
 }

@@ -3,6 +3,7 @@
 
 #include "machine/matieres.h"
 #include "machine/tranches.h"
+#include "machine/ui/controles_chauffe.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -71,7 +72,7 @@ private:
     void Relier();
     void RelierCurseurs();
     void RelierTest();
-    void RelierChauffe();
+    void RelierConduite();
 
     // Base
     void RemplirMatieres();
@@ -116,10 +117,7 @@ private:
     std::array<QPushButton*, 6> cmdMvtTranches{};
     QPushButton* cmdStopTranches = nullptr;
     QLabel* lblEtatTranches = nullptr;
-    std::array<QRadioButton*, 2> optChauffeMatieres{};
-    QScrollBar* hscChauffeParam = nullptr;
-    QLabel* lblChauffeParam = nullptr;
-    QLabel* lblWarningChauffe = nullptr;
+    ControlesChauffe m_controlesChauffe;
     QCheckBox* chkDesactiverTimeOutMoteurs = nullptr;
     ChampNombre* txtEpaisseurObtenue = nullptr;
     QLabel* lblSaignee = nullptr;

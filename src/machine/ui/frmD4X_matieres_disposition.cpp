@@ -27,24 +27,6 @@ constexpr int HauteurMouvement = 32;
 constexpr double PasChauffe = 0.5; // percent
 constexpr double PasFin = 0.01;    // mm/s and mm
 
-template <std::size_t N>
-void FaireOptions(QGroupBox* cadre, QBoxLayout* pose, const char* nom,
-                  std::array<QRadioButton*, N>& options) {
-    auto* groupe = new QButtonGroup(cadre);
-    for (std::size_t i = 0; i < N; ++i) {
-        options[i] = Nommer(new QRadioButton, nom, i);
-        groupe->addButton(options[i], static_cast<int>(i));
-        pose->addWidget(options[i]);
-    }
-    options[0]->setChecked(true);
-}
-
-QPushButton* FaireBouton(const char* nom) {
-    auto* bouton = Nommer(new QPushButton, nom);
-    bouton->setAutoDefault(false);
-    return bouton;
-}
-
 } // namespace
 
 void frmD4X_matieres::Disposer() {
@@ -201,27 +183,13 @@ QWidget* frmD4X_matieres::DisposerMouvements() {
 
 QGroupBox* frmD4X_matieres::DisposerChauffe() {
     auto* cadre = Nommer(new QGroupBox, "frameChauffeMatieres");
-    auto* pose = new QGridLayout(cadre);
-    auto* options = new QHBoxLayout;
-    FaireOptions(cadre, options, "optChauffeMatieres", optChauffeMatieres);
-    lblWarningChauffe = Nommer(new QLabel, "lblWarningChauffe");
-    QFont gras = lblWarningChauffe->font();
-    gras.setBold(true);
-    lblWarningChauffe->setFont(gras);
-    options->addWidget(lblWarningChauffe);
-    options->addStretch(1);
-    pose->addLayout(options, 0, 0, 1, 2);
-    hscChauffeParam = Nommer(new QScrollBar(Qt::Horizontal), "hscChauffeParam");
-    lblChauffeParam = Nommer(new QLabel, "lblChauffeParam");
-    lblChauffeParam->setMinimumWidth(
-        lblChauffeParam->fontMetrics().horizontalAdvance(QStringLiteral("100 %")));
-    pose->addWidget(hscChauffeParam, 1, 0);
-    pose->addWidget(lblChauffeParam, 1, 1);
+    auto* pose = new QVBoxLayout(cadre);
+    pose->addLayout(FaireControlesChauffe(cadre, "optChauffeMatieres", m_controlesChauffe));
+    auto* moteurs = new QHBoxLayout;
     chkDesactiverTimeOutMoteurs = Nommer(new QCheckBox, "chkDesactiverTimeOutMoteurs");
-    auto* aide = Nommer(new QToolButton, "cmdAideTimeOut");
-    pose->addWidget(chkDesactiverTimeOutMoteurs, 2, 0);
-    pose->addWidget(aide, 2, 1);
-    pose->setColumnStretch(0, 1);
+    moteurs->addWidget(chkDesactiverTimeOutMoteurs, 1);
+    moteurs->addWidget(Nommer(new QToolButton, "cmdAideTimeOut"));
+    pose->addLayout(moteurs);
     return cadre;
 }
 

@@ -35,8 +35,8 @@ constexpr double PartParPeriode = 0.05;
 void frmD4X_matieres::RelierTest() {
     for (std::size_t i = 0; i < cmdMvtTranches.size(); ++i)
         connect(cmdMvtTranches[i], &QPushButton::clicked, this, [this, i] { Mouvoir(i); });
-    m_conduite->PermettreToujours(
-        {cmdStopTranches, optChauffeMatieres[0], optChauffeMatieres[1], hscChauffeParam});
+    m_conduite->PermettreToujours({cmdStopTranches, m_controlesChauffe.options[0],
+                                   m_controlesChauffe.options[1], m_controlesChauffe.hscChauffeParam});
     connect(cmdStopTranches, &QPushButton::pressed, m_conduite, &ConduiteManuelle::DemanderArret);
     connect(m_conduite, &ConduiteManuelle::DebutMouvement, this,
             &frmD4X_matieres::MontrerMouvementsPossibles);

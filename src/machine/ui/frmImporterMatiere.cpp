@@ -12,7 +12,6 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLineEdit>
-#include <QPushButton>
 
 namespace tessarel {
 
@@ -37,29 +36,19 @@ frmImporterMatiere::frmImporterMatiere(QWidget* parent) : QDialog(parent) {
     auto* explication = Nommer(new QLabel, "lblExplicationImport");
     explication->setWordWrap(true);
     Discret(*explication);
-    auto* boutons = new QHBoxLayout;
-    auto* annuler = Nommer(new QPushButton, "cmdAnnuler");
-    auto* valider = Nommer(new QPushButton, "cmdValider");
-    valider->setDefault(true);
-    annuler->setAutoDefault(false);
-    boutons->addStretch(1);
-    boutons->addWidget(annuler);
-    boutons->addWidget(valider);
     pose->addWidget(lblMatieres, 0, 0);
     pose->addWidget(comboMatieresImport, 0, 1);
     pose->addWidget(lblValeursImport, 1, 1);
     pose->addWidget(lblNom, 2, 0);
     pose->addWidget(txtNouveauNom, 2, 1);
     pose->addWidget(explication, 3, 0, 1, 2);
-    pose->addLayout(boutons, 4, 0, 1, 2);
+    pose->addLayout(FaireReponses(this), 4, 0, 1, 2);
     setMinimumWidth(480);
     AppliquerLibelles(*this, LibellesImporterMatiere(), LangueCourante());
     for (std::size_t i = 1; i < MatieresAutresMachines.size(); ++i) // the first is no material
         comboMatieresImport->addItem(
             QString::fromStdString(NomAfficheAvecMachine(MatieresAutresMachines[i])));
     connect(comboMatieresImport, &QComboBox::currentIndexChanged, this, &frmImporterMatiere::MontrerChoix);
-    connect(valider, &QPushButton::clicked, this, &frmImporterMatiere::accept);
-    connect(annuler, &QPushButton::clicked, this, &QDialog::reject);
     MontrerChoix(0);
 }
 

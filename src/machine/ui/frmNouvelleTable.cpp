@@ -6,9 +6,7 @@
 #include "machine/ui/libelles_parametres.h"
 #include "machine/ui/pose.h"
 
-#include <QHBoxLayout>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace tessarel {
@@ -23,22 +21,12 @@ frmNouvelleTable::frmNouvelleTable(QWidget* parent) : QDialog(parent) {
     auto* limite = Nommer(new QLabel, "lblLimiteNom");
     limite->setWordWrap(true);
     Discret(*limite);
-    auto* boutons = new QHBoxLayout;
-    auto* annuler = Nommer(new QPushButton, "cmdAnnuler");
-    auto* valider = Nommer(new QPushButton, "cmdValider");
-    valider->setDefault(true);
-    annuler->setAutoDefault(false);
-    boutons->addStretch(1);
-    boutons->addWidget(annuler);
-    boutons->addWidget(valider);
     pose->addWidget(etiquette);
     pose->addWidget(txtNomTable);
     pose->addWidget(limite);
-    pose->addLayout(boutons);
+    pose->addLayout(FaireReponses(this));
     setMinimumWidth(420);
     AppliquerLibelles(*this, LibellesNouvelleTable(), LangueCourante());
-    connect(valider, &QPushButton::clicked, this, &frmNouvelleTable::accept);
-    connect(annuler, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void frmNouvelleTable::accept() {

@@ -7,6 +7,7 @@
 #include "machine/table_machine.h"
 #include "machine/tranches.h"
 #include "machine/ui/conduite_manuelle.h"
+#include "machine/ui/controles_chauffe.h"
 #include "machine/ui/pose.h"
 #include "platform/dialogue.h"
 #include "platform/erreurs.h"
@@ -36,21 +37,8 @@ namespace {
 constexpr int HauteurBouton = 36; // pixels
 constexpr const char* MasqueMm = "#####0.0##";
 
-// Options of which one is set.
-template <std::size_t N>
-void FaireOptions(QWidget* parent, QBoxLayout* pose, const char* nom, std::array<QRadioButton*, N>& options) {
-    auto* groupe = new QButtonGroup(parent);
-    for (std::size_t i = 0; i < N; ++i) {
-        options[i] = Nommer(new QRadioButton, nom, i);
-        groupe->addButton(options[i], static_cast<int>(i));
-        pose->addWidget(options[i]);
-    }
-    options[0]->setChecked(true);
-}
-
-QPushButton* FaireBouton(const char* nom) {
-    auto* bouton = Nommer(new QPushButton, nom);
-    bouton->setAutoDefault(false);
+QPushButton* FaireBoutonHaut(const char* nom) {
+    QPushButton* bouton = FaireBouton(nom);
     bouton->setMinimumHeight(HauteurBouton);
     return bouton;
 }
@@ -87,8 +75,8 @@ PanneauEssais::PanneauEssais(QWidget* parent) : QWidget(parent) {
     pose->setRowStretch(2, 1);
     for (int colonne = 0; colonne < 3; ++colonne) pose->setColumnStretch(colonne, 1);
     Relier();
-    m_conduite->PermettreToujours({cmdStopIncrements, cmdStopValeurs, cmdMoteursOff, optChauffeParam[0],
-                                   optChauffeParam[1], hscChauffeParam});
+    m_conduite->PermettreToujours({cmdStopIncrements, cmdStopValeurs, cmdMoteursOff, m_chauffe.options[0],
+                                   m_chauffe.options[1], m_chauffe.hscChauffeParam});
     MontrerEtatMouvement(false);
 }
 
@@ -100,8 +88,8 @@ QGroupBox* PanneauEssais::DisposerIncrements() {
     FaireOptions(cadre, unites, "optMMPas", optMMPas);
     unites->addStretch(1);
     pose->addLayout(unites, 4, 0, 1, 3);
-    cmdGoIncrements = FaireBouton("cmdGoIncrements");
-    cmdStopIncrements = FaireBouton("cmdStopIncrements");
+    cmdGoIncrements = FaireBoutonHaut("cmdGoIncrements");
+    cmdStopIncrements = FaireBoutonHaut("cmdStopIncrements");
     pose->addWidget(cmdGoIncrements, 6, 0, 1, 2);
     pose->addWidget(cmdStopIncrements, 6, 2);
     pose->setRowStretch(5, 1);
@@ -121,13 +109,12 @@ QGroupBox* PanneauEssais::DisposerValeurs() {
     FaireOptions(cadre, unites, "optMmPasValeurs", optMmPasValeurs);
     unites->addStretch(1);
     pose->addLayout(unites, 4, 0, 1, 2);
-    cmdRemiseAZero = Nommer(new QPushButton, "cmdRemiseAZero");
-    cmdRemiseAZero->setAutoDefault(false);
+    cmdRemiseAZero = FaireBouton("cmdRemiseAZero");
     pose->addWidget(cmdRemiseAZero, 4, 2);
     chkMvtValeurs1egal2 = Nommer(new QCheckBox, "chkMvtValeurs1egal2");
     pose->addWidget(chkMvtValeurs1egal2, 5, 0, 1, 3);
-    cmdGoValeurs = FaireBouton("cmdGoValeurs");
-    cmdStopValeurs = FaireBouton("cmdStopValeurs");
+    cmdGoValeurs = FaireBoutonHaut("cmdGoValeurs");
+    cmdStopValeurs = FaireBoutonHaut("cmdStopValeurs");
     pose->addWidget(cmdGoValeurs, 7, 0, 1, 2);
     pose->addWidget(cmdStopValeurs, 7, 2);
     pose->setRowStretch(6, 1);
@@ -154,30 +141,14 @@ QGroupBox* PanneauEssais::DisposerVitesse() {
 QGroupBox* PanneauEssais::DisposerChauffe() {
     auto* cadre = Nommer(new QGroupBox, "frameChauffeEssai");
     auto* pose = new QVBoxLayout(cadre);
-    auto* options = new QHBoxLayout;
-    FaireOptions(cadre, options, "optChauffeParam", optChauffeParam);
-    lblWarningChauffe = Nommer(new QLabel, "lblWarningChauffe");
-    QFont gras = lblWarningChauffe->font();
-    gras.setBold(true);
-    lblWarningChauffe->setFont(gras);
-    options->addWidget(lblWarningChauffe);
-    options->addStretch(1);
-    pose->addLayout(options);
-    auto* rangee = new QHBoxLayout;
-    hscChauffeParam = Nommer(new QScrollBar(Qt::Horizontal), "hscChauffeParam");
-    lblChauffeParam = Nommer(new QLabel, "lblChauffeParam");
-    lblChauffeParam->setMinimumWidth(
-        lblChauffeParam->fontMetrics().horizontalAdvance(QStringLiteral("100 %")));
-    rangee->addWidget(hscChauffeParam, 1);
-    rangee->addWidget(lblChauffeParam);
-    pose->addLayout(rangee);
+    pose->addLayout(FaireControlesChauffe(cadre, "optChauffeParam", m_chauffe));
     return cadre;
 }
 
 QGroupBox* PanneauEssais::DisposerMoteurs() {
     auto* cadre = Nommer(new QGroupBox, "frameMoteursEssai");
     auto* pose = new QVBoxLayout(cadre);
-    cmdMoteursOff = FaireBouton("cmdMoteursOff");
+    cmdMoteursOff = FaireBoutonHaut("cmdMoteursOff");
     pose->addWidget(cmdMoteursOff);
     return cadre;
 }
@@ -204,43 +175,23 @@ void PanneauEssais::Relier() {
         lblEtatMouvement->setText(
             TexteAffiche(TexteRempli(TexteProgramme::EssaiEnCours, {FormaterNombre(100 * part, "##0")})));
     });
-    RelierChauffe();
-}
-
-void PanneauEssais::RelierChauffe() {
-    connect(optChauffeParam[1], &QRadioButton::clicked, this, [this] {
-        if (!m_conduite->Chauffer(hscChauffeParam->value())) optChauffeParam[0]->setChecked(true);
-    });
-    connect(optChauffeParam[0], &QRadioButton::pressed, m_conduite, &ConduiteManuelle::Couper);
-    connect(hscChauffeParam, &QScrollBar::valueChanged, this, [this](int pourcent) {
-        lblChauffeParam->setText(QStringLiteral("%1 %").arg(pourcent));
-        m_conduite->ChangerChauffe(pourcent);
-    });
+    RelierChauffe(m_chauffe, *m_conduite, *lblEtatMouvement);
     connect(m_conduite, &ConduiteManuelle::ChauffeDemandee, this, [this](bool enCours) {
         for (QPushButton* arret : {cmdStopIncrements, cmdStopValeurs})
             arret->setEnabled(enCours || m_conduite->EnMouvement());
     });
-    connect(m_conduite, &ConduiteManuelle::ChauffeChangee, this, [this](bool chaude) {
-        optChauffeParam[chaude ? 1 : 0]->setChecked(true);
-        lblWarningChauffe->setVisible(m_conduite->PeutEtreChaude());
-    });
-    connect(m_conduite, &ConduiteManuelle::CoupeeSansDemande, this,
-            [this](TexteProgramme mot) { lblEtatMouvement->setText(TexteAffiche(Texte(mot))); });
     connect(m_conduite, &ConduiteManuelle::LiaisonPerdue, this, &PanneauEssais::LiaisonPerdue);
-    lblWarningChauffe->hide();
 }
 
 void PanneauEssais::MontrerMachine() {
-    const QSignalBlocker rienNePart(hscChauffeParam); // what a machine proposes is no heat that was asked for
-    hscChauffeParam->setRange(0, TableINI.ChauffeMaxiSur100);
-    hscChauffeParam->setValue(TableINI.ChauffeParDefaut);
-    lblChauffeParam->setText(QStringLiteral("%1 %").arg(hscChauffeParam->value()));
+    const QSignalBlocker rienNePart(
+        m_chauffe.hscChauffeParam); // what a machine proposes is no heat that was asked for
+    m_chauffe.hscChauffeParam->setRange(0, TableINI.ChauffeMaxiSur100);
+    m_chauffe.hscChauffeParam->setValue(TableINI.ChauffeParDefaut);
+    MontrerChauffe(m_chauffe);
     if (txtVitesseChoisieParam->text().isEmpty())
         txtVitesseChoisieParam->setText(QString::fromStdString(
             PointVersSeparateur(FormaterNombre(TableINI.VitesseDecoupeParDefaut, MasqueMm))));
-    QPalette rouge = lblWarningChauffe->palette();
-    rouge.setColor(QPalette::WindowText, CouleurAlerte());
-    lblWarningChauffe->setPalette(rouge);
     MontrerPositions();
 }
 
@@ -289,7 +240,7 @@ void PanneauEssais::MontrerEtatMouvement(bool enMouvement) {
     for (QWidget* saisie : findChildren<QWidget*>()) {
         const bool texte = qobject_cast<QLineEdit*>(saisie) != nullptr;
         const bool option = qobject_cast<QRadioButton*>(saisie) != nullptr &&
-                            std::ranges::find(optChauffeParam, saisie) == optChauffeParam.end();
+                            std::ranges::find(m_chauffe.options, saisie) == m_chauffe.options.end();
         if (texte || option) saisie->setEnabled(!enMouvement);
     }
     chkMvtValeurs1egal2->setEnabled(!enMouvement);

@@ -2,6 +2,8 @@
 // and the motors.
 #pragma once
 
+#include "machine/ui/controles_chauffe.h"
+
 #include <QWidget>
 #include <array>
 #include <cstdint>
@@ -13,7 +15,6 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
-class QScrollBar;
 
 namespace tessarel {
 
@@ -47,7 +48,6 @@ private:
     QGroupBox* DisposerChauffe();
     QGroupBox* DisposerMoteurs();
     void Relier();
-    void RelierChauffe();
 
     void GoIncrements();
     void GoValeurs();
@@ -72,10 +72,7 @@ private:
     QPushButton* cmdRemiseAZero = nullptr;
     std::array<QRadioButton*, 3> optVitesseRelManu{};
     QLineEdit* txtVitesseChoisieParam = nullptr;
-    std::array<QRadioButton*, 2> optChauffeParam{};
-    QScrollBar* hscChauffeParam = nullptr;
-    QLabel* lblChauffeParam = nullptr;
-    QLabel* lblWarningChauffe = nullptr;
+    ControlesChauffe m_chauffe;
     QPushButton* cmdMoteursOff = nullptr;
     QLabel* lblEtatMouvement = nullptr;
 };

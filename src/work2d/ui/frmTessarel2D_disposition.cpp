@@ -2,6 +2,7 @@
 #include "ui/ascenseurs.h"
 #include "ui/canevas.h"
 #include "ui/champ_nombre.h"
+#include "ui/nommer.h"
 #include "work2d/ui/atelier_2d.h"
 #include "work2d/ui/bandeau_atelier.h"
 #include "work2d/ui/frmTessarel2D.h"
@@ -41,17 +42,6 @@ constexpr int LargeurPage = 324;
 constexpr int CoteIconeOutil = 26;
 constexpr int CoteIconeOption = 30;
 constexpr int HauteurBoutonPrincipal = 40;
-
-template <typename Controle>
-Controle* Nommer(Controle* controle, const QString& nom) {
-    controle->setObjectName(nom);
-    return controle;
-}
-
-template <typename Controle>
-Controle* Nommer(Controle* controle, const QString& nom, std::size_t indice) {
-    return Nommer(controle, QStringLiteral("%1_%2").arg(nom).arg(indice));
-}
 
 QToolButton* Outil(const QString& nom) {
     auto* bouton = Nommer(new QToolButton, nom);

@@ -6,6 +6,7 @@
 #include "platform/horloge.h"
 #include "ui/boites_qt.h"
 #include "ui/icones.h"
+#include "ui/nommer.h"
 #include "ui/theme.h"
 #include "work2d/ui/style_2d.h"
 
@@ -30,12 +31,6 @@ constexpr int HauteurSigne = 34;
 constexpr int PeriodeTempo = 100; // ms
 // Slow enough not to be a flicker, fast enough to be seen from the corner of the eye.
 constexpr int PeriodeClignotement = 500;
-
-template <typename Controle>
-Controle* Nommer(Controle* controle, const char* nom) {
-    controle->setObjectName(QString::fromLatin1(nom));
-    return controle;
-}
 
 // The two faces of the sign, both readable on any ground.
 QString StyleSigne(bool plein) {

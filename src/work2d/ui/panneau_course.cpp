@@ -4,6 +4,7 @@
 #include "app/texts/textes.h"
 #include "platform/nombres.h"
 #include "ui/boites_qt.h"
+#include "ui/nommer.h"
 #include "ui/place_libelle.h"
 #include "work2d/ui/style_2d.h"
 
@@ -29,12 +30,6 @@ constexpr int MessagesAvancee = 190;           // "Chauffe ", and its title "Dé
 constexpr double PasParPourcent = 2;
 constexpr int BarrePleine = 1000;
 constexpr int HauteurBouton = 40; // pixels
-
-template <typename Controle>
-Controle* Nommer(Controle* controle, const char* nom) {
-    controle->setObjectName(QString::fromLatin1(nom));
-    return controle;
-}
 
 QPushButton* Bouton(const char* nom, bool gras = false) {
     auto* bouton = Nommer(new QPushButton, nom);

@@ -2,6 +2,7 @@
 #include "work2d/ui/panneau_manuel.h"
 
 #include "platform/nombres.h"
+#include "ui/nommer.h"
 #include "work2d/ui/panneau_chauffe.h"
 #include "work2d/ui/style_2d.h"
 
@@ -37,12 +38,6 @@ constexpr std::array<Direction, 8> DIRECTIONS = {{{-1, 1, u'↖'},
                                                   {-1, -1, u'↙'},
                                                   {0, -1, u'↓'},
                                                   {1, -1, u'↘'}}};
-
-template <typename Controle>
-Controle* Nommer(Controle* controle, const char* nom) {
-    controle->setObjectName(QString::fromLatin1(nom));
-    return controle;
-}
 
 QPushButton* Bouton(const char* nom) {
     auto* bouton = Nommer(new QPushButton, nom);

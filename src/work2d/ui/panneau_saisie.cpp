@@ -6,6 +6,7 @@
 #include "platform/dialogue.h"
 #include "ui/boites_qt.h"
 #include "ui/champ_nombre.h"
+#include "ui/nommer.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -36,18 +37,6 @@ constexpr const char* StylePoints =
     "QToolButton:disabled { border-color: palette(mid); background: palette(button); }"
     "QToolButton:checked:disabled { border-color: palette(mid); "
     "background: rgba(138, 147, 160, 45%); }";
-
-template <typename Controle>
-Controle* Nommer(Controle* controle, const char* nom) {
-    controle->setObjectName(QString::fromLatin1(nom));
-    return controle;
-}
-
-template <typename Controle>
-Controle* Nommer(Controle* controle, const char* nom, std::size_t indice) {
-    controle->setObjectName(QStringLiteral("%1_%2").arg(QString::fromLatin1(nom)).arg(indice));
-    return controle;
-}
 
 } // namespace
 
@@ -139,7 +128,7 @@ void PanneauSaisie::Valider() {
 
 std::string_view PanneauSaisie::PointFixe() const {
     const int rang = m_points->checkedId();
-    return rang < 0 ? "" : NomsPoints[static_cast<std::size_t>(rang)];
+    return rang < 0 ? std::string_view() : NomsPoints[static_cast<std::size_t>(rang)];
 }
 
 void PanneauSaisie::Montrer(const Sequence& BoiteSelection, std::size_t selections) {

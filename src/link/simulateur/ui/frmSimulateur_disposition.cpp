@@ -4,6 +4,7 @@
 
 #include "ui/canevas.h"
 #include "ui/champ_nombre.h"
+#include "ui/nommer.h"
 #include "ui/theme.h"
 
 #include <QCheckBox>
@@ -33,19 +34,13 @@ constexpr int HauteurPetitesVues = 190;
 constexpr int BoutonMax = 255;
 
 template <typename Controle>
-Controle* Nommer(Controle* controle, const QString& nom) {
-    controle->setObjectName(nom);
-    return controle;
-}
-
-template <typename Controle>
 Controle* Creer(const char* nom) {
-    return Nommer(new Controle, QString::fromLatin1(nom));
+    return Nommer(new Controle, nom);
 }
 
 template <typename Controle>
 Controle* Creer(const char* nom, std::size_t indice) {
-    return Nommer(new Controle, QStringLiteral("%1_%2").arg(QString::fromLatin1(nom)).arg(indice));
+    return Nommer(new Controle, nom, indice);
 }
 
 QGroupBox* Groupe(const char* nom, QVBoxLayout* page) {
