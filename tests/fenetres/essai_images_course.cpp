@@ -97,6 +97,7 @@ private:
 };
 
 void EssaiImagesCourse::EtatParEtat() {
+    QFETCH(bool, sombre);
     Course course(ReglerRangeeImage());
     QVERIFY(DefautsLibelles(*course.poste.fenetre, LibellesTessarel2D()).empty());
     QStringList boites; // the titles of those shown
