@@ -35,8 +35,8 @@ bool EstStandard(std::string_view entete) {
 
 // The operating system's own headers, which tests need to run programs and to spoil files.
 bool EstSysteme(std::string_view entete) {
-    static const std::set<std::string_view> connus = {"fcntl.h",  "poll.h",  "signal.h", "spawn.h",
-                                                      "unistd.h", "errno.h", "dirent.h", "stdlib.h"};
+    static const std::set<std::string_view> connus = {
+        "fcntl.h", "poll.h", "signal.h", "spawn.h", "unistd.h", "errno.h", "dirent.h", "stdlib.h", "sched.h"};
     return CommencePar(entete, "sys/") || connus.contains(entete);
 }
 

@@ -1,7 +1,7 @@
 // What counts as a path that is there twice.
 #include "paths/doublons.h"
 
-#include "outils/traces.h"
+#include "paths/traces.h"
 
 #include <gtest/gtest.h>
 

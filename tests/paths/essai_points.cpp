@@ -1,7 +1,7 @@
 // Boxes, reversing and joining of paths.
 #include "paths/points.h"
 
-#include "outils/traces.h"
+#include "paths/traces.h"
 
 #include <gtest/gtest.h>
 
