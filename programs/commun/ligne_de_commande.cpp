@@ -127,7 +127,7 @@ CLI::Validator UnNombre() {
 }
 
 std::string RaisonUsage(const CLI::App& programme, const CLI::ParseError& erreur) {
-    const std::string phrase = erreur.what();
+    std::string phrase = erreur.what();
     if (dynamic_cast<const CLI::ExtrasError*>(&erreur) != nullptr)
         return SelonLangue("inattendu : ", "unexpected: ") + Apres(phrase, ": ");
     if (dynamic_cast<const CLI::RequiredError*>(&erreur) != nullptr) {
