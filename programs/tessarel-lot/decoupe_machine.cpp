@@ -9,6 +9,7 @@
 #include "app/texts/textes_programme.h"
 #include "link/echange.h"
 #include "link/etat_interface.h"
+#include "link/sortie.h"
 #include "platform/dialogue.h"
 #include "platform/flux_standards.h"
 #include "platform/horloge.h"
@@ -58,6 +59,7 @@ class StopParSignal {
 public:
     StopParSignal(DemandesMarche& demandes, LignesSansAttente& lignes) {
         EcouterSignauxDeFin(SecondSigint::Compte, Suspension::Notee);
+        EcouterPlantages([] { EteindreEnSortant(); });
         m_ancienne = InstallerPompe([this, &demandes, &lignes] {
             lignes.Offrir();
             const int recus = SignauxDeFinRecus();

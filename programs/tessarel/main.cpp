@@ -5,6 +5,7 @@
 #include "app/ui/application.h"
 #include "app/ui/frmSplashScreen.h"
 #include "link/commandes.h"
+#include "link/sortie.h"
 #include "machine/table_machine.h"
 #include "machine/ui/frmD4X_matieres.h"
 #include "machine/ui/frmParametresTables.h"
@@ -75,6 +76,7 @@ bool MontrerSplash(ApplicationTessarel& application, Fenetres& fenetres) {
 int main(int argc, char** argv) {
     ApplicationTessarel application(argc, argv);
     EcouterSignauxDeFin(SecondSigint::Compte, Suspension::Ignoree); // a wire may have to be put out first
+    EcouterPlantages([] { EteindreEnSortant(); });
     AppliquerTheme(Theme::Systeme);
     InstallerBoitesQt();
     InstallerPompeQt();

@@ -3,6 +3,7 @@
 
 #include "app/texts/textes.h"
 #include "app/texts/textes_programme.h"
+#include "link/sortie.h"
 #include "platform/dialogue.h"
 
 namespace tessarel {
@@ -24,8 +25,10 @@ bool filAllumeIci = false;
 void NoterChauffePossible(const Tampon& commande) {
     const bool chauffe = commande[1] == CommandeChauffe && commande[2] == ChauffeEnMarche && commande[3] != 0;
     const bool lance = commande[1] == CommandeFile && commande[2] == FileLancer;
-    if (chauffe || lance) chauffePeutEtreActive = true;
+    if (!chauffe && !lance) return;
+    chauffePeutEtreActive = true;
     if (chauffe) filAllumeIci = true;
+    VeillerALaSortie();
 }
 
 void NoterChauffeCoupee(const Tampon& commande, const Tampon& reponse) {

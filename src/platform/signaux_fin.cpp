@@ -3,6 +3,7 @@
 
 #include <csignal>
 #include <initializer_list>
+#include <unistd.h>
 
 namespace tessarel {
 
@@ -19,7 +20,36 @@ void Noter(int signal) {
     recus = recus + 1;
 }
 
+void (*secoursDuPlantage)() = nullptr;
+
+// The handler of each of these signals is the system's own again by now: a crash in here ends the program.
+void Planter(int signal) {
+    constexpr unsigned secondesAuPlus = 3;
+    ::alarm(secondesAuPlus);
+    secoursDuPlantage();
+    std::raise(signal);
+}
+
 } // namespace
+
+void EcouterPlantages(void (*secours)()) {
+#ifndef __SANITIZE_ADDRESS__ // which tells of a crash itself
+    secoursDuPlantage = secours;
+    // A place of its own: the usual one may have overflowed.
+    static char place[65536];
+    stack_t pile{};
+    pile.ss_sp = place;
+    pile.ss_size = sizeof place;
+    ::sigaltstack(&pile, nullptr);
+    struct sigaction planter {};
+    planter.sa_handler = Planter;
+    planter.sa_flags = static_cast<int>(SA_RESETHAND | SA_NODEFER | SA_ONSTACK);
+    for (const int signal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT})
+        ::sigaction(signal, &planter, nullptr);
+#else
+    static_cast<void>(secours);
+#endif
+}
 
 void EcouterSignauxDeFin(SecondSigint second, Suspension suspension) {
     recus = 0;

@@ -13,6 +13,9 @@ enum class SecondSigint { Termine, Compte };
 enum class Suspension { Ordinaire, Ignoree, Notee };
 void EcouterSignauxDeFin(SecondSigint second = SecondSigint::Termine,
                          Suspension suspension = Suspension::Ordinaire);
+// A crash of the program (an address that is none, an impossible instruction, abort) calls `secours` first,
+// once and for three seconds at most, and ends it as before. `secours` may only do what needs no memory.
+void EcouterPlantages(void (*secours)());
 bool FinDemandee();
 // How many were noted.
 int SignauxDeFinRecus();

@@ -3,6 +3,7 @@
 #include "app/ui/application.h"
 #include "fenetres/coupe_2d.h"
 #include "fenetres/poste_machine.h"
+#include "fenetres/poste_manuel.h"
 #include "machine/ui/frmD4X_matieres.h"
 #include "machine/ui/frmParametresTables.h"
 #include "platform/signaux_fin.h"
@@ -67,6 +68,7 @@ public:
         departsAvant = virtuelle.Compter(CommandeFile, 128);
         virtuelle.FixerParEchange(Suspendu() ? 200ms : 5ms);
         std::raise(m_signal);
+        if (Suspendu()) std::raise(SIGCONT);
     }
     // The same as soon as `moment` holds while a loop lets events run.
     void LeverQuand(std::function<bool()> moment) {
@@ -316,6 +318,10 @@ private slots:
     void DansChaqueEtat_data();
     void DansChaqueEtat();
     void UnSecondNAttendPasLaReponse();
+    void GeleEnPleineDecoupe_data();
+    void GeleEnPleineDecoupe();
+    void GeleFilChaud_data();
+    void GeleFilChaud();
 };
 
 void EssaiSignaux2D::DansChaqueEtat_data() {
@@ -369,6 +375,60 @@ void EssaiSignaux2D::UnSecondNAttendPasLaReponse() {
              FinNormale);
     QVERIFY(second > 0 && froid);
     QVERIFY(scene.FroidEtImmobile());
+}
+
+// Halted and let go again (SIGSTOP, a lid that was closed) the program finds the machine minutes later, which
+// has gone on as far as its queue went. A short queue ran dry, and the rest of the cut comes then.
+void EssaiSignaux2D::GeleEnPleineDecoupe_data() {
+    QTest::addColumn<int>("capacite");
+    QTest::addRow("all in the queue") << int(simulateur::CapaciteFileUsuelle);
+    QTest::addRow("a queue that runs dry") << 3;
+}
+void EssaiSignaux2D::GeleEnPleineDecoupe() {
+    QFETCH(int, capacite);
+    ReglagesCoupe reglages;
+    reglages.capaciteFile = static_cast<std::size_t>(capacite);
+    Coupe coupe(reglages);
+    const auto pas = coupe.PasVoulus();
+    coupe.Quand(QStringLiteral("Découpe segment n°3/"), [&] {
+        QVERIFY(!coupe.FilFroid());
+        coupe.virtuelle.Attendre(10min);
+    });
+    coupe.Lancer();
+    coupe.virtuelle.SurPompe = {};
+    QVERIFY(coupe.fait);
+    QVERIFY(coupe.FilFroid());
+    QCOMPARE(int(coupe.virtuelle.boite->Etat().pwmFil), 0);
+    QVERIFY(coupe.AuRepos());
+    QCOMPARE(coupe.poste.NombreBoites(), std::size_t(1));
+    QCOMPARE(coupe.poste.DerniereBoite().titre, std::string("machine disponible"));
+    QVERIFY(coupe.virtuelle.boite->Comptes().pas == pas);
+    QCOMPARE(coupe.virtuelle.boite->Comptes().famines > 0, capacite == 3);
+}
+
+void EssaiSignaux2D::GeleFilChaud_data() {
+    QTest::addColumn<bool>("boutonStop");
+    QTest::addRow("nothing has happened") << false;
+    QTest::addRow("the STOP button meanwhile") << true;
+}
+void EssaiSignaux2D::GeleFilChaud() {
+    QFETCH(bool, boutonStop);
+    Manuel manuel;
+    manuel.poste.Trouver<QScrollBar>("hscChauffeFilManuel").setValue(60);
+    manuel.poste.Cliquer<QToolButton>("optChauffe_1");
+    manuel.poste.Trouver<QTimer>("TimerClignotement").setInterval(5);
+    manuel.virtuelle.Attendre(10min);
+    if (boutonStop) manuel.virtuelle.boite->AppuyerStop();
+    const auto& signe = manuel.poste.Trouver<QLabel>("lblFilChaud");
+    if (boutonStop) {
+        QTRY_VERIFY_WITH_TIMEOUT(signe.isHidden(), 2000);
+        QCOMPARE(manuel.poste.Trouver<QLabel>("lblEtatManuel").text(),
+                 QStringLiteral("La machine a coupé la chauffe"));
+    } else {
+        QTest::qWait(60);
+        QVERIFY(signe.isVisible());
+    }
+    QCOMPARE(int(manuel.virtuelle.boite->Etat().pwmFil), boutonStop ? 0 : 153);
 }
 
 int main(int argc, char** argv) {
