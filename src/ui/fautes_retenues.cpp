@@ -15,6 +15,7 @@ struct Retenue {
 int g_tours = 0;    // turns under way, one inside another
 Retenue g_attend;   // kept in one of them
 Retenue g_derniere; // thrown last
+std::function<void()> g_suite;
 
 class Tour {
 public:
@@ -44,6 +45,14 @@ bool RetenirFaute(const std::exception_ptr& faute, OrigineFaute origine) {
 
 OrigineFaute OrigineDe(const std::exception_ptr& faute, OrigineFaute defaut) {
     return g_derniere.faute && faute == g_derniere.faute ? g_derniere.origine : defaut;
+}
+
+void DireApresLaFaute(std::function<void()> dire) {
+    g_suite = std::move(dire);
+}
+
+void DireLaSuiteDeLaFaute() {
+    if (const auto dire = std::exchange(g_suite, {})) dire();
 }
 
 } // namespace tessarel

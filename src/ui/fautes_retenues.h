@@ -24,4 +24,10 @@ bool RetenirFaute(const std::exception_ptr& faute, OrigineFaute origine);
 // Where `faute` came from, if it was the last one kept; `defaut` for any other.
 OrigineFaute OrigineDe(const std::exception_ptr& faute, OrigineFaute defaut);
 
+// For whoever lets a fault go on up that has left something behind: `dire` tells it, once the fault itself
+// has been told.
+void DireApresLaFaute(std::function<void()> dire);
+// For whoever has just told one.
+void DireLaSuiteDeLaFaute();
+
 } // namespace tessarel

@@ -274,10 +274,14 @@ ResultatDecoupe LancerDecoupeTS2D(const DecoupePreparee& preparee, const TableMa
     return p.resultat;
 }
 
+void AnnoncerHorsRepos() {
+    Alerter(RangeeHorsRepos);
+}
+
 void AnnulerReprise(const SuiviDecoupe& suivi) {
     RefroidirFil(SuiviDeMarche(suivi));
     ViderFile();
-    Alerter(RangeeHorsRepos);
+    AnnoncerHorsRepos();
     if (suivi.ChangerPhase) suivi.ChangerPhase(PhaseDecoupe::Repos);
 }
 

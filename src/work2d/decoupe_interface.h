@@ -91,6 +91,8 @@ ResultatDecoupe LancerDecoupeTS2D(const DecoupePreparee& preparee, const TableMa
 // Gives up after a stop: heat off until confirmed, queue emptied, and the warning that the wire is not at
 // rest.
 void AnnulerReprise(const SuiviDecoupe& suivi);
+// That warning.
+void AnnoncerHorsRepos();
 
 // As the requests of a run need it.
 SuiviMarche SuiviDeMarche(const SuiviDecoupe& suivi);

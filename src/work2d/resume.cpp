@@ -58,4 +58,10 @@ ResumeDecoupe2D PreparerResume(float duree, const OptionsDecoupe2D& options, con
     return resume;
 }
 
+void ChangerChauffe(ResumeDecoupe2D& resume, float chauffe, const OptionsDecoupe2D& options,
+                    const std::string& nomMatiere) {
+    resume.chauffe = chauffe;
+    resume.texte = TexteResume(resume, options.modeExpert, nomMatiere);
+}
+
 } // namespace tessarel

@@ -26,4 +26,8 @@ struct ResumeDecoupe2D {
 ResumeDecoupe2D PreparerResume(float duree, const OptionsDecoupe2D& options, const TableMachine& table,
                                const std::string& nomMatiere);
 
+// The summary of a cut whose heat was changed under way, percent; the rest as it was prepared.
+void ChangerChauffe(ResumeDecoupe2D& resume, float chauffe, const OptionsDecoupe2D& options,
+                    const std::string& nomMatiere);
+
 } // namespace tessarel

@@ -14,6 +14,8 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QStyle>
+#include <QStyleOptionSlider>
 #include <QToolButton>
 
 #include <algorithm>
@@ -30,6 +32,9 @@ private slots:
     void PendantLaDecoupeRienDAutreNEstAPortee();
     void StopPendantLaChauffe();
     void LaChauffeSuitLeCurseur();
+    void UnCurseurLacheEnvoieUneFois_data();
+    void UnCurseurLacheEnvoieUneFois();
+    void LeResumeDitLaChauffeDuCurseur();
     void RepriseApresStop();
     void StopPendantLaChauffeDeLaReprise();
     void RetourApresStop_data();
@@ -86,6 +91,9 @@ void EssaiCourse2D::UneDecoupeVaAuBout() {
     QVERIFY(coupe.virtuelle.boite->Comptes().pas == coupe.PasVoulus());
     QVERIFY(coupe.virtuelle.boite->Position() == simulateur::PositionPas{});
     QVERIFY(coupe.AuRepos());
+    coupe.poste.Cliquer<QPushButton>("cmdAnnulerDecoupe");
+    QVERIFY(coupe.poste.fenetre->Course().preparee.liste.salves.empty());
+    QVERIFY(coupe.poste.fenetre->DecoupeMontree().SequenceDecoupe.Points.empty());
 }
 
 void EssaiCourse2D::PendantLaDecoupeRienDAutreNEstAPortee() {
@@ -147,6 +155,99 @@ void EssaiCourse2D::LaChauffeSuitLeCurseur() {
     QVERIFY(coupe.FilFroid());
 }
 
+void EssaiCourse2D::UnCurseurLacheEnvoieUneFois_data() {
+    QTest::addColumn<int>("pixels"); // that the hand moves it
+    QTest::addRow("where it was") << 0;
+    QTest::addRow("elsewhere") << 25;
+}
+// Let go where it was, the heat goes out once more: that is how a user makes sure. Let go elsewhere, it has
+// gone out with the last change already.
+void EssaiCourse2D::UnCurseurLacheEnvoieUneFois() {
+    QFETCH(int, pixels);
+    Coupe coupe;
+    auto& curseur = coupe.poste.Trouver<QScrollBar>("hscChauffePendantDecoupe");
+    QStyleOptionSlider option;
+    QPointF main;
+    const auto souris = [&](QEvent::Type genre, Qt::MouseButton bouton, Qt::MouseButtons tenus) {
+        QMouseEvent evenement(genre, main, curseur.mapToGlobal(main), bouton, tenus, Qt::NoModifier);
+        QApplication::sendEvent(&curseur, &evenement);
+    };
+    const auto envois = [&] { return coupe.virtuelle.Compter(CommandeChauffe, 1); };
+    int debut = 0;
+    std::size_t avant = 0;
+    std::size_t tenu = 0;
+    std::size_t lache = 0;
+    int tours = 0; // of the loop, since the segment began
+    coupe.virtuelle.SurPompe = [&] {
+        if (!coupe.Avertissement().startsWith(QStringLiteral("Découpe segment n°3/"))) return;
+        ++tours;
+        if (tours == 1) {
+            curseur.setSliderPosition(debut = curseur.maximum() / 2);
+        } else if (tours == 5) {
+            avant = envois();
+            option.initFrom(&curseur);
+            option.orientation = Qt::Horizontal;
+            option.subControls = QStyle::SC_All;
+            option.minimum = curseur.minimum();
+            option.maximum = curseur.maximum();
+            option.sliderPosition = option.sliderValue = curseur.value();
+            option.pageStep = curseur.pageStep();
+            main = curseur.style()
+                       ->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &curseur)
+                       .center();
+            souris(QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton);
+            QVERIFY(curseur.isSliderDown());
+            main += QPointF(pixels, 0);
+            souris(QEvent::MouseMove, Qt::NoButton, Qt::LeftButton);
+        } else if (tours == 9) {
+            QCOMPARE(curseur.value() != debut, pixels != 0);
+            tenu = envois();
+            souris(QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton);
+        } else if (tours == 13) {
+            lache = envois();
+        }
+    };
+    coupe.Lancer();
+    QVERIFY(tours >= 13);
+    QCOMPARE(tenu, avant + (pixels != 0 ? 1 : 0));
+    QCOMPARE(lache, avant + 1);
+    QVERIFY(coupe.FilFroid());
+}
+
+// One heat is said, and not the starting one above the slider's.
+void EssaiCourse2D::LeResumeDitLaChauffeDuCurseur() {
+    Coupe coupe;
+    const auto resume = [&] { return coupe.poste.Trouver<QLabel>("lblResumeCourse").text(); };
+    const auto curseur = [&] { return coupe.poste.Trouver<QLabel>("lblChauffePendantDecoupe").text(); };
+    QString depart;
+    coupe.Quand(QStringLiteral("Découpe segment n°3/"), [&] {
+        depart = resume();
+        QVERIFY2(depart.contains(QStringLiteral("Chauffe : %1 - ").arg(curseur().remove(u' '))),
+                 qPrintable(depart));
+        coupe.poste.Trouver<QScrollBar>("hscChauffePendantDecoupe").setValue(51);
+        QCOMPARE(curseur(), QStringLiteral("25.5 %"));
+        QVERIFY2(resume().contains(QStringLiteral("\nChauffe : 25.5% - Décalage : ")), qPrintable(resume()));
+        QCOMPARE(resume().section(u'\n', 0, 0), depart.section(u'\n', 0, 0));
+        QCOMPARE(resume().section(u'\n', 2), depart.section(u'\n', 2));
+    });
+    const auto geste = coupe.virtuelle.SurPompe;
+    coupe.virtuelle.SurPompe = [&] {
+        geste();
+        if (coupe.Avertissement().startsWith(QStringLiteral("Découpe segment n°4/")))
+            coupe.poste.Cliquer<QPushButton>("cmdSTOP");
+    };
+    coupe.Lancer();
+    QVERIFY(coupe.fait && coupe.Arretee());
+    QVERIFY(resume().contains(QStringLiteral("Chauffe : 25.5% - ")));
+    // The next cut begins with its own heat.
+    coupe.virtuelle.SurPompe = {};
+    coupe.poste.Cliquer<QPushButton>("cmdAnnulerReprise");
+    coupe.poste.Cliquer<QPushButton>("cmdDecouper");
+    coupe.Quand(QStringLiteral("Découpe segment n°3/"), [&] { QCOMPARE(resume(), depart); });
+    coupe.Lancer();
+    QVERIFY(coupe.fait);
+}
+
 void EssaiCourse2D::RepriseApresStop() {
     Coupe coupe;
     const auto voulus = coupe.PasVoulus();
@@ -201,16 +302,31 @@ void EssaiCourse2D::RetourApresStop() {
     const auto arret = coupe.virtuelle.boite->Position();
     QVERIFY(arret[AxeX1] != 0 && arret[AxeY1] != 0);
     coupe.poste.Cliquer<QRadioButton>(trajet == 0 ? "optTrajetRetour_0" : "optTrajetRetour_1");
-    bool parLeBord = false;
+    std::vector<PointProfil> chemin;
+    int aCoteDuBord = 0; // looks at a wire that is neither at the height of the stop nor at X = 0
     coupe.virtuelle.SurPompe = [&] {
-        const auto position = coupe.virtuelle.boite->Position();
-        parLeBord = parLeBord || (position[AxeX1] == 0 && position[AxeY1] == arret[AxeY1]);
         QVERIFY(!coupe.poste.Trouver<QPushButton>("cmdSTOP").isVisible());
+        if (!coupe.Avertissement().startsWith(QStringLiteral("Découpe segment n°"))) return;
+        chemin = coupe.poste.fenetre->Course().decoupe.SequenceDecoupe.Points;
+        const auto position = coupe.virtuelle.boite->Position();
+        if (position[AxeX1] != 0 && position[AxeY1] != arret[AxeY1]) ++aCoteDuBord;
     };
     coupe.poste.Cliquer<QPushButton>("cmdLancerRetourApresStop");
+    coupe.virtuelle.SurPompe = {};
     QVERIFY(coupe.virtuelle.boite->Position() == simulateur::PositionPas{});
-    QCOMPARE(coupe.virtuelle.boite->Position()[AxeX1], 0);
-    QVERIFY(trajet == 1 || !parLeBord);
+    const double x = MillimetresDePas(TableINI, AxeX1, double(arret[AxeX1]));
+    const double y = MillimetresDePas(TableINI, AxeY1, double(arret[AxeY1]));
+    QCOMPARE(chemin.size(), std::size_t(3));
+    QCOMPARE(chemin[0].X, x);
+    QCOMPARE(chemin[0].Y, y);
+    QCOMPARE(chemin[1].X, trajet == 1 ? 0.0 : x / 2);
+    QCOMPARE(chemin[1].Y, trajet == 1 ? y : y / 2);
+    QCOMPARE(chemin[2].X, 0.0);
+    QCOMPARE(chemin[2].Y, 0.0);
+    if (trajet == 1)
+        QCOMPARE(aCoteDuBord, 0);
+    else
+        QVERIFY(aCoteDuBord > 10);
     QCOMPARE(coupe.poste.DerniereBoite().texte, TextesDoubles(44, 1));
     QVERIFY(coupe.FilFroid());
     QVERIFY(coupe.AuRepos());
@@ -242,6 +358,8 @@ void EssaiCourse2D::AbandonApresStop() {
     QVERIFY(coupe.FilFroid());
     QVERIFY(!coupe.poste.fenetre->DecoupeOuverte());
     QVERIFY(coupe.poste.fenetre->DecoupeMontree().SequenceDecoupe.Points.empty());
+    QVERIFY(coupe.poste.fenetre->Course().decoupe.SequenceDecoupe.Points.empty());
+    QVERIFY(coupe.poste.fenetre->Course().preparee.liste.salves.empty());
     QVERIFY(coupe.poste.Trouver<QToolButton>("cmdOuvrirFichierTS2D").isEnabled());
     coupe.poste.Cliquer<QPushButton>("cmdDecouper");
     QVERIFY(coupe.AuRepos());

@@ -56,6 +56,8 @@ private slots:
     void FermerPendantLesQuestionsDuDepartNeDemarreRien();
     void UneFauteEnMarche_data();
     void UneFauteEnMarche();
+    void UneFauteSansOrigineAutomatique_data();
+    void UneFauteSansOrigineAutomatique();
     void UnSignalArreteEtFerme();
 };
 
@@ -159,14 +161,57 @@ void EssaiFinsCourse2D::UneFauteEnMarche() {
     f.Lancer();
     QVERIFY(f.fait);
     QVERIFY(f.FilFroid());
-    QCOMPARE(f.poste.NombreBoites(), std::size_t(1));
-    QVERIFY(f.poste.DerniereBoite().icone == IconeBoite::Critique);
-    QVERIFY(f.poste.DerniereBoite().texte.find("the display is gone") != std::string::npos);
+    QCOMPARE(f.poste.NombreBoites(), std::size_t(etat == "decoupe" ? 2 : 1));
+    QVERIFY(f.poste.boites.boites[0].icone == IconeBoite::Critique);
+    QVERIFY(f.poste.boites.boites[0].texte.find("the display is gone") != std::string::npos);
+    QCOMPARE(f.Boites("Arrêt dans la zone utile"), std::size_t(etat == "decoupe" ? 1 : 0));
     QVERIFY(f.AuRepos());
     f.virtuelle.SurPompe = {};
     f.virtuelle.boite->PoserChariots({2 * 1600, 254 * 1600, 0, 254 * 1600});
     f.Lancer();
     QCOMPARE(f.poste.DerniereBoite().titre, std::string("machine disponible"));
+}
+
+void EssaiFinsCourse2D::UneFauteSansOrigineAutomatique_data() {
+    QTest::addColumn<QByteArray>("suite"); // of a stop; else the cut itself
+    QTest::addColumn<QString>("mots");
+    QTest::addColumn<bool>("ailleurs"); // the wire stands on its way
+    QTest::addRow("heating") << QByteArray() << "Chauffe " << false;
+    QTest::addRow("cutting") << QByteArray() << "Découpe segment n°2/" << true;
+    QTest::addRow("heating for the rest") << QByteArray("cmdRepriseDecoupe") << "Chauffe " << true;
+    QTest::addRow("heating for the return") << QByteArray("cmdLancerRetourApresStop") << "Chauffe " << true;
+    QTest::addRow("returning") << QByteArray("cmdLancerRetourApresStop") << "Découpe segment n°2/" << true;
+}
+// Nothing takes the wire back before the next cut: it would start from where the fault has left it.
+void EssaiFinsCourse2D::UneFauteSansOrigineAutomatique() {
+    QFETCH(QByteArray, suite);
+    QFETCH(QString, mots);
+    QFETCH(bool, ailleurs);
+    Coupe c;
+    QVERIFY(!TableINI.OrigineAutomatique);
+    if (!suite.isEmpty()) c.Arreter();
+    c.Quand(mots, [] { throw std::runtime_error("the display is gone"); });
+    if (suite.isEmpty())
+        c.Lancer();
+    else
+        c.poste.Cliquer<QPushButton>(suite.constData());
+    QVERIFY(c.fait && c.FilFroid());
+    QCOMPARE(c.virtuelle.boite->Position() != simulateur::PositionPas{}, ailleurs);
+    QCOMPARE(c.poste.NombreBoites(), std::size_t(ailleurs ? 2 : 1));
+    QVERIFY(c.poste.boites.boites[0].texte.find("the display is gone") != std::string::npos);
+    if (ailleurs) {
+        QCOMPARE(c.poste.DerniereBoite().texte,
+                 std::string("Attention, le fil n'est pas à sa position de repos."));
+        QCOMPARE(c.poste.DerniereBoite().titre, std::string("Arrêt dans la zone utile"));
+    }
+    QVERIFY(c.AuRepos());
+    // Told once: the next fault that leaves the wire at rest says nothing of it.
+    c.virtuelle.boite->PoserChariots({});
+    c.poste.boites.boites.clear();
+    c.Quand(QStringLiteral("Chauffe "), [] { throw std::runtime_error("the display is gone"); });
+    c.Lancer();
+    QVERIFY(c.fait && c.FilFroid());
+    QCOMPARE(c.poste.NombreBoites(), std::size_t(1));
 }
 
 void EssaiFinsCourse2D::UnSignalArreteEtFerme() {

@@ -18,7 +18,11 @@ private slots:
     void LeResteChauffeCommeLeCurseurALaisse();
     void UneChauffeTireeAZeroNEstPasGardee();
     void UneMachineChangeeSousLeMemeNomNePartPas();
+    void UneMachineChangeeSansMemoireOuvreLesReglages_data();
+    void UneMachineChangeeSansMemoireOuvreLesReglages();
     void UneAutreTableRenonceALaSuite();
+    void UneMachineChangeeALArretEstDite_data();
+    void UneMachineChangeeALArretEstDite();
 };
 
 void EssaiSuite2D::UneBoiteRemiseSousTensionRecoitSaTable_data() {
@@ -132,8 +136,42 @@ void EssaiSuite2D::UneMachineChangeeSousLeMemeNomNePartPas() {
     QCOMPARE(TableINI.CourseX, autre.CourseX);
     QCOMPARE(coupe.virtuelle.Compter(CommandeFile, 128), std::size_t(0));
     QVERIFY(coupe.AuRepos());
+    QCOMPARE(coupe.poste.NombreBoites(), std::size_t(1));
+    QCOMPARE(coupe.poste.DerniereBoite().titre, std::string("Machine modifiée"));
+    QCOMPARE(
+        coupe.poste.DerniereBoite().texte,
+        std::string("Rien n'a été lancé : la découpe affichée était calculée pour d'autres valeurs de la "
+                    "machine.\r\n"
+                    "Elle l'est maintenant pour « Atelier ». Vérifiez-la, puis lancez-la de nouveau."));
     coupe.Lancer(); // now for the machine that is shown
     QCOMPARE(coupe.virtuelle.Compter(CommandeFile, 128), std::size_t(1));
+}
+
+void EssaiSuite2D::UneMachineChangeeSansMemoireOuvreLesReglages_data() {
+    QTest::addColumn<bool>("oui");
+    QTest::addRow("yes") << true;
+    QTest::addRow("no") << false;
+}
+// The values of the settings are others than those of the cut, and no memory of the box holds them.
+void EssaiSuite2D::UneMachineChangeeSansMemoireOuvreLesReglages() {
+    QFETCH(bool, oui);
+    ReglagesCoupe reglagesCoupe;
+    reglagesCoupe.machine = "Atelier";
+    Coupe coupe(reglagesCoupe);
+    TableMachine autre = TableINI;
+    autre.PenteAcceleration = 3;
+    EcrireMachine(autre);
+    const QSignalSpy reglages(coupe.poste.fenetre.get(), &frmTessarel2D::ParametrerMachine);
+    coupe.poste.boites.reponses = {oui ? ReponseBoite::Oui : ReponseBoite::Non};
+    coupe.Lancer();
+    QVERIFY(MemesValeurs(TableINI, autre));
+    QCOMPARE(coupe.poste.NombreBoites(), std::size_t(2));
+    QVERIFY(
+        coupe.poste.boites.boites[0].texte.starts_with("Pas de correspondance entre la table en mémoire"));
+    QCOMPARE(coupe.poste.boites.boites[1].titre, std::string("Machine modifiée"));
+    QCOMPARE(reglages.count(), oui ? 1 : 0);
+    QCOMPARE(coupe.virtuelle.Compter(CommandeFile, 128), std::size_t(0));
+    QVERIFY(coupe.AuRepos());
 }
 
 void EssaiSuite2D::UneAutreTableRenonceALaSuite() {
@@ -149,6 +187,37 @@ void EssaiSuite2D::UneAutreTableRenonceALaSuite() {
     QCOMPARE(reglages.count(), 1);
     QCOMPARE(coupe.poste.DerniereBoite().titre, std::string("Arrêt dans la zone utile"));
     QVERIFY(!coupe.poste.fenetre->Course().arretee);
+    QVERIFY(coupe.FilFroid());
+}
+
+void EssaiSuite2D::UneMachineChangeeALArretEstDite_data() {
+    QTest::addColumn<QByteArray>("bouton");
+    QTest::addRow("resume") << QByteArray("cmdRepriseDecoupe");
+    QTest::addRow("return") << QByteArray("cmdLancerRetourApresStop");
+    QTest::addRow("refresh") << QByteArray("cmdRafraichirUsbTS2D");
+}
+// First why the cut is given up, then where that leaves the wire.
+void EssaiSuite2D::UneMachineChangeeALArretEstDite() {
+    QFETCH(QByteArray, bouton);
+    ReglagesCoupe reglages;
+    reglages.machine = "Atelier";
+    Coupe coupe(reglages);
+    coupe.Arreter();
+    QVERIFY(coupe.Arretee());
+    TableMachine autre = TableINI;
+    autre.CourseX += 100; // nothing that the box holds
+    EcrireMachine(autre);
+    coupe.poste.Cliquer<QAbstractButton>(bouton.constData());
+    QCOMPARE(coupe.poste.NombreBoites(), std::size_t(2));
+    QCOMPARE(coupe.poste.boites.boites[0].titre, std::string("Machine modifiée"));
+    QCOMPARE(
+        coupe.poste.boites.boites[0].texte,
+        std::string("La découpe arrêtée ne peut pas être reprise : elle était faite pour d'autres valeurs "
+                    "de la machine que celles de « Atelier »."));
+    QCOMPARE(coupe.poste.boites.boites[1].titre, std::string("Arrêt dans la zone utile"));
+    QVERIFY(!coupe.poste.fenetre->Course().arretee && !coupe.poste.fenetre->DecoupeOuverte());
+    QCOMPARE(TableINI.CourseX, autre.CourseX);
+    QCOMPARE(coupe.virtuelle.Compter(CommandeFile, 128), std::size_t(1));
     QVERIFY(coupe.FilFroid());
 }
 

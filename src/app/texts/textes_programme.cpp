@@ -190,6 +190,16 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
     {TexteProgramme::FilChaudSurManuTitre, "Le fil est encore chaud", "The wire is still hot"},
     {TexteProgramme::DecoupeTermineeFilChaud, "Découpe terminée, fil en position de repos.",
      "Cut finished, wire in its rest position."},
+    {TexteProgramme::MachineModifiee,
+     "Rien n'a été lancé : la découpe affichée était calculée pour d'autres valeurs de la machine.\r\n"
+     "Elle l'est maintenant pour « %1 ». Vérifiez-la, puis lancez-la de nouveau.",
+     "Nothing was started: the cut shown had been computed for other values of the machine.\r\n"
+     "It has now been computed for \"%1\". Check it, then start it again."},
+    {TexteProgramme::MachineModifieeTitre, "Machine modifiée", "Machine changed"},
+    {TexteProgramme::MachineModifieeALArret,
+     "La découpe arrêtée ne peut pas être reprise : elle était faite pour d'autres valeurs de la machine que "
+     "celles de « %1 ».",
+     "The stopped cut cannot be resumed: it was made for other values of the machine than those of \"%1\"."},
     {TexteProgramme::ChauffeRattrapee,
      "L'interface répond à nouveau : les mouvements sont arrêtés et la chauffe est coupée.\r\n"
      "Le fil n'est peut-être plus où il était.",

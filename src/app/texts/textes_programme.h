@@ -84,6 +84,9 @@ enum class TexteProgramme {
     FilChaudSurManu,
     FilChaudSurManuTitre,
     DecoupeTermineeFilChaud,
+    MachineModifiee, // %1 machine
+    MachineModifieeTitre,
+    MachineModifieeALArret, // %1 machine
     ChauffeRattrapee,
     ChauffeRattrapeeTitre,
     MachineEnMarche,

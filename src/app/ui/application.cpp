@@ -38,6 +38,7 @@ void Recueillir(const std::exception& faute, const QObject* receveur) {
     if (RetenirFaute(std::current_exception(), ici)) return;
     const OrigineFaute origine = OrigineDe(std::current_exception(), ici);
     AnnoncerFaute(faute, origine.procedure, origine.fenetre);
+    DireLaSuiteDeLaFaute();
 }
 
 } // namespace

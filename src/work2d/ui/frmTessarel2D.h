@@ -55,11 +55,12 @@ struct CourseMachine {
     bool arretee = false;       // the wire stands on its way, the operator decides
     bool fermerEnsuite = false; // the window was closed meanwhile
     GenreDecoupe genre = GenreDecoupe::Decoupe;
-    float chauffe = 0; // percent of this cut, as the slider left it: its rest heats alike
+    float chauffe = 0;      // percent of this cut, as the slider left it: its rest heats alike
+    std::int32_t salve = 0; // last frame that it was seen in; 1 is the pause
     DemandesMarche demandes;
-    Decoupe2D decoupe; // its SequenceDecoupe is what is left of the way
-    DecoupePreparee preparee;
-    ResultatDecoupe arret; // of the stop that waits
+    Decoupe2D decoupe;        // its SequenceDecoupe is what is left of the way
+    DecoupePreparee preparee; // empty again when the window is idle
+    ResultatDecoupe arret;    // of the stop that waits
 };
 
 // A thin skin over Espace2D: it reads controls, calls the engine on TableINI, the current material and the
@@ -191,6 +192,10 @@ private:
     [[nodiscard]] bool Occupee() const;
     void DecouperSurMachine();
     bool LancerCourse(bool origineAuto, bool suite);
+    void LancerSuite(GenreDecoupe genre, Sequence chemin);
+    [[nodiscard]] std::string ResumeDeLaCourse() const;
+    void ChangerChauffeCourse(double pourcent);
+    [[nodiscard]] bool FilHorsRepos();
     void FinirCourse(const ResultatDecoupe& resultat, bool memeArret);
     void FermerSiDemande();
     void AttendreOperateur(const ResultatDecoupe& resultat);
@@ -199,6 +204,7 @@ private:
     void LancerRetour(TrajetRetour trajet);
     void AbandonnerDecoupe();
     void OublierArret();
+    void AbandonnerPourAutreMachine();
     void RetourAuRepos();
     void InitialiserBoutonsDecoupe(int enMarche);
     void PermettreCommandes(bool libre);

@@ -2,6 +2,7 @@
 // window that is closed meanwhile.
 #include "app/texts/textes.h"
 #include "app/texts/textes_programme.h"
+#include "link/commandes.h"
 #include "link/etat_interface.h"
 #include "link/marche.h"
 #include "link/rafraichir.h"
@@ -10,6 +11,7 @@
 #include "ui/alerte.h"
 #include "ui/boites_qt.h"
 #include "ui/canevas.h"
+#include "ui/fautes_retenues.h"
 #include "ui/garde_entrees.h"
 #include "ui/icones.h"
 #include "work2d/ui/frmTessarel2D.h"
@@ -29,6 +31,9 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include <algorithm>
+#include <utility>
+
 namespace tessarel {
 
 namespace {
@@ -41,10 +46,7 @@ void frmTessarel2D::RelierCourse() {
     connect(cmdRafraichirUsbTS2D, &QToolButton::clicked, this, [this] { RafraichirInterface(); });
     connect(m_panneauCourse, &PanneauCourse::StopDemande, this,
             [this] { m_course.demandes.StopDemande = true; });
-    connect(m_panneauCourse, &PanneauCourse::ChauffeVoulue, this, [this](double pourcent) {
-        m_course.chauffe = m_course.demandes.ChauffeVoulue = static_cast<float>(pourcent);
-        m_course.demandes.ChauffeModifiee = true;
-    });
+    connect(m_panneauCourse, &PanneauCourse::ChauffeVoulue, this, &frmTessarel2D::ChangerChauffeCourse);
     connect(m_panneauCourse, &PanneauCourse::RepriseDemandee, this, &frmTessarel2D::ReprendreDecoupe);
     connect(m_panneauCourse, &PanneauCourse::RetourDemande, this, &frmTessarel2D::LancerRetour);
     connect(m_panneauCourse, &PanneauCourse::AbandonDemande, this, &frmTessarel2D::AbandonnerDecoupe);
@@ -64,8 +66,7 @@ void frmTessarel2D::RafraichirInterface(QuestionMachine question) {
     if (MemesValeurs(TableINI, machine)) {
         MontrerLiaison();
     } else {
-        // The steps of a stop say nothing to another machine.
-        if (m_course.arretee) AbandonnerDecoupe();
+        AbandonnerPourAutreMachine();
         ActualiserMachine();
     }
     FermerSiDemande();
@@ -102,13 +103,16 @@ void frmTessarel2D::DecouperSurMachine() {
     if (m_course.fermerEnsuite) return FermerSiDemande();
     // The settings gave another machine, or other values of it, than the cut was made for: it is shown before
     // anything moves.
-    if (!MemesValeurs(TableINI, machine)) {
+    const bool autre = !MemesValeurs(TableINI, machine);
+    if (autre) {
         ActualiserMachine();
-        return;
+        AfficherExclamation(TexteRempli(TexteProgramme::MachineModifiee, {TableINI.Nom}),
+                            Texte(TexteProgramme::MachineModifieeTitre));
+    } else {
+        MontrerLiaison();
     }
-    MontrerLiaison();
     if (avant == AvantDecoupe::OuvrirParametrage) OuvrirReglages(&frmTessarel2D::ParametrerMachine);
-    if (avant != AvantDecoupe::Permise) return;
+    if (autre || avant != AvantDecoupe::Permise) return;
     m_course.genre = GenreDecoupe::Decoupe;
     m_course.decoupe = m_decoupe;
     LancerCourse(TableINI.OrigineAutomatique, false);
@@ -120,6 +124,7 @@ SuiviDecoupe frmTessarel2D::SuiviCourse() {
     suivi.ChangerPhase = [this](PhaseDecoupe phase) { m_panneauCourse->MontrerPhase(phase); };
     suivi.Avancer = [this](const AvanceeDecoupe& avancee) {
         delete m_alerteInterface; // it answers
+        m_course.salve = avancee.NumSalveCourante;
         if (m_trace->Avancer(avancee)) m_panneauCourse->MontrerAvancee(avancee);
     };
     suivi.Prevenir = [this] { PrevenirSilence(); };
@@ -148,15 +153,13 @@ bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
     if (!m_course.preparee.possible) return false;
     m_course.arretee = false;
     m_course.fermerEnsuite = false;
+    m_course.salve = 0;
     m_course.demandes = {};
+    m_course.chauffe = options.chauffe;
     const GardeEntrees garde = GarderCourse();
     InitialiserBoutonsDecoupe(1);
-    std::string resume = m_course.preparee.resume.texte;
-    if (m_course.genre == GenreDecoupe::Retour) resume = TextesEtats(EtatRetour) + "\r\n" + resume;
     m_panneauCourse->Commencer({m_course.genre, static_cast<double>(options.chauffe),
-                                static_cast<double>(TableINI.ChauffeMaxiSur100), resume});
-    m_course.demandes.ChauffeModifiee = false;
-    m_course.chauffe = options.chauffe; // not what the slider makes of it
+                                static_cast<double>(TableINI.ChauffeMaxiSur100), ResumeDeLaCourse()});
     m_trace->Commencer(m_course.decoupe.SequenceDecoupe, m_course.genre, suite);
     ResultatDecoupe resultat;
     try {
@@ -166,6 +169,7 @@ bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
     } catch (...) {
         // Homing has nobody else to stop it. The fault itself is told further up.
         SecourirMarche();
+        if (suite || FilHorsRepos()) DireApresLaFaute(AnnoncerHorsRepos);
         delete m_alerteInterface;
         RetourAuRepos();
         MontrerLiaison();
@@ -177,14 +181,39 @@ bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
     return partie;
 }
 
+// After a fault. The box may have gone on to the first segment unseen.
+bool frmTessarel2D::FilHorsRepos() {
+    constexpr std::int32_t pause = 1;
+    if (m_course.salve == pause) m_course.salve = std::max(pause, DemanderStatut().NumeroSalve);
+    return m_course.salve > pause;
+}
+
+std::string frmTessarel2D::ResumeDeLaCourse() const {
+    const std::string& resume = m_course.preparee.resume.texte;
+    return m_course.genre == GenreDecoupe::Retour ? TextesEtats(EtatRetour) + "\r\n" + resume : resume;
+}
+
+// By the slider. The summary follows: two heats on one page would leave the user to guess.
+void frmTessarel2D::ChangerChauffeCourse(double pourcent) {
+    m_course.chauffe = m_course.demandes.ChauffeVoulue = static_cast<float>(pourcent);
+    m_course.demandes.ChauffeModifiee = true;
+    ChangerChauffe(m_course.preparee.resume, m_course.chauffe, m_options,
+                   comboMatieres->currentText().toStdString());
+    m_panneauCourse->MontrerResume(ResumeDeLaCourse());
+}
+
 // `memeArret`: the rest of a cut did not begin to move, and the operator decides again.
 void frmTessarel2D::FinirCourse(const ResultatDecoupe& resultat, bool memeArret) {
-    if (memeArret)
+    if (memeArret) {
         AttendreOperateur(m_course.arret);
-    else if (resultat.fin == FinDecoupe::Arretee)
+    } else if (resultat.fin == FinDecoupe::Arretee) {
+        const PasAxes& pas = resultat.PositionStop.pas;
+        m_trace->Arreter(resultat.NumSalveCourante, {MillimetresDePas(TableINI, AxeX1, pas[AxeX1]),
+                                                     MillimetresDePas(TableINI, AxeY1, pas[AxeY1])});
         AttendreOperateur(resultat);
-    else
+    } else {
         RetourAuRepos();
+    }
     MontrerLiaison();
     if (m_course.fermerEnsuite && m_course.arretee)
         AbandonnerDecoupe();
@@ -219,11 +248,15 @@ bool frmTessarel2D::LiaisonPermetLaSuite() {
     }
     MontrerLiaison();
     if (liaison == AvantDecoupe::LaisseeEnMarche || liaison == AvantDecoupe::MachineArretee) OublierArret();
-    const bool autre = !MemesValeurs(TableINI, machine); // the steps of a stop say nothing to it
+    const bool autre = !MemesValeurs(TableINI, machine);
     if (!autre && !m_course.fermerEnsuite && liaison != AvantDecoupe::OuvrirParametrage)
         return liaison == AvantDecoupe::Permise;
-    AbandonnerDecoupe();
-    if (autre) ActualiserMachine();
+    if (autre) {
+        AbandonnerPourAutreMachine();
+        ActualiserMachine();
+    } else {
+        AbandonnerDecoupe();
+    }
     if (liaison == AvantDecoupe::OuvrirParametrage && !m_course.fermerEnsuite)
         OuvrirReglages(&frmTessarel2D::ParametrerMachine);
     return false;
@@ -231,24 +264,30 @@ bool frmTessarel2D::LiaisonPermetLaSuite() {
 
 void frmTessarel2D::ReprendreDecoupe() {
     if (Occupee() || !m_course.arretee || !LiaisonPermetLaSuite()) return;
-    const Sequence avant = m_course.decoupe.SequenceDecoupe;
-    m_course.decoupe.SequenceDecoupe =
-        SequenceDeReprise(avant, m_course.arret.NumSalveCourante, m_course.arret.PositionStop.pas,
-                          VitesseEnVigueur(m_options, TableINI), TableINI);
-    if (!LancerCourse(false, true) && m_course.arretee) m_course.decoupe.SequenceDecoupe = avant;
+    LancerSuite(m_course.genre,
+                SequenceDeReprise(m_course.decoupe.SequenceDecoupe, m_course.arret.NumSalveCourante,
+                                  m_course.arret.PositionStop.pas, VitesseEnVigueur(m_options, TableINI),
+                                  TableINI));
 }
 
 void frmTessarel2D::LancerRetour(TrajetRetour trajet) {
     if (Occupee() || !m_course.arretee || !LiaisonPermetLaSuite()) return;
-    const Sequence avant = m_course.decoupe.SequenceDecoupe;
-    const GenreDecoupe genre = m_course.genre;
-    m_course.genre = GenreDecoupe::Retour;
-    m_course.decoupe.SequenceDecoupe =
-        SequenceDeRetour(m_course.arret.NumSalveCourante, m_course.arret.PositionStop.pas, trajet,
-                         VitesseEnVigueur(m_options, TableINI), TableINI);
+    LancerSuite(GenreDecoupe::Retour,
+                SequenceDeRetour(m_course.arret.NumSalveCourante, m_course.arret.PositionStop.pas, trajet,
+                                 VitesseEnVigueur(m_options, TableINI), TableINI));
+}
+
+// The rest of a stopped cut, or the way back. Where it does not begin to move, all is as it was at the stop.
+void frmTessarel2D::LancerSuite(GenreDecoupe genre, Sequence chemin) {
+    const GenreDecoupe genreArrete = std::exchange(m_course.genre, genre);
+    Sequence cheminArrete = std::exchange(m_course.decoupe.SequenceDecoupe, std::move(chemin));
+    DecoupePreparee arretee = std::move(m_course.preparee);
     if (LancerCourse(false, true) || !m_course.arretee) return;
-    m_course.decoupe.SequenceDecoupe = avant;
-    m_course.genre = genre;
+    m_course.genre = genreArrete;
+    m_course.decoupe.SequenceDecoupe = std::move(cheminArrete);
+    m_course.preparee = std::move(arretee);
+    m_trace->Commencer(m_course.decoupe.SequenceDecoupe, m_course.genre, true);
+    m_panneauCourse->RevenirALArret(ResumeDeLaCourse());
 }
 
 void frmTessarel2D::AbandonnerDecoupe() {
@@ -282,9 +321,18 @@ void frmTessarel2D::OublierArret() {
     FermerSiDemande();
 }
 
+// The steps of a stop say nothing to another machine.
+void frmTessarel2D::AbandonnerPourAutreMachine() {
+    if (!m_course.arretee) return;
+    AfficherExclamation(TexteRempli(TexteProgramme::MachineModifieeALArret, {TableINI.Nom}),
+                        Texte(TexteProgramme::MachineModifieeTitre));
+    AbandonnerDecoupe();
+}
+
 void frmTessarel2D::RetourAuRepos() {
     m_course.arretee = false;
     m_course.decoupe = {};
+    m_course.preparee = {};
     m_course.arret = {};
     m_panneauCourse->Finir();
     m_trace->Effacer();

@@ -110,9 +110,16 @@ QGroupBox* PanneauCourse::DisposerChauffe() {
         lblChauffePendantDecoupe->fontMetrics().horizontalAdvance(QStringLiteral("100.0 %")));
     pose->addWidget(hscChauffePendantDecoupe, 1);
     pose->addWidget(lblChauffePendantDecoupe);
-    connect(hscChauffePendantDecoupe, &QScrollBar::valueChanged, this, &PanneauCourse::DemanderChauffe);
-    // Put back where it was, the heat goes out once more: that is how a user makes sure.
-    connect(hscChauffePendantDecoupe, &QScrollBar::sliderReleased, this, &PanneauCourse::DemanderChauffe);
+    connect(hscChauffePendantDecoupe, &QScrollBar::sliderPressed, this, [this] { m_chauffeChangee = false; });
+    connect(hscChauffePendantDecoupe, &QScrollBar::valueChanged, this, [this] {
+        m_chauffeChangee = true;
+        DemanderChauffe();
+    });
+    // Let go where it was, the heat goes out once more: that is how a user makes sure. A change has gone out
+    // already.
+    connect(hscChauffePendantDecoupe, &QScrollBar::sliderReleased, this, [this] {
+        if (!m_chauffeChangee) DemanderChauffe();
+    });
     return optChauffePendantDecoupe;
 }
 
@@ -143,16 +150,25 @@ QGroupBox* PanneauCourse::DisposerReprise() {
     return pctRepriseDecoupe;
 }
 
-void PanneauCourse::DemanderChauffe() {
-    const double pourcent = hscChauffePendantDecoupe->value() / PasParPourcent;
+void PanneauCourse::MontrerChauffe(double pourcent) {
     lblChauffePendantDecoupe->setText(
         QString::fromStdString(PointVersSeparateur(FormaterNombre(pourcent, "##0.0")) + " %"));
+}
+
+void PanneauCourse::DemanderChauffe() {
+    const double pourcent = hscChauffePendantDecoupe->value() / PasParPourcent;
+    MontrerChauffe(pourcent);
     emit ChauffeVoulue(pourcent);
+}
+
+void PanneauCourse::MontrerResume(const std::string& resume) {
+    lblResumeCourse->setText(TexteAffiche(resume));
 }
 
 void PanneauCourse::Commencer(const Depart& depart) {
     m_genre = depart.genre;
-    lblResumeCourse->setText(TexteAffiche(depart.resume));
+    MontrerResume(depart.resume);
+    m_avancait = !progrbarDecoupe->isHidden();
     pctRepriseDecoupe->hide();
     optChauffePendantDecoupe->hide();
     progrbarChauffe->hide();
@@ -162,8 +178,8 @@ void PanneauCourse::Commencer(const Depart& depart) {
         hscChauffePendantDecoupe->setRange(
             0, static_cast<int>(std::lround(depart.chauffeMaxi * PasParPourcent)));
         hscChauffePendantDecoupe->setValue(static_cast<int>(std::lround(depart.chauffe * PasParPourcent)));
-        DemanderChauffe();
     }
+    MontrerChauffe(depart.chauffe); // not what the slider makes of it
     m_avertissement->Ecrire({});
     PermettreStop(true);
 }
@@ -223,6 +239,11 @@ void PanneauCourse::MontrerArret(std::int32_t numero) {
     m_avertissement->Ecrire(TexteAffiche(TextesEtats(EtatArrete)));
     lblNumSegmentStop->setText(TexteAffiche(TitresMessages(MessagesArret) + std::to_string(numero)));
     pctRepriseDecoupe->show();
+}
+
+void PanneauCourse::RevenirALArret(const std::string& resume) {
+    MontrerResume(resume);
+    if (m_avancait) progrbarDecoupe->show(); // nothing has moved it since
 }
 
 void PanneauCourse::Finir() {

@@ -33,11 +33,15 @@ public:
         std::string resume;
     };
     void Commencer(const Depart& depart);
+    void MontrerResume(const std::string& resume);
     void MontrerPhase(PhaseDecoupe phase);
     void MontrerAvancee(const AvanceeDecoupe& avancee);
     // The run stands in frame `numero`: the operator decides. None of its buttons gets the keyboard: the key
     // that pressed Stop must not start anything.
     void MontrerArret(std::int32_t numero);
+    // What was begun after that stop has not moved: the page shows the stop again, with the summary of what
+    // was stopped.
+    void RevenirALArret(const std::string& resume);
     // Nothing runs, nothing waits.
     void Finir();
 
@@ -52,10 +56,13 @@ private:
     QGroupBox* DisposerEtat();
     QGroupBox* DisposerChauffe();
     QGroupBox* DisposerReprise();
+    void MontrerChauffe(double pourcent);
     void DemanderChauffe();
     void PermettreStop(bool permis);
 
     GenreDecoupe m_genre = GenreDecoupe::Decoupe;
+    bool m_chauffeChangee = false;           // since the slider was taken hold of
+    bool m_avancait = false;                 // the run before this one showed how far it was
     PlaceLibelle* m_avertissement = nullptr; // around the label of what the run does
     QLabel* lblAvertissementDecoupe = nullptr;
     QProgressBar* progrbarChauffe = nullptr;

@@ -5,6 +5,7 @@
 #include "work2d/dessin_outils.h"
 
 #include <algorithm>
+#include <span>
 
 namespace tessarel {
 
@@ -19,12 +20,15 @@ void TraceCourse::Commencer(const Sequence& sequence, GenreDecoupe genre, bool r
     m_chemin.clear();
     m_chemin.reserve(sequence.Points.size());
     for (const PointProfil& p : sequence.Points) m_chemin.push_back({p.X, p.Y});
-    if (!reprise) m_faits.clear();
+    if (!reprise) {
+        m_faits.clear();
+        m_fil.reset();
+    }
     m_passes = 0;
     m_retour = genre == GenreDecoupe::Retour;
     m_enDecoupe = false;
-    m_canevas.Montrer(Canevas::CoucheOutil, {});
     MontrerFaits();
+    MontrerFil();
 }
 
 bool TraceCourse::Avancer(const AvanceeDecoupe& avancee) {
@@ -35,19 +39,36 @@ bool TraceCourse::Avancer(const AvanceeDecoupe& avancee) {
     if (!change && maintenant - m_dernierTrace < EntreDeuxTraces) return false;
     m_dernierTrace = maintenant;
     if (!decoupe) return true;
-    // Frame k goes from vertex k - 1 to vertex k, counted from 1.
-    const auto passes =
-        std::min(static_cast<std::size_t>(std::max(avancee.NumSalveCourante - 1, 0)), m_chemin.size());
-    if (passes > m_passes) {
-        const auto neufs = std::span(m_chemin).subspan(m_passes, passes - m_passes);
-        m_faits.insert(m_faits.end(), neufs.begin(), neufs.end());
-        m_passes = passes;
-        m_canevas.Prolonger(Canevas::CoucheSelection, neufs);
-    }
+    Passer(avancee.NumSalveCourante);
     Dessin dessin;
     DessinerSegmentEnCours(dessin, {avancee.XDebut, avancee.YDebut}, {avancee.X1, avancee.Y1});
     m_canevas.Montrer(Canevas::CoucheOutil, std::move(dessin));
     return true;
+}
+
+void TraceCourse::Arreter(std::int32_t numero, PointDessin fil) {
+    Passer(numero);
+    m_faits.push_back(fil);
+    m_canevas.Prolonger(Canevas::CoucheSelection, std::span(&fil, 1));
+    m_fil = fil;
+    MontrerFil();
+}
+
+// Frame k goes from vertex k - 1 to vertex k, counted from 1.
+void TraceCourse::Passer(std::int32_t numero) {
+    const auto passes = std::min(static_cast<std::size_t>(std::max(numero - 1, 0)), m_chemin.size());
+    if (passes <= m_passes) return;
+    const auto neufs = std::span(m_chemin).subspan(m_passes, passes - m_passes);
+    m_faits.insert(m_faits.end(), neufs.begin(), neufs.end());
+    m_passes = passes;
+    m_canevas.Prolonger(Canevas::CoucheSelection, neufs);
+}
+
+// No segment is under way: the ring alone.
+void TraceCourse::MontrerFil() {
+    Dessin dessin;
+    if (m_fil) DessinerSegmentEnCours(dessin, *m_fil, *m_fil);
+    m_canevas.Montrer(Canevas::CoucheOutil, std::move(dessin));
 }
 
 void TraceCourse::MontrerFaits() {
@@ -61,6 +82,7 @@ void TraceCourse::Effacer() {
     m_chemin.clear();
     m_faits.clear();
     m_passes = 0;
+    m_fil.reset();
     for (const Canevas::Couche couche : {Canevas::CoucheSelection, Canevas::CoucheOutil})
         m_canevas.Montrer(couche, {});
 }
