@@ -432,9 +432,11 @@ void EssaiCourse2D::FermerApresUnStop() {
 
 void EssaiCourse2D::SansCorrespondanceOnPeutOuvrirLesReglages() {
     Coupe coupe;
-    TableMachine autre = TableINI;
+    const TableMachine enCours = TableINI;
+    TableMachine autre = enCours;
     autre.PenteAcceleration = 3;
     coupe.virtuelle.Memoriser(autre);
+    TableINI = enCours; // the program keeps its own
     const QSignalSpy reglages(coupe.poste.fenetre.get(), &frmTessarel2D::ParametrerMachine);
     coupe.poste.boites.reponses = {ReponseBoite::Non, ReponseBoite::Oui};
     coupe.Lancer();

@@ -150,7 +150,10 @@ bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
     if (suite) depart = m_course.arret.PositionStop.pas;
     m_course.preparee = PreparerDecoupeTS2D(m_course.decoupe, options, TableINI,
                                             comboMatieres->currentText().toStdString(), depart);
-    if (!m_course.preparee.possible) return false;
+    if (!m_course.preparee.possible) {
+        m_course.preparee = {};
+        return false;
+    }
     m_course.arretee = false;
     m_course.fermerEnsuite = false;
     m_course.salve = 0;
