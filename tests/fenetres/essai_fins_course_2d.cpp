@@ -176,21 +176,29 @@ void EssaiFinsCourse2D::UneFauteSansOrigineAutomatique_data() {
     QTest::addColumn<QByteArray>("suite"); // of a stop; else the cut itself
     QTest::addColumn<QString>("mots");
     QTest::addColumn<bool>("ailleurs"); // the wire stands on its way
-    QTest::addRow("heating") << QByteArray() << "Chauffe " << false;
-    QTest::addRow("cutting") << QByteArray() << "Découpe segment n°2/" << true;
-    QTest::addRow("heating for the rest") << QByteArray("cmdRepriseDecoupe") << "Chauffe " << true;
-    QTest::addRow("heating for the return") << QByteArray("cmdLancerRetourApresStop") << "Chauffe " << true;
-    QTest::addRow("returning") << QByteArray("cmdLancerRetourApresStop") << "Découpe segment n°2/" << true;
+    QTest::addColumn<int>("attente");   // seconds that the handler takes before it fails
+    QTest::addRow("heating") << QByteArray() << "Chauffe " << false << 0;
+    QTest::addRow("held up past the heating") << QByteArray() << "Chauffe 1/" << true << 3;
+    QTest::addRow("cutting") << QByteArray() << "Découpe segment n°2/" << true << 0;
+    QTest::addRow("heating for the rest") << QByteArray("cmdRepriseDecoupe") << "Chauffe " << true << 0;
+    QTest::addRow("heating for the return")
+        << QByteArray("cmdLancerRetourApresStop") << "Chauffe " << true << 0;
+    QTest::addRow("returning") << QByteArray("cmdLancerRetourApresStop") << "Découpe segment n°2/" << true
+                               << 0;
 }
 // Nothing takes the wire back before the next cut: it would start from where the fault has left it.
 void EssaiFinsCourse2D::UneFauteSansOrigineAutomatique() {
     QFETCH(QByteArray, suite);
     QFETCH(QString, mots);
     QFETCH(bool, ailleurs);
+    QFETCH(int, attente);
     Coupe c;
     QVERIFY(!TableINI.OrigineAutomatique);
     if (!suite.isEmpty()) c.Arreter();
-    c.Quand(mots, [] { throw std::runtime_error("the display is gone"); });
+    c.Quand(mots, [&] {
+        c.virtuelle.Attendre(std::chrono::seconds(attente));
+        throw std::runtime_error("the display is gone");
+    });
     if (suite.isEmpty())
         c.Lancer();
     else
