@@ -110,10 +110,11 @@ void EssaiSureteCourse::UneFauteArreteDAbord() {
     InstallerAfficheurBoite(enregistreur);
     QVERIFY(banc.fait);
     QVERIFY2(banc.EchangesAvantArret() <= 2, qPrintable(QString::number(banc.EchangesAvantArret())));
-    QCOMPARE(banc.poste.NombreBoites(), std::size_t(1));
+    QCOMPARE(banc.poste.NombreBoites(), std::size_t(2));
     QVERIFY(
-        QString::fromStdString(banc.poste.DerniereBoite().texte)
+        QString::fromStdString(banc.poste.boites.boites[0].texte)
             .startsWith(QStringLiteral("Erreur 6 (trop de points) à la ligne 0, de la procédure TimerFilm")));
+    QCOMPARE(banc.poste.DerniereBoite().titre, std::string("Arrêt dans la zone utile"));
     QVERIFY(froid);
     QVERIFY(banc.FroidEtImmobile());
     QVERIFY(!banc.poste.fenetre->Course().enCours);
