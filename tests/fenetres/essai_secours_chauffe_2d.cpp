@@ -1,9 +1,13 @@
 // A hot wire and what the machine does to it in the same instant: an arrow that is let go, a bar that is
 // touched and a question that stands must not leave it lit.
 #include "fenetres/poste_manuel.h"
+#include "link/commandes.h"
+#include "ui/boites_qt.h"
 #include "ui/theme.h"
 
 #include <QLabel>
+#include <QMessageBox>
+#include <QTimer>
 
 using namespace tessarel;
 using namespace tessarel::essais;
@@ -47,6 +51,8 @@ private slots:
     void LInterrupteurALInstantDuRelachement();
     void LaBarreApresLeBoutonStop();
     void LaQuestionAttendFilFroid();
+    void UneBoiteAttendFilFroid();
+    void UneCoupureAbandonneeSeRattrape();
     void StopRenonceALaChauffeSansReponse();
 };
 
@@ -103,6 +109,48 @@ void EssaiSecoursChauffe2D::LaQuestionAttendFilFroid() {
         QCOMPARE(auMoment, 0);
         QVERIFY(!secours.SigneVisible());
     }
+}
+
+// A box that the window system shows, whoever opens it.
+void EssaiSecoursChauffe2D::UneBoiteAttendFilFroid() {
+    Secours secours;
+    InstallerBoitesQt();
+    int auMoment = -1; // on the wire while the box stands
+    QTimer lecteur;
+    connect(&lecteur, &QTimer::timeout, [&] {
+        if (QWidget* boite = QApplication::activeModalWidget()) {
+            auMoment = secours.SurLeFil();
+            boite->close();
+        }
+    });
+    lecteur.start(5);
+    QVERIFY(secours.SurLeFil() > 0);
+    secours.poste.Cliquer<QToolButton>("cmdAide");
+    QCOMPARE(auMoment, 0);
+    QVERIFY(!secours.SigneVisible());
+}
+
+// Given up elsewhere than on this page: nobody has to ask for it again.
+void EssaiSecoursChauffe2D::UneCoupureAbandonneeSeRattrape() {
+    Manuel manuel;
+    EnvoyerChauffe(ValeurPWM(60));
+    manuel.virtuelle.boite->Brancher(false);
+    CouperChauffe({[] { return true; }, [] {}});
+    QVERIFY(CoupureEnSuspens);
+    QCOMPARE(manuel.poste.NombreBoites(), std::size_t(1));
+    auto& temps = manuel.poste.Trouver<QTimer>("TimerRattrapage");
+    QVERIFY(temps.isActive());
+    temps.setInterval(5);
+    QTest::qWait(50);
+    QCOMPARE(int(manuel.virtuelle.boite->Etat().pwmFil), 153);
+    QCOMPARE(manuel.poste.NombreBoites(), std::size_t(1)); // without a word
+    manuel.virtuelle.boite->Brancher(true);
+    QTRY_COMPARE_WITH_TIMEOUT(int(manuel.virtuelle.boite->Etat().pwmFil), 0, 2000);
+    QVERIFY(!CoupureEnSuspens);
+    QTRY_COMPARE(manuel.poste.NombreBoites(), std::size_t(2));
+    QCOMPARE(manuel.poste.DerniereBoite().titre, std::string("Interface retrouvée"));
+    QTest::qWait(30);
+    QCOMPARE(manuel.poste.NombreBoites(), std::size_t(2));
 }
 
 // The very first heat, which the box does not confirm: the mouse reaches Stop.

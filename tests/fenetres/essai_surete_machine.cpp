@@ -121,6 +121,8 @@ private slots:
     void StopRenonceALaChauffeSansReponse_data() { LesDeuxFenetres(); }
     void StopRenonceALaChauffeSansReponse();
     void LaQuestionEnFermantAttendFilFroid();
+    void UneBoiteAttendFilFroid_data() { LesDeuxFenetres(); }
+    void UneBoiteAttendFilFroid();
     void LaBoitePerdueSansMouvementSeDit_data() { LesDeuxFenetres(); }
     void LaBoitePerdueSansMouvementSeDit();
     void AbandonneeLaCoupureEstRetentee_data() { LesDeuxFenetres(); }
@@ -312,6 +314,23 @@ void EssaiSureteMachine::LaQuestionEnFermantAttendFilFroid() {
     QCOMPARE(banc.poste.boites.boites.size(), std::size_t(1));
     QCOMPARE(auMoment, 0);
     QVERIFY(banc.fenetre->isVisible() && !banc.MontreChaud());
+}
+
+void EssaiSureteMachine::UneBoiteAttendFilFroid() {
+    QFETCH(int, fenetre);
+    Banc banc(static_cast<Banc::Fenetre>(fenetre));
+    QMessageBox boite(banc.fenetre.get());
+    int auMoment = -1; // on the wire while the box stands
+    QTimer lecteur;
+    connect(&lecteur, &QTimer::timeout, [&] {
+        auMoment = banc.virtuelle.boite->Etat().pwmFil;
+        boite.close();
+    });
+    lecteur.start(5);
+    QVERIFY(banc.Chaud());
+    boite.exec();
+    QCOMPARE(auMoment, 0);
+    QVERIFY(!banc.MontreChaud());
 }
 
 void EssaiSureteMachine::LaBoitePerdueSansMouvementSeDit() {

@@ -13,6 +13,7 @@
 #include "ui/alerte.h"
 #include "ui/garde_entrees.h"
 
+#include <QEvent>
 #include <QMessageBox>
 #include <QWidget>
 #include <utility>
@@ -164,6 +165,7 @@ std::unique_ptr<GardeEntrees> ConduiteManuelle::GarderFil() {
 
 bool ConduiteManuelle::Chauffer(double pourcent) {
     const auto garde = GarderFil();
+    m_fenetre->window()->installEventFilter(this);
     emit ChauffeDemandee(true);
     const auto finir = [this](void*) { emit ChauffeDemandee(false); };
     const std::unique_ptr<void, decltype(finir)> fin(this, finir);
@@ -174,6 +176,12 @@ void ConduiteManuelle::ChangerChauffe(double pourcent) {
     const auto garde = GarderFil();
     if (!ChangerChauffeFil(m_fil, pourcent, SuiviFil()))
         emit CoupeeSansDemande(TexteProgramme::ChauffeManuelleCoupeeParMachine);
+}
+
+bool ConduiteManuelle::eventFilter(QObject* objet, QEvent* evenement) {
+    if (evenement->type() == QEvent::WindowBlocked && m_fil.chaude && !m_enMouvement && !m_fil.occupee)
+        CouperSiChaud();
+    return QObject::eventFilter(objet, evenement);
 }
 
 bool ConduiteManuelle::Couper() {

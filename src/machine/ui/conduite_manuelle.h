@@ -29,6 +29,10 @@ public:
     // `fenetre` is what warnings stand over.
     explicit ConduiteManuelle(QWidget* fenetre);
 
+    // A wire that is on and stands is put out when a box or a dialog comes before its window: behind it
+    // nobody could.
+    bool eventFilter(QObject* objet, QEvent* evenement) override;
+
     // What stays open to mouse and keys while a command is under way: Stop and the heat. Escape is Stop.
     void PermettreToujours(std::vector<const QWidget*> controles);
 

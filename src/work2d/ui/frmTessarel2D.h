@@ -99,6 +99,7 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* evenement) override;
+    bool event(QEvent* evenement) override;
     void dragEnterEvent(QDragEnterEvent* evenement) override;
     void dropEvent(QDropEvent* evenement) override;
 
@@ -239,6 +240,8 @@ private:
     void EnvoyerChauffeVoulue(double pourcent);
     bool EteindreFilManuel();
     void VeillerSurFilManuel();
+    // A heat-off that was given up, whoever asked for it, goes out again as soon as the box hears.
+    void RattraperCoupure();
     // Moves are enabled, at the latest after a look at the box; else a box told why not.
     bool LiaisonPermet();
     // Asks for the window of the machine or of the materials; comes back when it is closed.
@@ -259,6 +262,7 @@ private:
     ChauffeManuelle m_fil;     // lit by hand
     bool m_stopManuel = false; // Stop was pressed in the move by hand that runs
     bool m_ailleurs = false;   // a window of the machine or of the materials is open
+    QTimer TimerRattrapage{this};
     std::unique_ptr<TraceCourse> m_trace;
     PanneauCourse* m_panneauCourse = nullptr;
     PanneauManuel* m_panneauManuel = nullptr;

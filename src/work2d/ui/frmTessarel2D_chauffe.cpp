@@ -4,6 +4,7 @@
 #include "link/etat_interface.h"
 #include "link/liste_salves.h"
 #include "machine/table_machine.h"
+#include "platform/dialogue.h"
 #include "platform/drapeau.h"
 #include "ui/alerte.h"
 #include "ui/boites_qt.h"
@@ -13,12 +14,22 @@
 #include "work2d/ui/panneau_chauffe.h"
 #include "work2d/ui/panneau_manuel.h"
 
+#include <QEvent>
 #include <QMessageBox>
 #include <QStackedWidget>
 
 namespace tessarel {
 
+namespace {
+
+constexpr int PeriodeRattrapage = 5000; // ms: a box that is mute keeps the window waiting for each try
+
+} // namespace
+
 void frmTessarel2D::RelierChauffe() {
+    TimerRattrapage.setObjectName(QStringLiteral("TimerRattrapage"));
+    connect(&TimerRattrapage, &QTimer::timeout, this, &frmTessarel2D::RattraperCoupure);
+    TimerRattrapage.start(PeriodeRattrapage);
     PanneauChauffe* chauffe = &m_panneauManuel->Chauffe();
     connect(chauffe, &PanneauChauffe::AllumageDemande, this, &frmTessarel2D::AllumerFilManuel);
     connect(chauffe, &PanneauChauffe::CoupureDemandee, this, [this] { EteindreFilManuel(); });
@@ -63,7 +74,7 @@ void frmTessarel2D::MontrerFil() {
     const Fil fil = m_fil.chaude ? Fil::Chaud : m_fil.incertaine ? Fil::Incertain : Fil::Froid;
     m_panneauManuel->Chauffe().MontrerFil(
         fil, TempoChauffePourChauffe(static_cast<float>(m_fil.voulue), TableINI));
-    m_panneauManuel->MontrerStop();
+    m_panneauManuel->MontrerStop(m_fil.occupee);
 }
 
 void frmTessarel2D::AllumerFilManuel() {
@@ -106,6 +117,22 @@ void frmTessarel2D::VeillerSurFilManuel() {
     }
     MontrerFil();
     FermerSiDemande();
+}
+
+void frmTessarel2D::RattraperCoupure() {
+    // The watch over a wire that was lit by hand tries by itself.
+    if (!CoupureEnSuspens || Occupee() || m_ailleurs || m_fil.chaude || m_fil.incertaine) return;
+    ChauffeManuelle abandonnee;
+    abandonnee.incertaine = true;
+    if (VeillerSurFil(abandonnee, {}) == VeilleFil::Coupee)
+        AfficherInformation(Texte(TexteProgramme::ChauffeRattrapee),
+                            Texte(TexteProgramme::ChauffeRattrapeeTitre));
+}
+
+// Behind a box or a dialog nobody could put the wire out.
+bool frmTessarel2D::event(QEvent* evenement) {
+    if (evenement->type() == QEvent::WindowBlocked && m_fil.chaude && !Occupee()) EteindreFilManuel();
+    return QMainWindow::event(evenement);
 }
 
 bool frmTessarel2D::LiaisonPermet() {
