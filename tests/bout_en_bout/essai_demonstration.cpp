@@ -107,7 +107,8 @@ TEST_F(Demonstration, UnDessinQuiNeSOuvrePasFinitMal) {
 // The machine outlives what it is there for, however long that takes to hear the signal; the last word on its
 // wire is cold.
 TEST_F(Demonstration, CtrlCRefroiditLeFilAvantQueLaMachineSEnAille) {
-    EcrireTout(travail.Fichier("a.txt"), "A\r\n20:5\r\n30:5\r\n30:12\r\n20:5\r\n");
+    // Long enough to be under way still when a busy computer comes to the signal.
+    EcrireTout(travail.Fichier("a.txt"), "A\r\n20:5\r\n220:5\r\n220:100\r\n20:100\r\n20:5\r\n");
     const std::string lancer =
         EnFond(AVEC_MACHINE + "--facteur 8 --documents doc --journal j.tsv tessarel-lot "
                               "--documents doc --langue en decouper a.txt --interface");
