@@ -80,16 +80,6 @@ FinVoulue EnvoyerVoulue(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi)
     return refroidi ? FinVoulue::Refroidi : FinVoulue::Abandonnee;
 }
 
-// One heat-off without a word, for a box that was given up and may still run a move. True when confirmed.
-bool EssayerCoupure() {
-    EffacerTampon();
-    TamponEchange[1] = CommandeArret;
-    Echanger();
-    EffacerTampon();
-    TamponEchange[1] = CommandeChauffe;
-    return Echanger() && TamponEchange[2] == 0 && TamponEchange[4] == 0;
-}
-
 VeilleFil Perdre(ChauffeManuelle& fil, const SuiviChauffeManuelle& suivi) {
     EteindreFil(fil, suivi);
     // Whatever answers next may be another box, or the same with another table in its RAM.

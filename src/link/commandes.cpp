@@ -15,9 +15,6 @@ namespace tessarel {
 
 namespace {
 
-// Between two tries that failed: a box that is gone answers at once, and the processor has better things to
-// do.
-constexpr Instant EntreDeuxEssais = std::chrono::milliseconds(20);
 constexpr int RangeeChauffeNonCoupee = 40; // of TextesDoubles
 
 bool Envoyer(std::uint8_t code, std::uint8_t arg1, std::uint8_t arg2 = 0) {
@@ -36,12 +33,6 @@ void EssayerChauffe(std::uint8_t marche, std::uint8_t valeur) {
 
 bool EstInterrompu(const SuiviChauffe& suivi) {
     return suivi.Interrompre && suivi.Interrompre();
-}
-
-// Nothing can have reached a box, and nothing will.
-bool RienNePart() {
-    return DernierResultatZelko == ResultatMouvementsInactifs ||
-           DernierResultatZelko == ResultatZelkoBibliothequeAbsente;
 }
 
 FinChauffe Repeter(std::uint8_t marche, std::uint8_t valeur, bool (*confirmee)(std::uint8_t),
@@ -66,15 +57,7 @@ FinChauffe Repeter(std::uint8_t marche, std::uint8_t valeur, bool (*confirmee)(s
 } // namespace
 
 bool ViderFile() {
-    return Envoyer(CommandeFile, 0);
-}
-
-bool OuvrirFile() {
-    return Envoyer(CommandeFile, 1);
-}
-
-bool LancerFile() {
-    return Envoyer(CommandeFile, 128);
+    return Envoyer(CommandeFile, FileVider);
 }
 
 bool FinDeListe() {
@@ -83,10 +66,6 @@ bool FinDeListe() {
 
 bool ArreterMouvement() {
     return Envoyer(CommandeArret, 0);
-}
-
-bool ModeOrigine() {
-    return Envoyer(CommandeOrigine, 1);
 }
 
 bool ModeNormal() {
@@ -122,10 +101,18 @@ FinChauffe EnvoyerChauffe(std::uint8_t valeur, const SuiviChauffe& suivi) {
 }
 
 FinChauffe CouperChauffe(const SuiviChauffe& suivi) {
-    const auto coupee = [](std::uint8_t) { return TamponEchange[2] == 0 && TamponEchange[4] == 0; };
+    const auto coupee = [](std::uint8_t) { return ConfirmeCoupure(TamponEchange); };
     const FinChauffe fin = Repeter(0, 0, coupee, suivi, "CouperChauffe");
     if (fin == FinChauffe::Interrompue) SignalerChauffeNonCoupee();
     return fin;
+}
+
+bool EssayerCoupure() {
+    EffacerTampon();
+    TamponEchange[1] = CommandeArret;
+    Echanger();
+    EssayerChauffe(0, 0);
+    return ConfirmeCoupure(TamponEchange);
 }
 
 void SignalerChauffeNonCoupee() {

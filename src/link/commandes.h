@@ -15,16 +15,10 @@ namespace tessarel {
 
 // B 0: empties the queue and leaves run mode.
 bool ViderFile();
-// B 1: opens the queue for a new list; always right after ViderFile.
-bool OuvrirFile();
-// B 128: the run starts.
-bool LancerFile();
 // D 128: the end mark after a single frame.
 bool FinDeListe();
 // S: stops the run at once. Its end shows in the status.
 bool ArreterMouvement();
-// O 1: the origin switches may open without stopping the run.
-bool ModeOrigine();
 // O 0: switches stop motion. True when the exchange succeeded and the table in RAM has its switches active.
 bool ModeNormal();
 // M 0, M 1, M 3: delay 0 means no automatic switch-off.
@@ -62,6 +56,9 @@ FinChauffe EnvoyerChauffe(std::uint8_t valeur, const SuiviChauffe& suivi = {});
 // on the number of tries, on purpose. Sent at least once whatever the state of the link; an interruption is
 // only heard after that and ends in a critical box that says that the wire may still be hot.
 FinChauffe CouperChauffe(const SuiviChauffe& suivi = {});
+
+// One S and one heat-off without a word, for a box that may still run something. True when confirmed.
+bool EssayerCoupure();
 
 // The critical box that says that the wire may still be hot; the next refresh will try again.
 void SignalerChauffeNonCoupee();

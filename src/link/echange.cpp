@@ -12,7 +12,6 @@ Tampon TamponEchange{};
 
 namespace {
 
-constexpr std::uint8_t FileLancer = 128;
 constexpr std::uint8_t MoteursEnMarche = 1;
 constexpr std::uint8_t ChauffeEnMarche = 1;
 constexpr std::uint8_t ChauffeCoupee = 0;
@@ -32,7 +31,7 @@ void NoterChauffePossible(const Tampon& commande) {
 }
 
 void NoterChauffeCoupee(const Tampon& commande, const Tampon& reponse) {
-    if (commande[1] == CommandeChauffe && commande[2] == ChauffeCoupee && reponse[2] == 0 && reponse[4] == 0)
+    if (commande[1] == CommandeChauffe && commande[2] == ChauffeCoupee && ConfirmeCoupure(reponse))
         chauffePeutEtreActive = filAllumeIci = CoupureEnSuspens = false;
 }
 
@@ -48,6 +47,15 @@ void RemplirRefus(const Tampon& commande) {
 }
 
 } // namespace
+
+bool RienNePart() {
+    return DernierResultatZelko == ResultatMouvementsInactifs ||
+           DernierResultatZelko == ResultatZelkoBibliothequeAbsente;
+}
+
+bool ConfirmeCoupure(const Tampon& reponse) {
+    return reponse[2] == 0 && reponse[4] == 0;
+}
 
 void EffacerTampon() {
     TamponEchange.fill(0);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "etat_interface.h"
+#include "platform/horloge.h"
 
 #include <cstdint>
 #include <string>
@@ -11,7 +12,7 @@
 namespace tessarel {
 
 // Commands, byte 1 of the buffer.
-inline constexpr std::uint8_t CommandeFile = 66;    // B: 0 empty, 1 open, 128 run
+inline constexpr std::uint8_t CommandeFile = 66;    // B: empty, open or run the queue
 inline constexpr std::uint8_t CommandeSalve = 68;   // D: one frame
 inline constexpr std::uint8_t CommandeStatut = 73;  // I
 inline constexpr std::uint8_t CommandeMoteurs = 77; // M: 0 off, 1 on, 3 delay
@@ -19,6 +20,10 @@ inline constexpr std::uint8_t CommandeOrigine = 79; // O: 0 normal, 1 homing
 inline constexpr std::uint8_t CommandeChauffe = 80; // P: 0 off, 1 value
 inline constexpr std::uint8_t CommandeArret = 83;   // S
 inline constexpr std::uint8_t CommandeTable = 84;   // T
+// Byte 2 of B.
+inline constexpr std::uint8_t FileVider = 0;
+inline constexpr std::uint8_t FileOuvrir = 1;
+inline constexpr std::uint8_t FileLancer = 128;
 
 // Command and reply, one for the whole program. Byte 0 is always 0.
 extern Tampon TamponEchange;
@@ -41,6 +46,16 @@ bool EstCommandeDeMouvement(const Tampon& tampon);
 // the buffer holds what reads as "no": a frame not accepted, a heat not echoed, a heat-off not confirmed, a
 // run not ended; all other bytes are 0, so that no switch reads as open.
 bool Echanger();
+
+// The last command went nowhere, and none will: moves are not enabled, or there is no library.
+bool RienNePart();
+
+// Pause between two tries that failed: a box that is gone answers at once, and the processor has better
+// things to do.
+inline constexpr Instant EntreDeuxEssais = std::chrono::milliseconds(20);
+
+// The reply to a P 0 that switched the heat off: a reply that got lost on its way does not read so.
+bool ConfirmeCoupure(const Tampon& reponse);
 
 // Clears the buffer, writes the command and sends it. A failure is told by a box and passed over: nobody
 // aborts because of it, the reply reads as above. A command held back by the guard shows no box.

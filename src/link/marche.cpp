@@ -15,8 +15,6 @@ namespace tessarel {
 
 namespace {
 
-// Between two tries that failed: a box that is gone answers at once.
-constexpr Instant EntreDeuxEssais = std::chrono::milliseconds(20);
 // Between two looks at a box that may have run out of frames: longer than the last tick of any frame, in
 // which a frame still in the queue looks the same as none.
 constexpr Instant EntreDeuxRegards = std::chrono::milliseconds(1);
@@ -40,11 +38,6 @@ bool Envoyer(std::uint8_t code, std::uint8_t arg1 = 0) {
     return Echanger();
 }
 
-bool RienNePart() {
-    return DernierResultatZelko == ResultatMouvementsInactifs ||
-           DernierResultatZelko == ResultatZelkoBibliothequeAbsente;
-}
-
 // A failure before the packet left: the box has not heard it.
 bool JamaisPartie() {
     constexpr std::int32_t boitierAbsent = -200;
@@ -60,6 +53,7 @@ struct Marche {
     std::size_t prochaine = 0;   // frames accepted so far; the one of this index is the next to send
     bool finAvantDepart = false; // what the status said of an end and of a frame while the queue was filled
     std::int32_t numeroAvantDepart = 0;
+    bool departIncertain = false;           // no reply to B 128, and none since
     bool doute = false;                     // that one may be in the queue already
     int regards = 0;                        // looks at an unchanged status while in doubt
     Instant depuis{0};                      // of the first of them
@@ -100,8 +94,7 @@ void Retenir(Marche& m, const StatutZelko& statut) {
 }
 
 bool DitPourquoi(const StatutZelko& statut) {
-    return statut.FinDeListe || statut.ArretDemande || statut.ArretBoutonStop ||
-           statut.OrigineOuverteEnMouvement || statut.FinCourseOuverteEnMouvement;
+    return statut.ArretDemande || FinieParLaBoite(statut);
 }
 
 // False for a frame that was never sent, or more ticks left in one than it has: nothing that a box says, so
@@ -132,9 +125,7 @@ bool MemeFin(const StatutZelko& a, const StatutZelko& b) {
 bool Arreter(Marche& m, StatutZelko statut) {
     const bool toutes = Envoyees(m) >= m.salves.size();
     if (!toutes) statut.FinDeListe = false; // whatever list that was, it is not this one
-    const bool dite = statut.FinDeListe || statut.ArretBoutonStop || statut.OrigineOuverteEnMouvement ||
-                      statut.FinCourseOuverteEnMouvement;
-    if (!toutes || !dite) Envoyer(CommandeArret);
+    if (!toutes || !FinieParLaBoite(statut)) Envoyer(CommandeArret);
     Retenir(m, statut);
     return Conclure(m, DitPourquoi(statut) ? FinMarche::Finie : FinMarche::SansRaison);
 }
@@ -151,7 +142,7 @@ bool NumeroTient(const Marche& m, std::optional<std::int32_t> vu, std::int32_t n
 bool Remplir(Marche& m) {
     for (;;) {
         m.prochaine = 0;
-        bool reussi = Envoyer(CommandeFile, 0) && Envoyer(CommandeFile, 1);
+        bool reussi = Envoyer(CommandeFile, FileVider) && Envoyer(CommandeFile, FileOuvrir);
         bool pleine = false;
         int refus = 0; // of the first frame, by a box that stands
         std::optional<std::int32_t> vu;
@@ -186,13 +177,14 @@ bool Remplir(Marche& m) {
 // B 128, sent again only when the status shows that the box has not heard it. False when the run ends here; a
 // stop asked in doubt goes the way of a stop in the run.
 bool Demarrer(Marche& m) {
-    while (!Envoyer(CommandeFile, 128)) {
+    while (!Envoyer(CommandeFile, FileLancer)) {
         if (RienNePart()) return Conclure(m, FinMarche::Impossible);
         StatutZelko statut;
         while (!statut.Recu) {
             Noter(m.echecs, false, m.suivi);
             LaisserPasserEvenements();
-            if (ArretVoulu(m.suivi)) return true;
+            m.departIncertain = ArretVoulu(m.suivi);
+            if (m.departIncertain) return true;
             statut = DemanderStatut();
             if (statut.NumeroSalve != m.numeroAvantDepart && !Croyable(m, statut, m.prochaine))
                 statut.Recu = false;
@@ -327,6 +319,13 @@ bool PerdueEnRoute(const Marche& m, const StatutZelko& statut) {
     return m.resultat.NumeroSalve > 0 && !DitPourquoi(statut);
 }
 
+// A cut whose start may have been lost, stopped before anything was heard of it: a number that still stands
+// where it stood is that of the list before.
+bool NEstPasPartie(const Marche& m, const StatutZelko& statut) {
+    return m.departIncertain && statut.NumeroSalve == m.numeroAvantDepart && !m.salves.empty() &&
+           EstSalvePause(m.salves.front());
+}
+
 void Stopper(Marche& m, FinMarche fin) {
     StatutZelko statut;
     if (!ArreterJusquAuRepos(m, statut)) {
@@ -334,6 +333,7 @@ void Stopper(Marche& m, FinMarche fin) {
         return;
     }
     m.resultat.fin = PerdueEnRoute(m, statut) ? FinMarche::SansRaison : fin;
+    if (NEstPasPartie(m, statut)) statut.NumeroSalve = 0;
     Retenir(m, statut);
 }
 
@@ -382,7 +382,8 @@ ResultatMarche FaireMarche(std::span<const Salve> salves, const SuiviMarche& sui
     if (Remplir(m) && Demarrer(m)) Suivre(m);
     if (m.resultat.fin == FinMarche::StopAvantMouvement) OublierArret(suivi);
     // What was filled in must not wait there for somebody's B 128.
-    if (m.resultat.fin == FinMarche::StopAvantMouvement || ArreteeEnChauffe(m)) Envoyer(CommandeFile, 0);
+    if (m.resultat.fin == FinMarche::StopAvantMouvement || ArreteeEnChauffe(m))
+        Envoyer(CommandeFile, FileVider);
     return m.resultat;
 }
 
@@ -431,7 +432,7 @@ bool SecourirMarche() noexcept {
         for (int essai = 0; essai < EssaisDeSecours && !(arretee && coupee); ++essai) {
             if (essai > 0) Patienter(EntreDeuxEssais);
             arretee = Envoyer(CommandeArret) || arretee;
-            coupee = (Envoyer(CommandeChauffe) && TamponEchange[2] == 0 && TamponEchange[4] == 0) || coupee;
+            coupee = (Envoyer(CommandeChauffe) && ConfirmeCoupure(TamponEchange)) || coupee;
         }
         if (!coupee && ChauffePeutEtreActive()) SignalerChauffeNonCoupee();
         return coupee;

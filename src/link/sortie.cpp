@@ -2,6 +2,7 @@
 #include "link/sortie.h"
 
 #include "app/texts/textes.h"
+#include "link/commandes.h"
 #include "link/echange.h"
 #include "platform/dialogue.h"
 #include "platform/flux_standards.h"
@@ -15,7 +16,6 @@ namespace tessarel {
 namespace {
 
 constexpr int Essais = 5;
-constexpr Instant EntreDeuxEssais = std::chrono::milliseconds(20);
 constexpr Instant DureeDesEssais = std::chrono::seconds(2); // a mute box answers none of them for a second
 constexpr int RangeeChauffeNonCoupee = 40;                  // of TextesDoubles
 
@@ -27,15 +27,6 @@ const std::string& Avertissement() {
     return ligne;
 }
 
-bool Essayer() {
-    EffacerTampon();
-    TamponEchange[1] = CommandeArret;
-    Echanger();
-    EffacerTampon();
-    TamponEchange[1] = CommandeChauffe;
-    return Echanger() && TamponEchange[2] == 0 && TamponEchange[4] == 0;
-}
-
 } // namespace
 
 void EteindreEnSortant() noexcept {
@@ -44,7 +35,7 @@ void EteindreEnSortant() noexcept {
         const Instant fin = Maintenant() + DureeDesEssais;
         for (int essai = 0; essai < Essais && Maintenant() < fin; ++essai) {
             if (essai > 0) Patienter(EntreDeuxEssais);
-            if (Essayer() || DernierResultatZelko == ResultatZelkoBibliothequeAbsente) return;
+            if (EssayerCoupure() || DernierResultatZelko == ResultatZelkoBibliothequeAbsente) return;
         }
         EcrireErreurSansAttendre(Avertissement());
     } catch (...) {

@@ -40,4 +40,9 @@ StatutZelko LireStatut(const Tampon& tampon) {
     return s;
 }
 
+bool FinieParLaBoite(const StatutZelko& statut) {
+    return statut.FinDeListe || statut.ArretBoutonStop || statut.OrigineOuverteEnMouvement ||
+           statut.FinCourseOuverteEnMouvement;
+}
+
 } // namespace tessarel

@@ -41,6 +41,9 @@ struct StatutZelko {
     std::uint32_t TicksRestants = 0;
 };
 
+// The end came from the box itself: of the list, by its STOP button, by a switch loop.
+bool FinieParLaBoite(const StatutZelko& statut);
+
 // What a reply says; `Recu` is set, for the buffer alone does not tell whether it is a reply.
 StatutZelko LireStatut(const Tampon& tampon);
 

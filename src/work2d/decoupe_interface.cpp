@@ -168,8 +168,7 @@ FinDecoupe FinirSelonStatut(Passe& p, const ResultatMarche& marche) {
 }
 
 bool FinieAvantArret(const StatutZelko& statut) {
-    return !statut.ArretDemande && (statut.FinDeListe || statut.ArretBoutonStop ||
-                                    statut.OrigineOuverteEnMouvement || statut.FinCourseOuverteEnMouvement);
+    return !statut.ArretDemande && FinieParLaBoite(statut);
 }
 
 FinDecoupe Finir(Passe& p, const ResultatMarche& marche) {

@@ -44,10 +44,10 @@ protected:
             ViderFile();
             break;
         case 4:
-            OuvrirFile();
+            EnvoiBytes(CommandeFile, FileOuvrir, 0);
             break;
         case 5:
-            LancerFile();
+            EnvoiBytes(CommandeFile, FileLancer, 0);
             break;
         case 6:
             FinDeListe();
@@ -59,7 +59,7 @@ protected:
             ModeNormal();
             break;
         case 9:
-            ModeOrigine();
+            EnvoiBytes(CommandeOrigine, 1, 0);
             break;
         case 10:
             AllumerMoteurs();

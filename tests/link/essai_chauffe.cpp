@@ -146,7 +146,7 @@ TEST_F(Chauffe, UneListeLanceePeutChauffer) {
     EchouerPuisRepondre(0);
     CouperChauffe();
     EXPECT_FALSE(ChauffePeutEtreActive());
-    LancerFile();
+    EnvoiBytes(CommandeFile, FileLancer, 0);
     EXPECT_TRUE(ChauffePeutEtreActive());
     CouperChauffe();
     EnvoyerChauffe(0);

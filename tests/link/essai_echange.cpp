@@ -26,10 +26,6 @@ TEST_F(Echange, ChaqueCommandeTientDansTroisOctets) {
     };
     ViderFile();
     EXPECT_EQ(DernierEnvoi(3), (Octets{0, 66, 0, 0}));
-    OuvrirFile();
-    EXPECT_EQ(DernierEnvoi(3), (Octets{0, 66, 1, 0}));
-    LancerFile();
-    EXPECT_EQ(DernierEnvoi(3), (Octets{0, 66, 128, 0}));
     FinDeListe();
     EXPECT_EQ(DernierEnvoi(3), (Octets{0, 68, 128, 0}));
     DemanderStatut();
@@ -42,8 +38,6 @@ TEST_F(Echange, ChaqueCommandeTientDansTroisOctets) {
     EXPECT_EQ(DernierEnvoi(3), (Octets{0, 77, 3, 7}));
     ModeNormal();
     EXPECT_EQ(DernierEnvoi(3), (Octets{0, 79, 0, 0}));
-    ModeOrigine();
-    EXPECT_EQ(DernierEnvoi(3), (Octets{0, 79, 1, 0}));
     EnvoyerChauffe(0);
     EXPECT_EQ(DernierEnvoi(3), (Octets{0, 80, 1, 0}));
     CouperChauffe();
@@ -52,7 +46,7 @@ TEST_F(Echange, ChaqueCommandeTientDansTroisOctets) {
     EXPECT_EQ(DernierEnvoi(3), (Octets{0, 83, 0, 0}));
     ChargerMemoireEnRam(2);
     EXPECT_EQ(DernierEnvoi(3), (Octets{0, 84, 1, 2}));
-    EXPECT_EQ(envois.size(), 14U);
+    EXPECT_EQ(envois.size(), 11U);
     EXPECT_TRUE(boites.boites.empty());
 }
 

@@ -2,6 +2,7 @@
 // takes the end of another list for its own.
 #include "link/echange.h"
 #include "link/envoi_salves.h"
+#include "platform/pompe.h"
 
 #include "outils/boites.h"
 #include "outils_boite/boite_virtuelle.h"
@@ -161,6 +162,31 @@ TEST_F(ReponsesFausses, LeNumeroDUneListePrecedenteQuiResteNEmpecheRien) {
     };
     ToutEstFait(Lancer());
     EXPECT_EQ(std::ranges::count(m_commandes, 'B'), 3);
+}
+
+// The start is lost, and Stop pressed before anything was heard of the run: the number that a box still shows
+// of its last list is no place on this one.
+TEST_F(ReponsesFausses, UnStopPendantUnDepartPerduNePrendPasLeNumeroDeLAvant) {
+    ToutEstFait(Lancer());
+    const auto avantDepart = m_commandes.rfind('B'); // counted from 0: the exchange after it starts the run
+    m_commandes.clear();
+    m_poste.boite.Programmer({.panne = Panne::CommandePerdue,
+                              .echange = m_poste.boite.Comptes().echanges + avantDepart + 1,
+                              .fois = 3});
+    Fausser = [&](const Tampon& commande, Tampon& reponse) {
+        const bool deLAvant = !EnMarche() && (commande[1] == CommandeSalve || commande[1] == CommandeStatut);
+        if (deLAvant) Numero(reponse, 5);
+    };
+    const PositionPas depart = m_poste.boite.Position();
+    const Pompe ancienne = InstallerPompe([&] {
+        m_demandes.StopDemande = std::ranges::count(m_commandes, 'B') == 3 && m_commandes.back() == 'B';
+    });
+    const ResultatMarche marche = Lancer();
+    InstallerPompe(ancienne);
+    EXPECT_EQ(marche.fin, FinMarche::Arretee);
+    EXPECT_EQ(marche.NumeroSalve, 0);
+    EXPECT_EQ(m_poste.boite.Position(), depart);
+    EXPECT_EQ(m_poste.boite.Etat().pwmCommande, 0);
 }
 
 TEST_F(ReponsesFausses, UneFileDUneSalveSuffit) {

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <functional>
 #include <string>
@@ -81,7 +82,7 @@ TEST(Sortie, UnFilChaudSEteint) {
 
 TEST(Sortie, UneFileEnMarcheSArrete) {
     const Fin fin = DansUnAutre([](bool&) {
-        LancerFile();
+        EnvoiBytes(CommandeFile, FileLancer, 0);
         std::exit(1);
     });
     EXPECT_EQ(fin.commandes, "BSp");
