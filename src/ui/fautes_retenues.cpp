@@ -43,7 +43,7 @@ bool RetenirFaute(const std::exception_ptr& faute, OrigineFaute origine) {
     return true;
 }
 
-OrigineFaute OrigineDe(const std::exception_ptr& faute, OrigineFaute defaut) {
+OrigineFaute OrigineDe(const std::exception_ptr& faute, const OrigineFaute& defaut) {
     return g_derniere.faute && faute == g_derniere.faute ? g_derniere.origine : defaut;
 }
 

@@ -22,7 +22,7 @@ void PasserEvenements(const std::function<void()>& passer);
 bool RetenirFaute(const std::exception_ptr& faute, OrigineFaute origine);
 
 // Where `faute` came from, if it was the last one kept; `defaut` for any other.
-OrigineFaute OrigineDe(const std::exception_ptr& faute, OrigineFaute defaut);
+OrigineFaute OrigineDe(const std::exception_ptr& faute, const OrigineFaute& defaut);
 
 // For whoever lets a fault go on up that has left something behind: `dire` tells it, once the fault itself
 // has been told.

@@ -68,8 +68,9 @@ bool TracerSommets(const Plume& plume, const EntiteDxf& e, double hauteur) {
         }
         avant = &s;
     }
-    if (fermee && bombee && avant->renflement != 0)
-        TracerRenflement(plume, place(*avant), place(e.sommets.front()), avant->renflement);
+    const SommetDxf& dernier = e.sommets.back();
+    if (fermee && bombee && dernier.renflement != 0)
+        TracerRenflement(plume, place(dernier), place(e.sommets.front()), dernier.renflement);
     return FinirPiece(plume.assemblage, fermee);
 }
 

@@ -221,7 +221,7 @@ void PanneauBibliotheque::RemplirArbreBibliotheque(const std::string& nomFichier
 
 void PanneauBibliotheque::AjouterDossierArbre(const DossierBibliotheque& dossier, QTreeWidgetItem& noeud) {
     QList<QTreeWidgetItem*> enfants;
-    enfants.reserve(static_cast<qsizetype>(dossier.dossiers.size() + dossier.fichiers.size()));
+    enfants.reserve(qsizetype(dossier.dossiers.size()) + qsizetype(dossier.fichiers.size()));
     for (const DossierBibliotheque& suivant : dossier.dossiers) {
         enfants << Noeud(suivant.nom, suivant.chemin, false, m_iconeDossier);
         AjouterDossierArbre(suivant, *enfants.back());
