@@ -23,7 +23,7 @@ void Noter(int signal) {
 void (*secoursDuPlantage)() = nullptr;
 
 // The handler of each of these signals is the system's own again by now: a crash in here ends the program.
-void Planter(int signal) {
+[[maybe_unused]] void Planter(int signal) {
     constexpr unsigned secondesAuPlus = 3;
     ::alarm(secondesAuPlus);
     secoursDuPlantage();
