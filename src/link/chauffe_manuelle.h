@@ -2,9 +2,8 @@
 // one record of it and says how it warns; what is sent, when and how often stands here for all of them.
 //
 //   cold ──AllumerFil──► hot ──EteindreFil──► cold, confirmed
-//                         │                └► given up: a critical box was shown, the record says
-//                         `incertaine` └─ the box is lost, or says twice that it does not heat ─► as
-//                         EteindreFil
+//                         │                └► given up: `incertaine`, after a critical box
+//                         └─ the box is lost, or says twice that it does not heat ─► as EteindreFil
 #pragma once
 
 #include "link/echange.h"

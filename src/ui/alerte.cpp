@@ -29,4 +29,8 @@ QPointer<QMessageBox> OuvrirAlerte(QWidget* fenetre, const std::string& texte,
     return alerte;
 }
 
+FinAlerte::~FinAlerte() {
+    delete m_alerte;
+}
+
 } // namespace tessarel

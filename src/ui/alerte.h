@@ -15,4 +15,16 @@ namespace tessarel {
 QPointer<QMessageBox> OuvrirAlerte(QWidget* fenetre, const std::string& texte,
                                    std::function<void()> abandonner);
 
+// Beside such a loop: at its end, whichever way it ends, the warning of that moment is closed.
+class FinAlerte {
+public:
+    explicit FinAlerte(QPointer<QMessageBox>& alerte) : m_alerte(alerte) {}
+    ~FinAlerte();
+    FinAlerte(const FinAlerte&) = delete;
+    FinAlerte& operator=(const FinAlerte&) = delete;
+
+private:
+    QPointer<QMessageBox>& m_alerte;
+};
+
 } // namespace tessarel

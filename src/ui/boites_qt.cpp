@@ -73,6 +73,35 @@ constexpr MotBouton MotsBoutons[] = {
     {QMessageBox::No, "&Non", "&No"},
 };
 
+// A text that begins with a tab is set out in columns. An empty line parts its groups, each under its
+// heading; a line "key TAB meaning" is a row. The groups stand in two halves, side by side.
+bool EnColonnes(const QString& texte) {
+    return texte.startsWith(u'\t');
+}
+
+QString RangeeDeTableau(const QString& ligne) {
+    const qsizetype tab = ligne.indexOf(u'\t');
+    if (tab < 0) return QStringLiteral("<tr><td colspan='2'><b>%1</b></td></tr>").arg(ligne.toHtmlEscaped());
+    return QStringLiteral("<tr><td style='white-space: pre; padding-right: 14px'>%1</td>"
+                          "<td style='white-space: pre'>%2</td></tr>")
+        .arg(ligne.left(tab).toHtmlEscaped(), ligne.mid(tab + 1).toHtmlEscaped());
+}
+
+QString TableauDeLignes(const QString& texte) {
+    const QStringList groupes = texte.mid(1).split(QStringLiteral("\n\n"));
+    QString moities[2];
+    qsizetype faits = 0;
+    for (const QString& groupe : groupes) {
+        QString& moitie = moities[2 * faits >= texte.size() ? 1 : 0];
+        if (!moitie.isEmpty()) moitie += QStringLiteral("<tr><td>&nbsp;</td></tr>");
+        for (const QString& ligne : groupe.split(u'\n')) moitie += RangeeDeTableau(ligne);
+        faits += groupe.size();
+    }
+    return QStringLiteral("<table><tr><td><table>%1</table></td><td style='padding-left: 28px'>"
+                          "<table>%2</table></td></tr></table>")
+        .arg(moities[0], moities[1]);
+}
+
 ReponseBoite ReponseDepuisBouton(QMessageBox::StandardButton bouton) {
     switch (bouton) {
     case QMessageBox::Ok:
@@ -104,6 +133,10 @@ void PreparerBoite(QMessageBox& fenetre, const Boite& boite) {
     fenetre.setTextFormat(Qt::PlainText);
     fenetre.setWindowTitle(TexteAffiche(boite.titre));
     fenetre.setText(TexteAffiche(boite.texte));
+    if (EnColonnes(fenetre.text())) {
+        fenetre.setTextFormat(Qt::RichText);
+        fenetre.setText(TableauDeLignes(fenetre.text()));
+    }
     fenetre.setIcon(IconeQt(boite.icone));
     fenetre.setStandardButtons(BoutonsQt(boite.boutons));
     const bool anglais = LangueCourante() == Langue::English;

@@ -102,6 +102,12 @@ void Suivre(Passe& p, const AvanceeMarche& marche) {
     if (p.suivi.Avancer) p.suivi.Avancer(avancee);
 }
 
+// The last look at a list that ran to its end was before that end.
+void SuivreJusquAuBout(Passe& p) {
+    const auto dernier = static_cast<std::int32_t>(p.preparee.liste.trajet.bout1.size()) - 1;
+    if (dernier >= PremiereSalveDeDecoupe) Suivre(p, {.NumeroSalve = dernier, .Fraction = 1});
+}
+
 // To the switches and on to the origin. False when the cut ends here, told.
 bool FaireOrigine(Passe& p) {
     Changer(p, PhaseDecoupe::Origine);
@@ -234,6 +240,8 @@ FinDecoupe ExecuterSalves(Passe& p) {
     if (envoi.marche.NumeroSalve >= PremiereSalveDeDecoupe)
         p.resultat.PositionStop = PositionAuStop(p.preparee.liste.trajet, p.preparee.liste.salves,
                                                  envoi.marche.NumeroSalve, envoi.marche.statut.TicksRestants);
+    if (envoi.marche.fin == FinMarche::Finie && envoi.marche.statut.FinDeListe) SuivreJusquAuBout(p);
+    if (p.suivi.Immobile) p.suivi.Immobile(envoi.chauffeCoupee);
     return Finir(p, envoi.marche);
 }
 
@@ -278,8 +286,9 @@ void AnnoncerHorsRepos() {
 }
 
 void AnnulerReprise(const SuiviDecoupe& suivi) {
-    RefroidirFil(SuiviDeMarche(suivi));
+    const bool coupee = RefroidirFil(SuiviDeMarche(suivi));
     ViderFile();
+    if (suivi.Immobile) suivi.Immobile(coupee && !BoutonChauffeLeFil().value_or(true));
     AnnoncerHorsRepos();
     if (suivi.ChangerPhase) suivi.ChangerPhase(PhaseDecoupe::Repos);
 }

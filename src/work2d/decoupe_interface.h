@@ -47,6 +47,8 @@ struct SuiviDecoupe {
     std::function<void(PhaseDecoupe)> ChangerPhase;
     std::function<void(const AvanceeDecoupe&)> Avancer;
     std::function<void()> Prevenir; // as in SuiviMarche
+    // The wire stands for good, before the box of it: whether the heat is off, confirmed.
+    std::function<void(bool)> Immobile;
 };
 
 enum class FinDecoupe {

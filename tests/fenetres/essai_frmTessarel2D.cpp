@@ -1,4 +1,5 @@
 // The 2D window's files: opening in all ways, saving, starting anew, closing, as a person does it.
+#include "fenetres/images.h"
 #include "fenetres/poste_2d.h"
 #include "paths/fichier_projet.h"
 #include "ui/canevas.h"
@@ -106,6 +107,22 @@ void EssaiTessarel2D::LAideNommeChaqueRaccourci() {
             if (francais) touches.replace(QStringLiteral("Esc"), QStringLiteral("Échap"));
             QVERIFY2(aide.contains(touches), libelle.controle);
         }
+        // One key a line, and its meaning.
+        QVERIFY(aide.startsWith(u'\t'));
+        for (const QString& ligne : aide.mid(1).split(QStringLiteral("\r\n"))) {
+            QVERIFY2(ligne.count(u'\t') <= 1 && !ligne.endsWith(u'\t'), qPrintable(ligne));
+            for (const QChar signe : {u':', u';', u'!', u'?'})
+                QVERIFY2(!francais || !ligne.contains(QStringLiteral(" ") + signe), qPrintable(ligne));
+        }
+        QMessageBox boite;
+        PreparerBoite(boite, m_poste->DerniereBoite());
+        boite.show();
+        QApplication::processEvents();
+        QVERIFY(boite.width() <= 800 && boite.height() <= 760);
+        const auto* mots = boite.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+        QVERIFY(mots != nullptr && mots->width() >= mots->sizeHint().width()); // nothing is cut off
+        QVERIFY(essais::SauverImage(boite, QStringLiteral("frmTessarel2D-aide-") +
+                                               (francais ? QStringLiteral("fr") : QStringLiteral("en"))));
     }
 }
 

@@ -22,7 +22,7 @@ using namespace tessarel::essais;
 
 namespace {
 
-constexpr const char* Machine = "QT2d v12"; // homes by itself
+constexpr const char* Machine = "QT2d v10"; // homes by itself, and heats for 25 s
 constexpr std::int32_t PasParMm = 1600;
 
 // The bracket fitted into its block, the cut page open, the machine in the box and its carriages out on the

@@ -169,15 +169,15 @@ void EssaiOrigineAxe2D::RienDAutreNEstSousLaMainPendantLaRecherche() {
     Origine origine;
     bool vu = false;
     origine.virtuelle.SurPompe = [&] {
-        vu = true;
         for (const char* nom :
              {"optHomeX", "optHomeY", "cmdRetourOrigine", "cmdPlierLePortique", "cmdFermerManuel"})
             QVERIFY2(!origine.poste.Trouver<QPushButton>(nom).isEnabled(), nom);
         QVERIFY(!origine.poste.Trouver<QToolButton>("optChauffe_1").isEnabled());
         QVERIFY(!origine.poste.Trouver<QToolButton>("optGoManuel_0").isEnabled());
         QVERIFY(origine.poste.Trouver<QPushButton>("optAnnulerHome").isEnabled());
-        QCOMPARE(origine.poste.Trouver<QLabel>("lblEtatManuel").text(),
-                 QStringLiteral("Recherche de l'origine"));
+        const QString dit = origine.poste.Trouver<QLabel>("lblEtatManuel").text();
+        vu = vu || !dit.isEmpty(); // as soon as the wire moves, and from then on
+        QCOMPARE(dit, vu ? QStringLiteral("Recherche de l'origine") : QString());
     };
     origine.Chercher("optHomeY");
     origine.virtuelle.SurPompe = {};

@@ -1,6 +1,7 @@
 // The texts that have a name and no row number, in both languages side by side.
 #include "app/texts/textes_programme.h"
 
+#include "app/texts/aide_2d.h"
 #include "app/texts/textes.h"
 
 #include <array>
@@ -251,6 +252,18 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
      "Press the STOP button of the machine or cut its power supply."},
     {TexteProgramme::MarcheAbandonneeTitre, "Arrêt non confirmé", "Stop not confirmed"},
     {TexteProgramme::TempsRestant, "Temps restant : %1", "Time left: %1"},
+    {TexteProgramme::DecoupeArretee, "Découpe arrêtée", "Cut stopped"},
+    {TexteProgramme::ReprendreDecoupe, "Reprendre la découpe", "Resume the cut"},
+    {TexteProgramme::ReprendreDecoupeBulle, "Chauffer le fil et couper le reste à partir de l'arrêt",
+     "Heat the wire and cut the rest from the stop on"},
+    {TexteProgramme::ReglagesDecoupe, "Réglages de la découpe arrêtée :", "Settings of the stopped cut:"},
+    {TexteProgramme::RetourArrete, "Retour arrêté", "Return stopped"},
+    {TexteProgramme::TerminerRetour, "Terminer le retour", "Finish the return"},
+    {TexteProgramme::TerminerRetourBulle, "Chauffer le fil et finir le retour à partir de l'arrêt",
+     "Heat the wire and finish the return from the stop on"},
+    {TexteProgramme::ReglagesRetour, "Réglages du retour arrêté :", "Settings of the stopped return:"},
+    {TexteProgramme::ChauffeCoupeeALArret, "Chauffe coupée, l'interface le confirme.",
+     "Heating off, confirmed by the interface."},
     {TexteProgramme::TableHorsFormatTitre, "La table %1 n'est pas envoyée", "Table %1 is not sent"},
     {TexteProgramme::TableHorsFormat, "La valeur de %1 ne tient pas dans une mémoire de l'interface.",
      "The value of %1 does not fit a memory of the interface."},
@@ -466,46 +479,8 @@ constexpr std::array<LigneTexte, NombreTextes> TEXTES = {{
     {TexteProgramme::Fenetre2DIgnores, "Laissé de côté : %1", "Skipped: %1"},
     {TexteProgramme::Fenetre2DAucunRecent, "Aucun fichier récent", "No recent file"},
     {TexteProgramme::Fenetre2DAideTitre, "Souris et clavier", "Mouse and keyboard"},
-    {TexteProgramme::Fenetre2DAide,
-     "Zoom : molette de la souris, touches + et -, ou Ctrl++ et Ctrl+-\r\n"
-     "Zoom sur un cadre : clic droit + glisser\r\n"
-     "Déplacement de la vue : clic molette + glisser, Shift + clic gauche + glisser, flèches, ascenseurs\r\n"
-     "Tout voir : clic molette, touche 0, ou Ctrl+0\r\n\r\n"
-     "Sélection : clic sur un tracé (Shift : ajouter, Ctrl : ajouter ou retirer), ou cadre :\r\n"
-     "tracé vers la droite, il prend les tracés entiers ; vers la gauche, tous ceux qu'il touche\r\n"
-     "Déplacer : glisser la sélection (Shift : un seul axe), ou flèches (1 mm ; Shift : 10 ; Ctrl : 0,1)\r\n"
-     "Redimensionner : glisser une poignée (Shift : proportions, Ctrl : autour du centre)\r\n"
-     "Tourner : glisser juste à l'extérieur du cadre.  Alt : valeurs rondes.  Échap : renoncer\r\n\r\n"
-     "Ctrl+Z : annuler    Ctrl+Y : rétablir    Ctrl+A : tout sélectionner    Ctrl+D : dupliquer\r\n"
-     "Ctrl+M, Ctrl+Shift+M : miroirs    Ctrl+T : quart de tour    Ctrl+Shift+R : inverser le sens\r\n"
-     "Suppr : supprimer    Inser : insérer un point    Ctrl+K : couper un tracé    F6 : simuler la "
-     "découpe\r\n"
-     "Ctrl+O : ouvrir    Ctrl+N : nouveau    Ctrl+S : enregistrer    Ctrl+Shift+S : enregistrer sous\r\n"
-     "Ctrl+B : bloc auto    F9 : découper    Ctrl+Entrée : lancer    Échap : annuler la découpe\r\n"
-     "Ctrl+E : export DXF    Ctrl+R : fichiers récents    Ctrl+I : rapport d'ouverture\r\n"
-     "Ctrl+L : bibliothèque    F5 : la relire    F7 : matières    F8 : machine\r\n"
-     "Ctrl+J : mouvements à la main    Ctrl+H : chauffer le fil    Ctrl+Shift+H : couper la chauffe\r\n"
-     "Ctrl+Shift+O : position de repos    Échap : STOP\r\n"
-     "Ctrl+U : chercher l'interface    F1 : cette aide",
-     "Zoom: mouse wheel, the + and - keys, or Ctrl++ and Ctrl+-\r\n"
-     "Zoom to a frame: right-click + drag\r\n"
-     "Pan: wheel click + drag, Shift + left-click + drag, arrow keys, scroll bars\r\n"
-     "Show all: wheel click, the 0 key, or Ctrl+0\r\n\r\n"
-     "Select: click on a path (Shift: add, Ctrl: add or remove), or a frame:\r\n"
-     "drawn to the right it takes whole paths, to the left all that it touches\r\n"
-     "Move: drag the selection (Shift: one axis only), or arrow keys (1 mm; Shift: 10; Ctrl: 0.1)\r\n"
-     "Resize: drag a handle (Shift: proportions, Ctrl: about the center)\r\n"
-     "Turn: drag just outside the box.  Alt: round values.  Esc: give up\r\n\r\n"
-     "Ctrl+Z: undo    Ctrl+Y: redo    Ctrl+A: select all    Ctrl+D: duplicate\r\n"
-     "Ctrl+M, Ctrl+Shift+M: mirrors    Ctrl+T: quarter turn    Ctrl+Shift+R: reverse\r\n"
-     "Del: delete    Ins: insert a point    Ctrl+K: cut a path in two    F6: simulate the cut\r\n"
-     "Ctrl+O: open    Ctrl+N: new    Ctrl+S: save    Ctrl+Shift+S: save as\r\n"
-     "Ctrl+B: auto block    F9: cut    Ctrl+Enter: start    Esc: cancel the cut\r\n"
-     "Ctrl+E: export DXF    Ctrl+R: recent files    Ctrl+I: opening report\r\n"
-     "Ctrl+L: library    F5: read it again    F7: materials    F8: machine\r\n"
-     "Ctrl+J: moves by hand    Ctrl+H: heat the wire    Ctrl+Shift+H: heat off\r\n"
-     "Ctrl+Shift+O: rest position    Esc: STOP\r\n"
-     "Ctrl+U: look for the interface    F1: this help"},
+    // In columns, see boites_qt.cpp.
+    {TexteProgramme::Fenetre2DAide, Aide2DFrancais, Aide2DEnglish},
     {TexteProgramme::Fenetre2DLecture, "Lecture de %1", "Reading %1"},
     {TexteProgramme::BoutonAnnuler, "Annuler", "Cancel"},
     {TexteProgramme::AtelierTableVide, "Ouvrez un fichier, ou déposez-le ici. Molette : zoom",

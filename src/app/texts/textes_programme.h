@@ -104,7 +104,16 @@ enum class TexteProgramme {
     BoitierMuet,
     MarcheAbandonnee,
     MarcheAbandonneeTitre,
-    TempsRestant,         // %1 duration
+    TempsRestant, // %1 duration
+    DecoupeArretee,
+    ReprendreDecoupe,
+    ReprendreDecoupeBulle,
+    ReglagesDecoupe,
+    RetourArrete,
+    TerminerRetour,
+    TerminerRetourBulle,
+    ReglagesRetour,
+    ChauffeCoupeeALArret,
     TableHorsFormatTitre, // %1 machine
     TableHorsFormat,      // %1 key
 

@@ -11,6 +11,7 @@
 #include "work2d/dessin_table.h"
 #include "work2d/espace2d.h"
 #include "work2d/mouvements_2d.h"
+#include "work2d/ui/panneau_course.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -43,7 +44,6 @@ class Canevas;
 class ChampNombre;
 class GardeEntrees;
 class PanneauBibliotheque;
-class PanneauCourse;
 class PanneauManuel;
 class PanneauSaisie;
 class PanneauSimulation;
@@ -195,6 +195,8 @@ private:
     bool LancerCourse(bool origineAuto, bool suite);
     void LancerSuite(GenreDecoupe genre, Sequence chemin);
     [[nodiscard]] std::string ResumeDeLaCourse() const;
+    [[nodiscard]] PanneauCourse::Arret ArretMontre() const;
+    void RevoirChauffeALArret();
     void ChangerChauffeCourse(double pourcent);
     [[nodiscard]] bool FilHorsRepos();
     void FinirCourse(const ResultatDecoupe& resultat, bool memeArret);
@@ -227,7 +229,7 @@ private:
     void MontrerMachineManuel();
     void ArreterManuel();
     void DeplacerParFleche(int x, int y);
-    // Runs one move with `etat`, a row of TextesEtats, as what is shown of it.
+    // Runs one move with `etat`, a row of TextesEtats, as what is shown of it once the wire moves.
     void Mouvoir(int etat, const std::function<FinProcedure(const SuiviMarche&)>& mouvement);
 
     // Heat by hand (frmTessarel2D_chauffe.cpp)
@@ -235,9 +237,9 @@ private:
     [[nodiscard]] SuiviChauffeManuelle SuiviFil();
     void MontrerFil();
     void AllumerFilManuel();
-    // Puts out a wire that was lit by hand. False when it may still be hot, which was told.
     // While the wire is on; where the machine has put it out by itself it stays so, and the page says it.
     void EnvoyerChauffeVoulue(double pourcent);
+    // Puts out a wire that was lit by hand. False when it may still be hot, which was told.
     bool EteindreFilManuel();
     void VeillerSurFilManuel();
     // A heat-off that was given up, whoever asked for it, goes out again as soon as the box hears.

@@ -124,9 +124,10 @@ void frmTessarel2D::RattraperCoupure() {
     if (!CoupureEnSuspens || Occupee() || m_ailleurs || m_fil.chaude || m_fil.incertaine) return;
     ChauffeManuelle abandonnee;
     abandonnee.incertaine = true;
-    if (VeillerSurFil(abandonnee, {}) == VeilleFil::Coupee)
-        AfficherInformation(Texte(TexteProgramme::ChauffeRattrapee),
-                            Texte(TexteProgramme::ChauffeRattrapeeTitre));
+    if (VeillerSurFil(abandonnee, {}) != VeilleFil::Coupee) return;
+    RevoirChauffeALArret();
+    AfficherInformation(Texte(TexteProgramme::ChauffeRattrapee),
+                        Texte(TexteProgramme::ChauffeRattrapeeTitre));
 }
 
 // Behind a box or a dialog nobody could put the wire out.

@@ -3,6 +3,7 @@
 #include "app/texts/textes.h"
 #include "app/texts/textes_programme.h"
 #include "link/commandes.h"
+#include "link/echange.h"
 #include "link/etat_interface.h"
 #include "link/marche.h"
 #include "link/rafraichir.h"
@@ -61,6 +62,7 @@ void frmTessarel2D::RafraichirInterface(QuestionMachine question) {
     {
         const Drapeau occupee(m_course.enCours); // its boxes let events run
         liaison = RafraichirUsb(TS2D, question);
+        RevoirChauffeALArret();
     }
     if (liaison.Arretee || liaison.Liaison == LiaisonZelko::LaisseeEnMarche) OublierArret();
     if (MemesValeurs(TableINI, machine)) {
@@ -128,6 +130,11 @@ SuiviDecoupe frmTessarel2D::SuiviCourse() {
         if (m_trace->Avancer(avancee)) m_panneauCourse->MontrerAvancee(avancee);
     };
     suivi.Prevenir = [this] { PrevenirSilence(); };
+    suivi.Immobile = [this](bool chauffeCoupee) {
+        if (const auto avancee = m_trace->Rattraper()) m_panneauCourse->MontrerAvancee(*avancee);
+        m_panneauCourse->MontrerImmobile();
+        if (m_course.arretee) m_panneauCourse->MontrerChauffeCoupee(chauffeCoupee);
+    };
     return suivi;
 }
 
@@ -167,13 +174,12 @@ bool frmTessarel2D::LancerCourse(bool origineAuto, bool suite) {
     ResultatDecoupe resultat;
     try {
         const Drapeau enCours(m_course.enCours);
+        const FinAlerte alerte(m_alerteInterface);
         resultat = LancerDecoupeTS2D(m_course.preparee, TableINI, origineAuto, SuiviCourse(), m_course.genre);
-        delete m_alerteInterface;
     } catch (...) {
         // Homing has nobody else to stop it. The fault itself is told further up.
         SecourirMarche();
         if (suite || FilHorsRepos()) DireApresLaFaute(AnnoncerHorsRepos);
-        delete m_alerteInterface;
         RetourAuRepos();
         MontrerLiaison();
         FermerSiDemande();
@@ -189,6 +195,19 @@ bool frmTessarel2D::FilHorsRepos() {
     constexpr std::int32_t pause = 1;
     if (m_course.salve == pause) m_course.salve = std::max(pause, DemanderStatut().NumeroSalve);
     return m_course.salve > pause;
+}
+
+PanneauCourse::Arret frmTessarel2D::ArretMontre() const {
+    return {m_course.genre, m_course.arret.NumSalveCourante, m_course.arret.chauffeCoupee,
+            m_course.preparee.resume.texte};
+}
+
+// At a stop, after a look at the link: a heat-off that the box had not confirmed may be by now.
+void frmTessarel2D::RevoirChauffeALArret() {
+    if (!m_course.arretee || m_course.arret.chauffeCoupee || !InterfaceConnectee || ChauffePeutEtreActive())
+        return;
+    m_course.arret.chauffeCoupee = !BoutonChauffeLeFil().value_or(true);
+    m_panneauCourse->MontrerChauffeCoupee(m_course.arret.chauffeCoupee);
 }
 
 std::string frmTessarel2D::ResumeDeLaCourse() const {
@@ -208,7 +227,13 @@ void frmTessarel2D::ChangerChauffeCourse(double pourcent) {
 // `memeArret`: the rest of a cut did not begin to move, and the operator decides again.
 void frmTessarel2D::FinirCourse(const ResultatDecoupe& resultat, bool memeArret) {
     if (memeArret) {
-        AttendreOperateur(m_course.arret);
+        ResultatDecoupe arret = m_course.arret;
+        if (resultat.fin == FinDecoupe::StopAvantDecoupe)
+            arret.chauffeCoupee = resultat.chauffeCoupee;
+        else if (ChauffePeutEtreActive()) // refused, the wire is as it was; but the box may not have heard P
+                                          // 0
+            arret.chauffeCoupee = false;
+        AttendreOperateur(arret);
     } else if (resultat.fin == FinDecoupe::Arretee) {
         const PasAxes& pas = resultat.PositionStop.pas;
         m_trace->Arreter(resultat.NumSalveCourante, {MillimetresDePas(TableINI, AxeX1, pas[AxeX1]),
@@ -235,7 +260,7 @@ void frmTessarel2D::AttendreOperateur(const ResultatDecoupe& resultat) {
     m_course.arretee = true;
     m_course.arret = resultat;
     cmdRafraichirUsbTS2D->setEnabled(true); // a box that was unplugged is found again
-    m_panneauCourse->MontrerArret(resultat.NumSalveCourante);
+    m_panneauCourse->MontrerArret(ArretMontre());
     pctDecoupe->setFocus(); // whoever still presses the key of Stop presses nothing
 }
 
@@ -248,6 +273,7 @@ bool frmTessarel2D::LiaisonPermetLaSuite() {
     {
         const Drapeau occupee(m_course.enCours);
         liaison = VerifierLiaison();
+        RevoirChauffeALArret();
     }
     MontrerLiaison();
     if (liaison == AvantDecoupe::LaisseeEnMarche || liaison == AvantDecoupe::MachineArretee) OublierArret();
@@ -290,7 +316,7 @@ void frmTessarel2D::LancerSuite(GenreDecoupe genre, Sequence chemin) {
     m_course.decoupe.SequenceDecoupe = std::move(cheminArrete);
     m_course.preparee = std::move(arretee);
     m_trace->Commencer(m_course.decoupe.SequenceDecoupe, m_course.genre, true);
-    m_panneauCourse->RevenirALArret(ResumeDeLaCourse());
+    m_panneauCourse->RevenirALArret(ArretMontre());
 }
 
 void frmTessarel2D::AbandonnerDecoupe() {
@@ -299,11 +325,10 @@ void frmTessarel2D::AbandonnerDecoupe() {
     try {
         const GardeEntrees garde = GarderCourse();
         const Drapeau occupee(m_course.enCours);
+        const FinAlerte alerte(m_alerteInterface);
         AnnulerReprise(SuiviCourse());
-        delete m_alerteInterface;
     } catch (...) {
         SecourirMarche();
-        delete m_alerteInterface;
         throw; // the operator may give up again
     }
     RetourAuRepos();

@@ -4,6 +4,7 @@
 #include "link/etat_interface.h"
 #include "link/marche.h"
 #include "platform/dialogue.h"
+#include "ui/alerte.h"
 #include "ui/boites_qt.h"
 #include "ui/garde_entrees.h"
 #include "work2d/mouvements_2d.h"
@@ -18,6 +19,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace tessarel {
 
@@ -92,8 +94,8 @@ void frmTessarel2D::DeplacerParFleche(int x, int y) {
                           : y == 0 ? TableINI.CourseX
                                    : std::min(TableINI.CourseX, TableINI.CourseY);
     Mouvoir(EtatMouvement, [&](SuiviMarche suivi) {
-        suivi.Avancer = [this](const AvanceeMarche&) {
-            delete m_alerteInterface;
+        suivi.Avancer = [this, montrer = suivi.Avancer](const AvanceeMarche& avancee) {
+            montrer(avancee);
             if (!m_panneauManuel->FlecheTenue()) m_course.demandes.StopDemande = true;
         };
         std::optional<FilEnMarche> marche(std::in_place, m_fil, m_course.demandes);
@@ -129,11 +131,10 @@ void frmTessarel2D::Mouvoir(int etat, const std::function<FinProcedure(const Sui
     PermettreCommandes(false);
     std::optional<GardeEntrees> garde(std::in_place, std::vector<const QWidget*>{m_panneauManuel},
                                       [this] { ArreterManuel(); });
-    m_vues->setEnabled(false); // a box of the workshop would stand before Stop
-    m_panneauManuel->MontrerMouvement(true, TexteAffiche(TextesEtats(etat)));
+    m_vues->setEnabled(false);               // a box of the workshop would stand before Stop
+    m_panneauManuel->MontrerMouvement(true); // without a word: it may be refused, or declined
     const auto finir = [this, &garde] {
         m_course.enCours = false;
-        delete m_alerteInterface;
         garde.reset();
         m_panneauManuel->MontrerMouvement(false);
         m_vues->setEnabled(true);
@@ -142,8 +143,13 @@ void frmTessarel2D::Mouvoir(int etat, const std::function<FinProcedure(const Sui
     m_course.enCours = true;
     FinProcedure fin = FinProcedure::Echouee;
     try {
+        const FinAlerte alerte(m_alerteInterface);
         SuiviMarche suivi = SuiviDeMarche(SuiviCourse());
-        suivi.Avancer = [this](const AvanceeMarche&) { delete m_alerteInterface; };
+        suivi.Avancer = [this, mots = TexteAffiche(TextesEtats(etat)),
+                         bouge = false](const AvanceeMarche&) mutable {
+            delete m_alerteInterface; // it answers
+            if (!std::exchange(bouge, true)) m_panneauManuel->MontrerEtat(mots);
+        };
         fin = mouvement(suivi);
     } catch (...) {
         SecourirFil(m_fil, SuiviFil());

@@ -26,6 +26,8 @@ constexpr int Colonnes = 3;
 constexpr float EpaisseurNormale = 2;
 constexpr float EpaisseurForte = 4;
 constexpr float EpaisseurOmbre = 7;
+constexpr double Tiret = 0.24; // of the width; the gaps share what three of them leave
+constexpr std::size_t LignesSansRetour = 6;
 
 // A line across the sample, from one part of its width to another.
 struct Trait {
@@ -42,7 +44,11 @@ std::vector<std::vector<Trait>> Traits() {
             {{CouleurSortie}},
             {{CouleurEntree, EpaisseurForte, 0, 0.5}, {CouleurSortie, EpaisseurForte, 0.5, 1}},
             {{CouleurDejaCoupe, EpaisseurForte}},
-            {{CouleurOmbre, EpaisseurOmbre}, {CouleurSegmentCoupe, EpaisseurForte}}};
+            {{CouleurOmbre, EpaisseurOmbre}, {CouleurSegmentCoupe, EpaisseurForte}},
+            // The way back: the colour of what is cut, in dashes.
+            {{CouleurDejaCoupe, EpaisseurNormale, 0, Tiret},
+             {CouleurDejaCoupe, EpaisseurNormale, (1 - Tiret) / 2, (1 + Tiret) / 2},
+             {CouleurDejaCoupe, EpaisseurNormale, 1 - Tiret, 1}}};
 }
 
 QPixmap Echantillon(std::span<const Trait> traits, bool sombre, qreal densite) {
@@ -61,8 +67,10 @@ QPixmap Echantillon(std::span<const Trait> traits, bool sombre, qreal densite) {
 
 } // namespace
 
-LegendeDecoupe::LegendeDecoupe(QWidget* parent) : QWidget(parent) {
-    setObjectName(QStringLiteral("frameLegende"));
+LegendeDecoupe::LegendeDecoupe(const char* page, bool avecRetour, QWidget* parent)
+    : QWidget(parent), m_echantillons(LignesSansRetour + (avecRetour ? 1 : 0)) {
+    const QString suite = QString::fromLatin1(page);
+    setObjectName(QStringLiteral("frameLegende") + suite);
     auto* grille = new QGridLayout(this);
     grille->setContentsMargins(0, 0, 0, 0);
     grille->setHorizontalSpacing(6);
@@ -70,10 +78,10 @@ LegendeDecoupe::LegendeDecoupe(QWidget* parent) : QWidget(parent) {
     for (std::size_t i = 0; i < m_echantillons.size(); ++i) {
         const int rang = static_cast<int>(i);
         m_echantillons[i] = new QLabel;
-        m_echantillons[i]->setObjectName(QStringLiteral("imgLegende_%1").arg(i));
+        m_echantillons[i]->setObjectName(QStringLiteral("imgLegende%1_%2").arg(suite).arg(i));
         m_echantillons[i]->setFixedSize(Largeur, Hauteur);
         auto* mot = new QLabel;
-        mot->setObjectName(QStringLiteral("lblLegende_%1").arg(i));
+        mot->setObjectName(QStringLiteral("lblLegende%1_%2").arg(suite).arg(i));
         grille->addWidget(m_echantillons[i], rang / Colonnes, 2 * (rang % Colonnes));
         grille->addWidget(mot, rang / Colonnes, 2 * (rang % Colonnes) + 1);
     }

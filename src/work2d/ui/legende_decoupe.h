@@ -1,20 +1,18 @@
 // The legend of the cut: a sample of each line as the canvas draws it, and its word.
 #pragma once
 
-#include "platform/dessin.h"
-
 #include <QWidget>
-#include <array>
+#include <vector>
 
 class QLabel;
 
 namespace tessarel {
 
-// Samples `imgLegende_0` to `_5` on a chip of foam, captions `lblLegende_0` to `_5`: entry, cut, exit, rapid,
-// already cut, under way. It follows the palette.
+// Samples `imgLegende<page>_0` and on on a chip of foam, captions `lblLegende<page>_0` and on: entry, cut,
+// exit, rapid, already cut, under way, and where it is drawn the way back. It follows the palette.
 class LegendeDecoupe : public QWidget {
 public:
-    explicit LegendeDecoupe(QWidget* parent = nullptr);
+    explicit LegendeDecoupe(const char* page = "", bool avecRetour = false, QWidget* parent = nullptr);
 
 protected:
     void changeEvent(QEvent* evenement) override;
@@ -22,7 +20,7 @@ protected:
 private:
     void Peindre();
 
-    std::array<QLabel*, 6> m_echantillons{};
+    std::vector<QLabel*> m_echantillons;
 };
 
 } // namespace tessarel

@@ -7,7 +7,6 @@
 #include "ui/boites_qt.h"
 #include "ui/icones.h"
 #include "ui/nommer.h"
-#include "ui/theme.h"
 #include "work2d/ui/style_2d.h"
 
 #include <QButtonGroup>
@@ -27,21 +26,7 @@ namespace {
 constexpr int MessagesChauffe = 190; // "Chauffe "
 constexpr int BarrePleine = 1000;
 constexpr int HauteurOption = 36; // pixels
-constexpr int HauteurSigne = 34;
 constexpr int PeriodeTempo = 100; // ms
-// Slow enough not to be a flicker, fast enough to be seen from the corner of the eye.
-constexpr int PeriodeClignotement = 500;
-
-// The two faces of the sign, both readable on any ground.
-QString StyleSigne(bool plein) {
-    const QString fil = CouleurFil().name();
-    return plein ? QStringLiteral("QLabel { background: %1; color: white; border: 2px solid %1; "
-                                  "border-radius: 6px; }")
-                       .arg(fil)
-                 : QStringLiteral("QLabel { background: transparent; color: %1; border: 2px solid %2; "
-                                  "border-radius: 6px; }")
-                       .arg(CouleurAlerte().name(), fil);
-}
 
 } // namespace
 
@@ -79,13 +64,7 @@ PanneauChauffe::PanneauChauffe(QWidget* parent) : QGroupBox(parent) {
     progrbarChauffeManu = Nommer(new QProgressBar, "progrbarChauffeManu");
     progrbarChauffeManu->setRange(0, BarrePleine);
     pose->addWidget(progrbarChauffeManu);
-    lblFilChaud = Nommer(new QLabel, "lblFilChaud");
-    lblFilChaud->setAlignment(Qt::AlignCenter);
-    lblFilChaud->setMinimumHeight(HauteurSigne);
-    QFont police = lblFilChaud->font();
-    police.setBold(true);
-    police.setPointSizeF(police.pointSizeF() * 1.2);
-    lblFilChaud->setFont(police);
+    lblFilChaud = new SigneFil("lblFilChaud", "TimerClignotement");
     pose->addWidget(lblFilChaud);
     // What stands below keeps its place: a hand may be on its way to it.
     for (QWidget* passager :
@@ -96,14 +75,8 @@ PanneauChauffe::PanneauChauffe(QWidget* parent) : QGroupBox(parent) {
     }
     TimerTempoChauffeManu.setObjectName(QStringLiteral("TimerTempoChauffeManu"));
     TimerTempoChauffeManu.setInterval(PeriodeTempo);
-    TimerClignotement.setObjectName(QStringLiteral("TimerClignotement"));
-    TimerClignotement.setInterval(PeriodeClignotement);
     connect(&TimerTempoChauffeManu, &QTimer::timeout, this, &PanneauChauffe::MontrerTempo);
-    connect(&TimerClignotement, &QTimer::timeout, this, [this] {
-        m_plein = !m_plein;
-        MontrerSigne();
-        emit Battement();
-    });
+    connect(lblFilChaud, &SigneFil::Battement, this, &PanneauChauffe::Battement);
     connect(optChauffe[0], &QToolButton::pressed, this, &PanneauChauffe::CoupureDemandee); // at once
     connect(optChauffe[1], &QToolButton::clicked, this, &PanneauChauffe::AllumageDemande);
     connect(hscChauffeFilManuel, &QScrollBar::valueChanged, this, [this] {
@@ -142,15 +115,9 @@ void PanneauChauffe::MontrerFil(Fil fil, int secondes) {
         TimerTempoChauffeManu.stop();
     }
     m_fil = fil;
-    if (fil == Fil::Froid) {
-        TimerClignotement.stop();
-    } else if (!TimerClignotement.isActive()) {
-        m_plein = true;
-        TimerClignotement.start();
-    }
     progrbarChauffeManu->setVisible(chaud);
     if (chaud) MontrerTempo();
-    MontrerSigne();
+    lblFilChaud->Montrer(fil);
 }
 
 void PanneauChauffe::MontrerTempo() {
@@ -165,14 +132,6 @@ void PanneauChauffe::MontrerTempo() {
     const auto restantes = static_cast<int>(std::ceil(m_secondes - faites));
     progrbarChauffeManu->setFormat(TexteAffiche(TextesMessages(MessagesChauffe) + std::to_string(restantes) +
                                                 "/" + std::to_string(m_secondes) + " s"));
-}
-
-void PanneauChauffe::MontrerSigne() {
-    lblFilChaud->setVisible(m_fil != Fil::Froid);
-    if (m_fil == Fil::Froid) return;
-    lblFilChaud->setText(TexteAffiche(
-        Texte(m_fil == Fil::Chaud ? TexteProgramme::SigneFilChaud : TexteProgramme::SigneFilIncertain)));
-    lblFilChaud->setStyleSheet(StyleSigne(m_plein));
 }
 
 } // namespace tessarel

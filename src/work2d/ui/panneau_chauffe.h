@@ -2,6 +2,8 @@
 // blinks for as long as the wire may be hot.
 #pragma once
 
+#include "work2d/ui/signe_fil.h"
+
 #include <QGroupBox>
 #include <QTimer>
 #include <array>
@@ -20,11 +22,7 @@ class PanneauChauffe : public QGroupBox {
 public:
     explicit PanneauChauffe(QWidget* parent = nullptr);
 
-    enum class Fil {
-        Froid,
-        Chaud,
-        Incertain // switched off, and nobody confirmed it
-    };
+    using Fil = EtatFil;
 
     // Percent: at the start, and at most.
     void MontrerMachine(double chauffe, double chauffeMaxi);
@@ -45,19 +43,16 @@ signals:
 private:
     void MontrerPourcent();
     void MontrerTempo();
-    void MontrerSigne();
 
     Fil m_fil = Fil::Froid;
-    bool m_plein = false; // which of its two faces the sign shows
     int m_secondes = 0;
     std::chrono::nanoseconds m_depart{0}; // of the countdown, on the program's clock
     QTimer TimerTempoChauffeManu{this};
-    QTimer TimerClignotement{this};
     std::array<QToolButton*, 2> optChauffe{};
     QScrollBar* hscChauffeFilManuel = nullptr;
     QLabel* lblValeurChauffeManuel = nullptr;
     QProgressBar* progrbarChauffeManu = nullptr;
-    QLabel* lblFilChaud = nullptr;
+    SigneFil* lblFilChaud = nullptr;
 };
 
 } // namespace tessarel

@@ -2,10 +2,14 @@
 #include "work2d/ui/panneau_course.h"
 
 #include "app/texts/textes.h"
+#include "app/texts/textes_programme.h"
 #include "platform/nombres.h"
 #include "ui/boites_qt.h"
 #include "ui/nommer.h"
 #include "ui/place_libelle.h"
+#include "work2d/resume.h"
+#include "work2d/ui/legende_decoupe.h"
+#include "work2d/ui/signe_fil.h"
 #include "work2d/ui/style_2d.h"
 
 #include <QGroupBox>
@@ -30,6 +34,7 @@ constexpr int MessagesAvancee = 190;           // "Chauffe ", and its title "Dé
 constexpr double PasParPourcent = 2;
 constexpr int BarrePleine = 1000;
 constexpr int HauteurBouton = 40; // pixels
+constexpr int LignesResume = 4;
 
 QPushButton* Bouton(const char* nom, bool gras = false) {
     auto* bouton = Nommer(new QPushButton, nom);
@@ -51,7 +56,6 @@ QPushButton* BoutonStop(const char* nom) {
 QProgressBar* Barre(const char* nom) {
     auto* barre = Nommer(new QProgressBar, nom);
     barre->setRange(0, BarrePleine);
-    barre->setTextVisible(false);
     return barre;
 }
 
@@ -63,6 +67,7 @@ PanneauCourse::PanneauCourse(QWidget* parent) : QWidget(parent) {
     page->addWidget(DisposerEtat());
     page->addWidget(DisposerChauffe());
     page->addWidget(DisposerReprise());
+    page->addWidget(new LegendeDecoupe("Course", true));
     page->addStretch(1);
     cmdSTOP = BoutonStop("cmdSTOP");
     cmdStopRetourApresReprise = BoutonStop("cmdStopRetourApresReprise");
@@ -87,12 +92,14 @@ QGroupBox* PanneauCourse::DisposerEtat() {
     pose->addWidget(m_avertissement);
     progrbarChauffe = Barre("progrbarChauffe");
     progrbarDecoupe = Barre("progrbarDecoupe");
-    progrbarDecoupe->setTextVisible(true);
     pose->addWidget(progrbarChauffe);
     pose->addWidget(progrbarDecoupe);
     lblResumeCourse = Nommer(new QLabel, "lblResumeCourse");
     lblResumeCourse->setWordWrap(true);
     lblResumeCourse->setTextFormat(Qt::PlainText);
+    // Its heading comes and goes: nothing below moves for it.
+    lblResumeCourse->setMinimumHeight(LignesResume * lblResumeCourse->fontMetrics().lineSpacing());
+    lblResumeCourse->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     pose->addWidget(lblResumeCourse);
     return groupe;
 }
@@ -128,6 +135,13 @@ QGroupBox* PanneauCourse::DisposerReprise() {
     auto* pose = new QVBoxLayout(pctRepriseDecoupe);
     lblNumSegmentStop = Nommer(new QLabel, "lblNumSegmentStop");
     pose->addWidget(lblNumSegmentStop);
+    lblFilArret = new SigneFil("lblFilArret", "TimerFilArret");
+    lblChauffeArret = Nommer(new QLabel, "lblChauffeArret");
+    lblChauffeArret->setWordWrap(true);
+    // The buttons below keep their place when one takes over from the other.
+    lblChauffeArret->setMinimumHeight(lblFilArret->minimumHeight());
+    pose->addWidget(lblFilArret);
+    pose->addWidget(lblChauffeArret);
     cmdRepriseDecoupe = Bouton("cmdRepriseDecoupe", true);
     pose->addWidget(cmdRepriseDecoupe);
     pose->addSpacing(12);
@@ -201,6 +215,7 @@ void PanneauCourse::MontrerPhase(PhaseDecoupe phase) {
     case PhaseDecoupe::Chauffe:
         m_avertissement->Ecrire(TexteAffiche(TextesMessages(MessagesMiseEnTemperature)));
         progrbarChauffe->setValue(0);
+        progrbarChauffe->setFormat({});
         progrbarChauffe->show();
         break;
     case PhaseDecoupe::Decoupe:
@@ -223,6 +238,8 @@ void PanneauCourse::MontrerAvancee(const AvanceeDecoupe& avancee) {
                                              std::to_string(avancee.secondesRestantes) + "/" +
                                              std::to_string(avancee.secondesChauffe)));
         progrbarChauffe->setValue(static_cast<int>(avancee.fraction * BarrePleine));
+        progrbarChauffe->setFormat(TexteAffiche(
+            TexteRempli(TexteProgramme::TempsRestant, {TexteDureeResume(avancee.secondesRestantes)})));
         return;
     }
     m_avertissement->Ecrire(TexteAffiche(TitresMessages(MessagesAvancee) +
@@ -232,17 +249,40 @@ void PanneauCourse::MontrerAvancee(const AvanceeDecoupe& avancee) {
     progrbarDecoupe->setFormat(TexteAffiche(TexteTempsRestant(avancee)));
 }
 
-void PanneauCourse::MontrerArret(std::int32_t numero) {
+void PanneauCourse::MontrerImmobile() {
     PermettreStop(false);
-    progrbarChauffe->hide();
     optChauffePendantDecoupe->hide();
+    if (progrbarChauffe->isHidden()) return;
+    progrbarChauffe->hide();
+    m_avertissement->Ecrire({}); // it heats no more
+}
+
+void PanneauCourse::MontrerArret(const Arret& arret) {
+    MontrerImmobile();
     m_avertissement->Ecrire(TexteAffiche(TextesEtats(EtatArrete)));
-    lblNumSegmentStop->setText(TexteAffiche(TitresMessages(MessagesArret) + std::to_string(numero)));
+    lblNumSegmentStop->setText(TexteAffiche(TitresMessages(MessagesArret) + std::to_string(arret.numero)));
+    const bool retour = arret.genre == GenreDecoupe::Retour;
+    const auto dire = [retour](TexteProgramme duRetour, TexteProgramme deLaDecoupe) {
+        return TexteAffiche(Texte(retour ? duRetour : deLaDecoupe));
+    };
+    pctRepriseDecoupe->setTitle(dire(TexteProgramme::RetourArrete, TexteProgramme::DecoupeArretee));
+    cmdRepriseDecoupe->setText(dire(TexteProgramme::TerminerRetour, TexteProgramme::ReprendreDecoupe));
+    cmdRepriseDecoupe->setToolTip(
+        dire(TexteProgramme::TerminerRetourBulle, TexteProgramme::ReprendreDecoupeBulle));
+    MontrerChauffeCoupee(arret.chauffeCoupee);
+    MontrerResume(Texte(retour ? TexteProgramme::ReglagesRetour : TexteProgramme::ReglagesDecoupe) + "\r\n" +
+                  arret.resume);
     pctRepriseDecoupe->show();
 }
 
-void PanneauCourse::RevenirALArret(const std::string& resume) {
-    MontrerResume(resume);
+void PanneauCourse::MontrerChauffeCoupee(bool coupee) {
+    lblFilArret->Montrer(coupee ? EtatFil::Froid : EtatFil::Incertain);
+    lblChauffeArret->setText(TexteAffiche(Texte(TexteProgramme::ChauffeCoupeeALArret)));
+    lblChauffeArret->setVisible(coupee);
+}
+
+void PanneauCourse::RevenirALArret(const Arret& arret) {
+    MontrerArret(arret);
     if (m_avancait) progrbarDecoupe->show(); // nothing has moved it since
 }
 
@@ -252,6 +292,7 @@ void PanneauCourse::Finir() {
     optChauffePendantDecoupe->hide();
     progrbarChauffe->hide();
     progrbarDecoupe->hide();
+    lblFilArret->Montrer(EtatFil::Froid);
     m_avertissement->Ecrire({});
     lblNumSegmentStop->clear();
 }

@@ -17,6 +17,7 @@ class QVBoxLayout;
 namespace tessarel {
 
 class PlaceLibelle;
+class SigneFil;
 
 // Shows and asks, drives nothing: its signals come while the loop of the run lets events go, so whoever hears
 // them sets flags, but for those of the stop panel, which come when the run has ended.
@@ -36,12 +37,21 @@ public:
     void MontrerResume(const std::string& resume);
     void MontrerPhase(PhaseDecoupe phase);
     void MontrerAvancee(const AvanceeDecoupe& avancee);
-    // The run stands in frame `numero`: the operator decides. None of its buttons gets the keyboard: the key
-    // that pressed Stop must not start anything.
-    void MontrerArret(std::int32_t numero);
-    // What was begun after that stop has not moved: the page shows the stop again, with the summary of what
-    // was stopped.
-    void RevenirALArret(const std::string& resume);
+    // The wire stands for good, and a box is about to tell why: nothing is left to stop or to change.
+    void MontrerImmobile();
+    // The run of `genre` stands in frame `numero`: the operator decides. None of its buttons gets the
+    // keyboard: the key that pressed Stop must not start anything.
+    struct Arret {
+        GenreDecoupe genre = GenreDecoupe::Decoupe;
+        std::int32_t numero = 0;
+        bool chauffeCoupee = false; // confirmed
+        std::string resume;         // of what was stopped
+    };
+    void MontrerArret(const Arret& arret);
+    // At a stop.
+    void MontrerChauffeCoupee(bool coupee);
+    // What was begun after a stop has not moved: the page shows that stop again.
+    void RevenirALArret(const Arret& arret);
     // Nothing runs, nothing waits.
     void Finir();
 
@@ -75,6 +85,8 @@ private:
     QPushButton* cmdStopRetourApresReprise = nullptr;
     QGroupBox* pctRepriseDecoupe = nullptr;
     QLabel* lblNumSegmentStop = nullptr;
+    QLabel* lblChauffeArret = nullptr; // one of these two stands there
+    SigneFil* lblFilArret = nullptr;
     QPushButton* cmdRepriseDecoupe = nullptr;
     std::array<QRadioButton*, 2> optTrajetRetour{};
     QPushButton* cmdLancerRetourApresStop = nullptr;

@@ -27,6 +27,7 @@ void TraceCourse::Commencer(const Sequence& sequence, GenreDecoupe genre, bool r
     m_passes = 0;
     m_retour = genre == GenreDecoupe::Retour;
     m_enDecoupe = false;
+    m_attendue.reset();
     MontrerFaits();
     MontrerFil();
 }
@@ -36,14 +37,28 @@ bool TraceCourse::Avancer(const AvanceeDecoupe& avancee) {
     const Instant maintenant = Maintenant();
     const bool change = decoupe != m_enDecoupe;
     m_enDecoupe = decoupe;
-    if (!change && maintenant - m_dernierTrace < EntreDeuxTraces) return false;
+    if (!change && maintenant - m_dernierTrace < EntreDeuxTraces) {
+        m_attendue = avancee;
+        return false;
+    }
     m_dernierTrace = maintenant;
-    if (!decoupe) return true;
+    MontrerAvancee(avancee);
+    return true;
+}
+
+std::optional<AvanceeDecoupe> TraceCourse::Rattraper() {
+    const std::optional<AvanceeDecoupe> attendue = m_attendue;
+    if (attendue) MontrerAvancee(*attendue);
+    return attendue;
+}
+
+void TraceCourse::MontrerAvancee(const AvanceeDecoupe& avancee) {
+    m_attendue.reset();
+    if (avancee.phase == PhaseDecoupe::Chauffe) return;
     Passer(avancee.NumSalveCourante);
     Dessin dessin;
     DessinerSegmentEnCours(dessin, {avancee.XDebut, avancee.YDebut}, {avancee.X1, avancee.Y1});
     m_canevas.Montrer(Canevas::CoucheOutil, std::move(dessin));
-    return true;
 }
 
 void TraceCourse::Arreter(std::int32_t numero, PointDessin fil) {

@@ -25,6 +25,8 @@ public:
     void Commencer(const Sequence& sequence, GenreDecoupe genre, bool reprise);
     // True when it was time to show it; what is not shown counts with the next one.
     bool Avancer(const AvanceeDecoupe& avancee);
+    // Shows the last one that was not, where there is one, and gives it.
+    std::optional<AvanceeDecoupe> Rattraper();
     // The run stands in frame `numero`, the wire at `fil`, mm. It stays there until one that goes on moves
     // it.
     void Arreter(std::int32_t numero, PointDessin fil);
@@ -36,6 +38,7 @@ private:
     void MontrerFaits();
     void MontrerFil();
     void Passer(std::int32_t numero);
+    void MontrerAvancee(const AvanceeDecoupe& avancee);
 
     Canevas& m_canevas;
     std::vector<PointDessin> m_chemin; // of this run
@@ -46,6 +49,7 @@ private:
     bool m_retour = false;
     bool m_enDecoupe = false;
     Instant m_dernierTrace{};
+    std::optional<AvanceeDecoupe> m_attendue; // not shown yet
 };
 
 } // namespace tessarel
