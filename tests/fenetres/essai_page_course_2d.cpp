@@ -55,6 +55,15 @@ struct Page : Coupe {
         commutateurs.chauffeManu = surManu;
         virtuelle.boite->FixerCommutateurs(commutateurs);
     }
+    // The cut is stopped while the knob of the box heats the wire.
+    void ArreterSurManu() {
+        Quand(QStringLiteral("Découpe segment n°4/"), [this] {
+            Manu(true);
+            poste.Cliquer<QPushButton>("cmdSTOP");
+        });
+        Lancer();
+        virtuelle.SurPompe = {};
+    }
     // The cut is stopped, and so is its return.
     void ArreterLeRetour() {
         Arreter();
@@ -187,12 +196,7 @@ void EssaiPageCourse2D::UnArretDitLeFilFroid() {
 // The knob of the box heats the wire: no command puts that out.
 void EssaiPageCourse2D::UnFilPeutEtreChaudLeResteJusquALaConfirmation() {
     Page page;
-    page.Quand(QStringLiteral("Découpe segment n°4/"), [&] {
-        page.Manu(true);
-        page.poste.Cliquer<QPushButton>("cmdSTOP");
-    });
-    page.Lancer();
-    page.virtuelle.SurPompe = {};
+    page.ArreterSurManu();
     QVERIFY(page.fait && page.Arretee() && page.Dit(IconeBoite::Critique));
     QVERIFY(page.DitPeutEtreChaud());
     auto& rafraichir = page.poste.Trouver<QToolButton>("cmdRafraichirUsbTS2D");
@@ -205,12 +209,7 @@ void EssaiPageCourse2D::UnFilPeutEtreChaudLeResteJusquALaConfirmation() {
 
 void EssaiPageCourse2D::AbandonnerEteintLeSigneAvantSaBoite() {
     Page page;
-    page.Quand(QStringLiteral("Découpe segment n°4/"), [&] {
-        page.Manu(true);
-        page.poste.Cliquer<QPushButton>("cmdSTOP");
-    });
-    page.Lancer();
-    page.virtuelle.SurPompe = {};
+    page.ArreterSurManu();
     QVERIFY(page.DitPeutEtreChaud());
     page.Manu(false);
     bool vue = false;

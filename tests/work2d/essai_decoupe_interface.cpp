@@ -40,6 +40,14 @@ std::array<std::uint64_t, 4> PasDuChemin(const TrajetPas& trajet) {
     return pas;
 }
 
+TableMachine TableDe320PasParMm() {
+    TableMachine table;
+    table.PasParTour = {12800, 12800, 12800, 12800, 0};
+    table.MmParTour = {40, 40, 40, 40};
+    table.Frequence = 50000;
+    return table;
+}
+
 // Stops anywhere in the path and resumes. False where the stop was not in the cut.
 bool ReprendreApres(std::uint64_t n) {
     Poste poste;
@@ -284,9 +292,7 @@ TEST(DecoupeInterface, SansMouvementsActifsRefuseEtLeDit) {
 
 TEST(Reprise, GardeLaSuiteDuChemin) {
     const Decoupe2D d = PetiteDecoupe();
-    TableMachine table;
-    table.PasParTour = {12800, 12800, 12800, 12800, 0};
-    table.MmParTour = {40, 40, 40, 40};
+    TableMachine table = TableDe320PasParMm();
     // Frame 5 goes from vertex 4 to vertex 5, counted from 1.
     const Sequence s = SequenceDeReprise(d.SequenceDecoupe, 5, {640, 448, 640, 448}, 4, table);
     ASSERT_EQ(s.Points.size(), 5U); // 8 less 5 - 2
@@ -304,10 +310,7 @@ TEST(Reprise, GardeLaSuiteDuChemin) {
 // Stopped on the second of two rapid segments, the wire stands still: the rest of it starts at the cutting
 // speed, which no motor needs a ramp for, and the next rapid one has its own ramp.
 TEST(Reprise, UnSegmentRapideRepartALaVitesseDeDecoupe) {
-    TableMachine table;
-    table.PasParTour = {12800, 12800, 12800, 12800, 0};
-    table.MmParTour = {40, 40, 40, 40};
-    table.Frequence = 50000;
+    TableMachine table = TableDe320PasParMm();
     table.VmaxSansAccXY = 5;
     table.VitesseRapide = 8;
     Sequence s;
@@ -359,10 +362,7 @@ TEST(Reprise, DesBoutsDePasInegauxRestentChacunASaPlace) {
 }
 
 TEST(Preparation, LaDureeEstLaSommeDesSalves) {
-    TableMachine table;
-    table.PasParTour = {12800, 12800, 12800, 12800, 0};
-    table.MmParTour = {40, 40, 40, 40};
-    table.Frequence = 50000;
+    TableMachine table = TableDe320PasParMm();
     table.TempoChauffe = 25;
     Decoupe2D retour;
     // From (30, 40) to its middle and on to the origin: 50 mm at 4 mm/s are 12.5 s, and half goes to even.
@@ -404,9 +404,7 @@ TEST(DecoupeInterface, UnePauseSeuleFinitCommeUneDecoupe) {
 }
 
 TEST(Reprise, RetourDirectOuParLeBord) {
-    TableMachine table;
-    table.PasParTour = {12800, 12800, 12800, 12800, 0};
-    table.MmParTour = {40, 40, 40, 40};
+    TableMachine table = TableDe320PasParMm();
     table.CourseY = 510;
     const PasAxes position = {3200, 6400, 3200, 6400}; // (10, 20)
     Sequence s = SequenceDeRetour(5, position, TrajetRetour::Direct, 4, table);
